@@ -1,0 +1,35 @@
+# Compiler settings that every target of the project shares, carried by the
+# interface target hoopline_options.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+add_library(hoopline_options INTERFACE)
+target_compile_definitions(hoopline_options INTERFACE
+    QT_NO_FOREACH
+    QT_NO_JAVA_STYLE_ITERATORS)
+target_compile_options(hoopline_options INTERFACE
+    -Wall -Wextra -Wpedantic
+    -Wextra-semi -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override -Wduplicated-cond -Wlogical-op -Wshadow=local>)
+if(HOOPLINE_WERROR)
+    target_compile_options(hoopline_options INTERFACE -Werror)
+endif()
+if(HOOPLINE_SANITIZE)
+    target_compile_options(hoopline_options INTERFACE
+        -fsanitize=${HOOPLINE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(hoopline_options INTERFACE -fsanitize=${HOOPLINE_SANITIZE})
+endif()
