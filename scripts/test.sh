@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the project for development and runs every test.
+# Arguments go to ctest, for instance: scripts/test.sh -R tst_dstreader
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
+
+# The last four are what the tests themselves call upon: a FAT file system for the
+# transfer, certificates, and the validators of the desktop files.
+install_missing "${build_packages[@]}" \
+    dosfstools openssl desktop-file-utils appstream
+
+build dev
+
+# The fuzz targets need clang and its runtime; where these are not at hand the
+# readers' tests still run over the regression files that fuzzing found.
+if command -v clang++ >/dev/null &&
+    echo 'extern "C" int LLVMFuzzerTestOneInput(const unsigned char *, unsigned long) { return 0; }' |
+    clang++ -x c++ -fsanitize=fuzzer -o /dev/null - 2>/dev/null; then
+    "$root/fuzz/run.sh" 5
+else
+    echo "The fuzz targets are left out: clang or its fuzzer runtime is missing."
+fi
+
+cd "$root/build/dev"
+exec ctest --output-on-failure --parallel "$(nproc)" "$@"
