@@ -1,0 +1,3 @@
+#include "app/base/EmptyProgressListener.h"
+
+EmptyProgressListener emptyProgressListener;
