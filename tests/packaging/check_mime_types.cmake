@@ -1,0 +1,13 @@
+# Builds a MIME database of our own types alone and looks for all eight in it.
+file(REMOVE_RECURSE "${FOLDER}")
+file(COPY "${SOURCE}" DESTINATION "${FOLDER}/packages")
+execute_process(COMMAND "${PROGRAM}" "${FOLDER}" RESULT_VARIABLE result ERROR_VARIABLE errors)
+if(result OR errors)
+    message(FATAL_ERROR "update-mime-database: ${result} ${errors}")
+endif()
+foreach(extension IN ITEMS pes pec dst exp xxx jef sew hus)
+    file(STRINGS "${FOLDER}/globs2" found REGEX "x-embroidery-${extension}:\\*\\.${extension}$")
+    if(NOT found)
+        message(FATAL_ERROR "*.${extension} has no MIME type")
+    endif()
+endforeach()
