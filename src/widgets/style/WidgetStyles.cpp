@@ -1,0 +1,129 @@
+#include "widgets/style/WidgetStyles.h"
+
+#include "widgets/style/WidgetHelper.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QToolTip>
+
+namespace {
+
+/** Keeps the palette of the tool tips, which Qt holds apart, in step with the application's. */
+class ToolTipPaletteKeeper : public QObject
+{
+public:
+    explicit ToolTipPaletteKeeper(QObject *parent) : QObject(parent) { update(); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == parent() && event->type() == QEvent::ApplicationPaletteChange)
+            update();
+        return false;
+    }
+
+private:
+    static void update()
+    {
+        QPalette palette = QGuiApplication::palette();
+        palette.setColor(QPalette::Window, palette.color(QPalette::ToolTipBase));
+        palette.setColor(QPalette::WindowText, palette.color(QPalette::ToolTipText));
+        QToolTip::setPalette(palette);
+    }
+};
+
+} // namespace
+
+void WidgetStyles::init()
+{
+    qApp->installEventFilter(new ToolTipPaletteKeeper(qApp));
+}
+
+QColor WidgetStyles::Accent()
+{
+    return WidgetHelper::isDarkMode() ? Primary300 : Primary500;
+}
+
+QPalette WidgetStyles::GraphicsViewPalette()
+{
+    QPalette palette = QGuiApplication::palette();
+    const QColor window = palette.color(QPalette::Window);
+    const QColor sheet = WidgetHelper::isDarkMode() ? window.darker(130) : window.darker(106);
+    palette.setColor(QPalette::Base, sheet);
+    palette.setColor(QPalette::Window, sheet);
+    return palette;
+}
+
+QPalette WidgetStyles::EditFieldDefault()
+{
+    QPalette palette = QGuiApplication::palette();
+    const QColor window = palette.color(QPalette::Disabled, QPalette::Window);
+    palette.setColor(QPalette::Disabled, QPalette::Base, window);
+    return palette;
+}
+
+QString WidgetStyles::LeftSideBar()
+{
+    return QStringLiteral("#leftSidebar, #leftSidebar > QWidget#qt_scrollarea_viewport "
+                          "{ border: 0; background: palette(window); }");
+}
+
+QString WidgetStyles::RightSideBar()
+{
+    return QStringLiteral("#RightSideBar, #RightSideBar > QWidget#qt_scrollarea_viewport "
+                          "{ border: 0; background: palette(window); }\n"
+                          "#PropertiesBoxScrollArea { border: 0; background: transparent; }\n"
+                          "#PropertiesBoxScrollWidget { background: transparent; }");
+}
+
+QString WidgetStyles::ToolButton_FlatStyle()
+{
+    return QStringLiteral(
+        "QToolButton { border: 1px solid transparent; border-radius: 5px; padding: 2px; "
+        "background: transparent; }\n"
+        "QToolButton:hover { background: palette(midlight); }\n"
+        "QToolButton:pressed { background: palette(mid); }\n"
+        "QToolButton:checked { border-color: palette(mid); background: palette(midlight); }\n"
+        "QToolButton:focus { border: 2px solid palette(highlight); padding: 1px; }\n");
+}
+
+QString WidgetStyles::TagLabelAllSelected()
+{
+    return createTagLabelStyle(true);
+}
+
+QString WidgetStyles::TagLabelSomeSelected()
+{
+    return createTagLabelStyle(false);
+}
+
+QString WidgetStyles::createTagLabelStyle(bool allSelected)
+{
+    const QPalette palette = QGuiApplication::palette();
+    const bool dark = WidgetHelper::isDarkMode();
+    const auto current = [&palette](QPalette::ColorRole role) {
+        return palette.color(role).name();
+    };
+    const auto disabled = [&palette](QPalette::ColorRole role) {
+        return palette.color(QPalette::Disabled, role).name();
+    };
+
+    const QString background = allSelected ? disabled(QPalette::Button) : current(QPalette::Window);
+    const QString text =
+        allSelected ? current(QPalette::ButtonText) : disabled(QPalette::ButtonText);
+    const QString darkBorder = allSelected ? current(QPalette::Button) : disabled(QPalette::Button);
+    const QString border = dark ? darkBorder : current(QPalette::Mid);
+    const QString fontSize =
+        QString::number(QApplication::font().pointSize()) + QLatin1String("pt");
+    const QString hover = current(!dark && allSelected ? QPalette::Window : QPalette::Button);
+    const QString hoverText = current(QPalette::ButtonText);
+
+    return QStringLiteral(".TagLabel {border:1px solid %3; background-color:%1; "
+                          "border-radius: 5px; margin:0px; padding:0;}\n"
+                          "QToolButton {color:%2;font-size:%4; border:0px; "
+                          "border-top-right-radius: 5px; border-bottom-right-radius: 5px}\n"
+                          "ElidedLabel {color:%2; font-size:%4; background-color:%1; "
+                          "border-right: 1px solid %3; padding:0 5px 0 5px; "
+                          "border-top-left-radius: 5px;  border-bottom-left-radius: 5px}\n"
+                          "QToolButton:hover {background-color:%5; color:%6}\n")
+        .arg(background, text, border, fontSize, hover, hoverText);
+}
