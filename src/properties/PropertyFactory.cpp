@@ -1,0 +1,11 @@
+#include "properties/PropertyFactory.h"
+
+PropertyPreset *PropertyFactory::createPreset(const QString &) const
+{
+    return nullptr;
+}
+
+QByteArray PropertyFactory::loadBinaryLargeObject(const QString &) const
+{
+    return {};
+}
