@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace Embroidery {
+
+/** The settings of a reader: named values that its caller may set. */
+class IBaseIO
+{
+public:
+    IBaseIO() = default;
+    IBaseIO(const IBaseIO &) = delete;
+    IBaseIO &operator=(const IBaseIO &) = delete;
+    virtual ~IBaseIO() = default;
+
+    /** Stores `value` under `key`, replacing an earlier one. */
+    virtual void set(const QString &key, const QVariant &value) = 0;
+
+    /** The value under `key`; a null entry is inserted if there is none. */
+    virtual QVariant get(const QString &key) = 0;
+
+    /** The value under `key`, or `defaultValue` if there is none. */
+    virtual QVariant get(const QString &key, const QVariant &defaultValue) = 0;
+};
+
+} // namespace Embroidery
