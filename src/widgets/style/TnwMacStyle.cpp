@@ -16,41 +16,8 @@ constexpr qreal Radius = 4.0;
 struct Shades
 {
     QColor window, text, base, alternate, button, light, midlight, mid, dark, highlight;
-    QColor highlightedText, link, toolTip, toolTipText;
+    QColor highlightedText, link, toolTip, toolTipText, disabledButton;
 };
-
-QPalette paletteOf(const Shades &shades)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, shades.window);
-    palette.setColor(QPalette::WindowText, shades.text);
-    palette.setColor(QPalette::Base, shades.base);
-    palette.setColor(QPalette::AlternateBase, shades.alternate);
-    palette.setColor(QPalette::Text, shades.text);
-    palette.setColor(QPalette::Button, shades.button);
-    palette.setColor(QPalette::ButtonText, shades.text);
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Light, shades.light);
-    palette.setColor(QPalette::Midlight, shades.midlight);
-    palette.setColor(QPalette::Mid, shades.mid);
-    palette.setColor(QPalette::Dark, shades.dark);
-    palette.setColor(QPalette::Shadow, Qt::black);
-    palette.setColor(QPalette::Highlight, shades.highlight);
-    palette.setColor(QPalette::HighlightedText, shades.highlightedText);
-    palette.setColor(QPalette::Link, shades.link);
-    palette.setColor(QPalette::LinkVisited, shades.link);
-    palette.setColor(QPalette::ToolTipBase, shades.toolTip);
-    palette.setColor(QPalette::ToolTipText, shades.toolTipText);
-
-    const QColor faded = WidgetHelper::mixed(shades.text, shades.window, 0.62);
-    for (QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
-        palette.setColor(QPalette::Disabled, role, faded);
-    palette.setColor(QPalette::Disabled, QPalette::Base, shades.window);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, shades.mid);
-    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, shades.text);
-    return palette;
-}
 
 /** Moves \a text towards black or white until it can be read on \a background. */
 QColor readable(const QColor &text, const QColor &background)
@@ -82,6 +49,55 @@ void setPlaceholderColor(QPalette &palette, QPalette::ColorGroup group)
     const QColor base = palette.color(group, QPalette::Base);
     const QColor soft = WidgetHelper::mixed(palette.color(group, QPalette::Text), base, 0.62);
     palette.setColor(group, QPalette::PlaceholderText, readable(soft, base));
+}
+
+void makeReadable(QPalette &palette)
+{
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        makeReadable(palette, group, QPalette::WindowText, QPalette::Window);
+        makeReadable(palette, group, QPalette::Text, QPalette::Base);
+        makeReadable(palette, group, QPalette::ButtonText, QPalette::Button);
+        makeReadable(palette, group, QPalette::HighlightedText, QPalette::Highlight);
+        makeReadable(palette, group, QPalette::ToolTipText, QPalette::ToolTipBase);
+        makeReadable(palette, group, QPalette::Link, QPalette::Base);
+        setPlaceholderColor(palette, group);
+    }
+}
+
+QPalette paletteOf(const Shades &shades)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, shades.window);
+    palette.setColor(QPalette::WindowText, shades.text);
+    palette.setColor(QPalette::Base, shades.base);
+    palette.setColor(QPalette::AlternateBase, shades.alternate);
+    palette.setColor(QPalette::Text, shades.text);
+    palette.setColor(QPalette::Button, shades.button);
+    palette.setColor(QPalette::ButtonText, shades.text);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Light, shades.light);
+    palette.setColor(QPalette::Midlight, shades.midlight);
+    palette.setColor(QPalette::Mid, shades.mid);
+    palette.setColor(QPalette::Dark, shades.dark);
+    palette.setColor(QPalette::Shadow, Qt::black);
+    palette.setColor(QPalette::Highlight, shades.highlight);
+    palette.setColor(QPalette::HighlightedText, shades.highlightedText);
+    palette.setColor(QPalette::Link, shades.link);
+    palette.setColor(QPalette::LinkVisited, shades.link);
+    palette.setColor(QPalette::ToolTipBase, shades.toolTip);
+    palette.setColor(QPalette::ToolTipText, shades.toolTipText);
+
+    palette.setColor(QPalette::Disabled, QPalette::Button, shades.disabledButton);
+    const QColor faded =
+        readable(WidgetHelper::mixed(shades.text, shades.window, 0.62), shades.window);
+    for (QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        palette.setColor(QPalette::Disabled, role, faded);
+    palette.setColor(QPalette::Disabled, QPalette::Base, shades.window);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, shades.mid);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, shades.text);
+    makeReadable(palette);
+    return palette;
 }
 
 void drawRoundedBox(QPainter *painter, const QRect &rect, const QBrush &fill, const QPen &pen)
@@ -118,7 +134,7 @@ void drawPushButtonPanel(const QStyleOptionButton *option, QPainter *painter)
 {
     const QPalette &palette = option->palette;
     const bool enabled = option->state & QStyle::State_Enabled;
-    QColor fill = palette.color(QPalette::Button);
+    QColor fill = palette.color(enabled ? QPalette::Button : QPalette::Window);
     if (option->state & (QStyle::State_Sunken | QStyle::State_On))
         fill = palette.color(QPalette::Mid);
     else if (enabled && (option->state & QStyle::State_MouseOver))
@@ -162,6 +178,7 @@ QPalette TnwMacStyle::lightPalette()
     shades.highlight = WidgetStyles::Primary500;
     shades.highlightedText = QColor(0xff, 0xff, 0xff);
     shades.link = WidgetStyles::Primary600;
+    shades.disabledButton = QColor(0xe4, 0xed, 0xed);
     shades.toolTip = QColor(0x2b, 0x35, 0x3a);
     shades.toolTipText = QColor(0xf1, 0xf4, 0xf4);
     return paletteOf(shades);
@@ -182,6 +199,7 @@ QPalette TnwMacStyle::darkPalette()
     shades.highlight = WidgetStyles::Primary600;
     shades.highlightedText = QColor(0xff, 0xff, 0xff);
     shades.link = WidgetStyles::Primary200;
+    shades.disabledButton = QColor(0x2e, 0x3c, 0x40);
     shades.toolTip = QColor(0x3d, 0x46, 0x4b);
     shades.toolTipText = QColor(0xf1, 0xf4, 0xf4);
     return paletteOf(shades);
@@ -194,15 +212,7 @@ QPalette TnwMacStyle::standardPalette() const
 
 void TnwMacStyle::polish(QPalette &palette)
 {
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        makeReadable(palette, group, QPalette::WindowText, QPalette::Window);
-        makeReadable(palette, group, QPalette::Text, QPalette::Base);
-        makeReadable(palette, group, QPalette::ButtonText, QPalette::Button);
-        makeReadable(palette, group, QPalette::HighlightedText, QPalette::Highlight);
-        makeReadable(palette, group, QPalette::ToolTipText, QPalette::ToolTipBase);
-        makeReadable(palette, group, QPalette::Link, QPalette::Base);
-        setPlaceholderColor(palette, group);
-    }
+    makeReadable(palette);
 }
 
 void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

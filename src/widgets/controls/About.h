@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QDialog>
+
+/** The plain about dialog: icon, name, version and build date of the application. */
+class About : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit About(QWidget *parent = nullptr);
+
+    /** The version and the day of the build, in the words of the user's locale. */
+    static QString versionText();
+};

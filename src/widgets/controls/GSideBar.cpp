@@ -1,0 +1,80 @@
+#include "widgets/controls/GSideBar.h"
+
+#include "app/base/GSettings.h"
+#include "widgets/controls/GSideBarBox.h"
+#include "widgets/controls/GSideBarBoxAdvanced.h"
+
+#include <QEvent>
+#include <QScopedValueRollback>
+#include <QSplitter>
+
+namespace {
+
+QString advancedKey(const GSideBarBoxAdvanced *box)
+{
+    return box->objectName() + QLatin1String("-showAdvanced");
+}
+
+} // namespace
+
+GSideBar::GSideBar(QWidget *parent) : QScrollArea(parent), m_splitter(new QSplitter(Qt::Vertical))
+{
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(7);
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(m_splitter);
+}
+
+void GSideBar::addBox(GSideBarBox *box)
+{
+    m_splitter->addWidget(box);
+    m_splitter->setStretchFactor(m_splitter->count() - 1, 1);
+}
+
+void GSideBar::saveWidgetState(GSettings &settings) const
+{
+    settings.setValue(splitterKey(), m_splitter->saveState());
+    const auto boxes = findChildren<GSideBarBoxAdvanced *>();
+    for (const GSideBarBoxAdvanced *box : boxes)
+        settings.setValue(advancedKey(box), box->showAdvanced());
+}
+
+void GSideBar::restoreWidgetState(GSettings &settings)
+{
+    if (settings.contains(splitterKey()))
+        m_splitter->restoreState(settings.value(splitterKey()).toByteArray());
+    m_splitter->setChildrenCollapsible(false);
+    const auto boxes = findChildren<GSideBarBoxAdvanced *>();
+    for (GSideBarBoxAdvanced *box : boxes) {
+        if (settings.contains(advancedKey(box)))
+            box->setShowAdvanced(settings.value(advancedKey(box)).toBool());
+    }
+}
+
+QSize GSideBar::minimumSizeHint() const
+{
+    return QSize(m_splitter->minimumSizeHint().width(), 0);
+}
+
+QSize GSideBar::sizeHint() const
+{
+    return m_splitter->sizeHint();
+}
+
+void GSideBar::changeEvent(QEvent *event)
+{
+    QScrollArea::changeEvent(event);
+    // A style sheet keeps the palette's colours that it was read with.
+    if (event->type() == QEvent::PaletteChange && !m_refreshingStyle && !styleSheet().isEmpty()) {
+        const QScopedValueRollback<bool> guard(m_refreshingStyle, true);
+        setStyleSheet(QString(styleSheet()));
+    }
+}
+
+QString GSideBar::splitterKey() const
+{
+    return objectName() + QLatin1String("Splitter");
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QIcon>
+#include <QTreeView>
+
+/** A tree view that shows an icon and a rich text in its middle while it has no rows. */
+class GTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit GTreeView(QWidget *parent = nullptr);
+
+    /**
+     * What is shown while there are no rows: \a richText, in \a color, below \a icon. The text
+     * without its markup is also the view's accessible description during that time.
+     */
+    void setPlaceholder(const QIcon &icon, const QString &richText, const QColor &color);
+
+    void setModel(QAbstractItemModel *model) override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool isEmpty() const;
+    void updateDescription();
+    void paintPlaceholder();
+
+    QIcon m_placeholderIcon;
+    QString m_placeholderText;
+    QColor m_placeholderColor;
+};

@@ -1,0 +1,168 @@
+#include "widgets/style/GIcon.h"
+#include "widgets/style/TnwMacStyle.h"
+#include "widgets/style/WidgetHelper.h"
+#include "widgets/style/WidgetStyles.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/** The colour that most of the opaque pixels of \a icon have. */
+QColor inkOf(const QIcon &icon, QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off)
+{
+    return icon.pixmap(QSize(16, 16), mode, state).toImage().pixelColor(8, 8);
+}
+
+} // namespace
+
+class tst_style : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void textContrast_data();
+    void textContrast();
+    void tagLabelContrast();
+    void iconFollowsPalette();
+    void iconStates();
+    void iconIsCrisp();
+    void selectionIsVisibleOnCards();
+
+private:
+    QString writeSvg(const QString &name, const QByteArray &fill);
+
+    QTemporaryDir m_dir;
+};
+
+void tst_style::initTestCase()
+{
+    QApplication::setStyle(new TnwMacStyle);
+}
+
+void tst_style::init()
+{
+    QApplication::setPalette(TnwMacStyle::lightPalette());
+}
+
+QString tst_style::writeSvg(const QString &name, const QByteArray &fill)
+{
+    const QString path = m_dir.filePath(name);
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write("<svg xmlns='http://www.w3.org/2000/svg' width='24' height='24'>"
+                   "<rect width='24' height='24' fill='" +
+                   fill + "'/></svg>");
+    return path;
+}
+
+void tst_style::textContrast_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << TnwMacStyle::lightPalette();
+    QTest::newRow("dark") << TnwMacStyle::darkPalette();
+    QPalette poor(Qt::gray);
+    poor.setColor(QPalette::WindowText, Qt::darkGray);
+    poor.setColor(QPalette::Text, Qt::lightGray);
+    poor.setColor(QPalette::Highlight, QColor(0x3d, 0xae, 0xe9));
+    poor.setColor(QPalette::HighlightedText, Qt::white);
+    QTest::newRow("poor desktop palette") << poor;
+}
+
+void tst_style::textContrast()
+{
+    QFETCH(QPalette, palette);
+    QPalette used = palette;
+    QApplication::style()->polish(used);
+    const QVector<QPair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::Link, QPalette::Base}};
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        for (const auto &pair : pairs) {
+            const qreal ratio = WidgetHelper::contrast(used.color(group, pair.first),
+                                                       used.color(group, pair.second));
+            QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("roles %1 on %2: %3")
+                                                  .arg(pair.first)
+                                                  .arg(pair.second)
+                                                  .arg(ratio)));
+        }
+    }
+}
+
+void tst_style::tagLabelContrast()
+{
+    for (const QPalette &palette : {TnwMacStyle::lightPalette(), TnwMacStyle::darkPalette()}) {
+        QApplication::setPalette(palette);
+        for (const QString &sheet :
+             {WidgetStyles::TagLabelAllSelected(), WidgetStyles::TagLabelSomeSelected()}) {
+            const QRegularExpressionMatch background =
+                QRegularExpression(QStringLiteral("background-color:(#\\w+)")).match(sheet);
+            const QRegularExpressionMatch text =
+                QRegularExpression(QStringLiteral("ElidedLabel \\{color:(#\\w+)")).match(sheet);
+            QVERIFY(background.hasMatch() && text.hasMatch());
+            QVERIFY(WidgetHelper::contrast(QColor(background.captured(1)),
+                                           QColor(text.captured(1))) >= 4.5);
+        }
+    }
+}
+
+void tst_style::iconFollowsPalette()
+{
+    for (const QByteArray &fill : {QByteArray("#46505a"), QByteArray("currentColor")}) {
+        QApplication::setPalette(TnwMacStyle::lightPalette());
+        const GIcon icon(writeSvg(QStringLiteral("ink.svg"), fill));
+        const QColor window = QApplication::palette().color(QPalette::Window);
+        QVERIFY(WidgetHelper::contrast(inkOf(icon), window) >= 4.5);
+
+        QApplication::setPalette(TnwMacStyle::darkPalette());
+        QVERIFY(WidgetHelper::isDarkMode());
+        const QColor darkWindow = QApplication::palette().color(QPalette::Window);
+        QVERIFY(WidgetHelper::contrast(inkOf(icon), darkWindow) >= 4.5);
+    }
+    const GIcon detail(writeSvg(QStringLiteral("accent.svg"), "#2f7f86"));
+    QCOMPARE(inkOf(detail), WidgetStyles::Accent());
+}
+
+void tst_style::iconStates()
+{
+    const GIcon icon(writeSvg(QStringLiteral("off.svg"), "#46505a"),
+                     writeSvg(QStringLiteral("on.svg"), "#ff0000"));
+    QVERIFY(inkOf(icon, QIcon::Disabled) != inkOf(icon));
+    QCOMPARE(inkOf(icon, QIcon::Selected),
+             QApplication::palette().color(QPalette::HighlightedText));
+    QCOMPARE(inkOf(icon, QIcon::Normal, QIcon::On), QColor(Qt::red));
+    QVERIFY(GIcon().isNull());
+    QVERIFY(GIcon(m_dir.filePath(QStringLiteral("missing.svg"))).isNull());
+}
+
+void tst_style::iconIsCrisp()
+{
+    const GIcon icon(writeSvg(QStringLiteral("crisp.svg"), "#46505a"));
+    QImage target(64, 64, QImage::Format_ARGB32_Premultiplied);
+    target.setDevicePixelRatio(2.0);
+    target.fill(Qt::transparent);
+    QPainter painter(&target);
+    icon.paint(&painter, QRect(0, 0, 32, 32));
+    painter.end();
+    QCOMPARE(target.pixelColor(63, 63), inkOf(icon));
+    QCOMPARE(icon.pixmap(QSize(200, 200)).size(), QSize(200, 200));
+}
+
+void tst_style::selectionIsVisibleOnCards()
+{
+    QVERIFY(WidgetHelper::contrast(WidgetStyles::Primary25, WidgetStyles::Primary100) > 1.3);
+    QVERIFY(WidgetHelper::contrast(Qt::black, WidgetStyles::Primary100) >= 4.5);
+    QVERIFY(WidgetHelper::contrast(Qt::white, WidgetStyles::Primary800) >= 4.5);
+}
+
+QTEST_MAIN(tst_style)
+#include "tst_style.moc"
