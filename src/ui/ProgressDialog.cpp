@@ -1,0 +1,80 @@
+#include "ui/ProgressDialog.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int MinimumBarWidth = 500;
+constexpr qint64 PumpInterval = 100; // milliseconds
+constexpr int Aborted = 2;
+
+} // namespace
+
+ProgressDialog::ProgressDialog(QWidget *parent)
+    : QDialog(parent, Qt::Sheet), m_label(new QLabel(this)), m_progressBar(new QProgressBar(this)),
+      m_cancelButton(new QPushButton(tr("Cancel"), this))
+{
+    setModal(true);
+    // File names are shown as they are, whatever they look like, and never widen the window.
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progressBar->setMinimumWidth(MinimumBarWidth);
+    m_progressBar->setRange(0, 0);
+    m_cancelButton->setAutoDefault(false);
+    connect(m_cancelButton, &QPushButton::clicked, this, &ProgressDialog::reject);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_label);
+    layout->addWidget(m_progressBar);
+    layout->addWidget(m_cancelButton, 0, Qt::AlignRight);
+}
+
+void ProgressDialog::show()
+{
+    m_aborted = false;
+    QDialog::show();
+}
+
+void ProgressDialog::hide()
+{
+    QDialog::hide();
+}
+
+void ProgressDialog::setSteps(int steps)
+{
+    m_progressBar->setRange(0, steps);
+    m_progressBar->setValue(0);
+    m_label->clear();
+}
+
+void ProgressDialog::proceed(const QString &text)
+{
+    if (!text.isNull())
+        m_label->setText(text);
+    m_progressBar->setValue(qMin(m_progressBar->value() + 1, m_progressBar->maximum()));
+    pumpEvents();
+}
+
+void ProgressDialog::pumpEvents()
+{
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (qAbs(now - m_lastEventProcessing) <= PumpInterval)
+        return;
+    m_lastEventProcessing = now;
+    QCoreApplication::processEvents();
+}
+
+int ProgressDialog::abortState() const
+{
+    return m_aborted ? Aborted : 0;
+}
+
+void ProgressDialog::reject()
+{
+    m_aborted = true;
+}

@@ -1,0 +1,118 @@
+#include "ui/ProgressDialog.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+
+/** Counts how often the event loop came round. */
+class EventCounter : public QObject
+{
+public:
+    int count = 0;
+    void post() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        count += event->type() == QEvent::User;
+        return QObject::event(event);
+    }
+};
+
+} // namespace
+
+class tst_progressdialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsBusy();
+    void showsProgress();
+    void pumpsEventsAtMostOnceInAHundredMilliseconds();
+    void everyWayOutOnlyAsksForTheEnd_data();
+    void everyWayOutOnlyAsksForTheEnd();
+};
+
+void tst_progressdialog::startsBusy()
+{
+    ProgressDialog dialog(nullptr);
+    const auto *bar = dialog.findChild<QProgressBar *>();
+    QCOMPARE(bar->minimum(), 0);
+    QCOMPARE(bar->maximum(), 0);
+    QVERIFY(dialog.isModal());
+    QCOMPARE(dialog.abortState(), 0);
+}
+
+void tst_progressdialog::showsProgress()
+{
+    ProgressDialog dialog(nullptr);
+    const auto *bar = dialog.findChild<QProgressBar *>();
+    const auto *label = dialog.findChild<QLabel *>();
+    dialog.setSteps(2);
+    dialog.proceed(QStringLiteral("<b>rose</b>.dst"));
+    QCOMPARE(label->text(), QStringLiteral("<b>rose</b>.dst"));
+    QCOMPARE(bar->value(), 1);
+    dialog.proceed(QString());
+    QCOMPARE(label->text(), QStringLiteral("<b>rose</b>.dst"));
+    dialog.proceed(QLatin1String(""));
+    QVERIFY(label->text().isEmpty());
+    QCOMPARE(bar->value(), 2);
+    dialog.setSteps(5);
+    QCOMPARE(bar->value(), 0);
+    QVERIFY(label->text().isEmpty());
+}
+
+void tst_progressdialog::pumpsEventsAtMostOnceInAHundredMilliseconds()
+{
+    ProgressDialog dialog(nullptr);
+    EventCounter counter;
+    dialog.setSteps(10);
+    QElapsedTimer timer;
+    timer.start();
+    counter.post();
+    dialog.proceed(QString());
+    QCOMPARE(counter.count, 1);
+    counter.post();
+    dialog.proceed(QString());
+    if (timer.elapsed() < 90)
+        QCOMPARE(counter.count, 1);
+    QTest::qSleep(110);
+    dialog.proceed(QString());
+    QCOMPARE(counter.count, 2);
+}
+
+void tst_progressdialog::everyWayOutOnlyAsksForTheEnd_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("button") << "button";
+    QTest::newRow("escape") << "escape";
+    QTest::newRow("close") << "close";
+}
+
+void tst_progressdialog::everyWayOutOnlyAsksForTheEnd()
+{
+    QFETCH(QString, way);
+    ProgressDialog dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    if (way == QLatin1String("button"))
+        QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
+    else if (way == QLatin1String("escape"))
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    else
+        dialog.close();
+    QCOMPARE(dialog.abortState(), 2);
+    QVERIFY(dialog.isVisible());
+
+    dialog.hide();
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.abortState(), 2);
+    dialog.show();
+    QCOMPARE(dialog.abortState(), 0);
+}
+
+QTEST_MAIN(tst_progressdialog)
+#include "tst_progressdialog.moc"
