@@ -4,10 +4,10 @@
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
-# The last five are what the tests themselves call upon: a FAT file system for the
+# The last six are what the tests themselves call upon: a FAT file system for the
 # transfer, certificates, and the validators of the desktop files.
 install_missing "${build_packages[@]}" \
-    dosfstools openssl desktop-file-utils appstream shared-mime-info
+    dbus dosfstools openssl desktop-file-utils appstream shared-mime-info
 
 build dev
 
