@@ -1,0 +1,87 @@
+#include "online/metrics/FileSyncTracking.h"
+
+#include "online/metrics/Metrics.h"
+
+namespace {
+
+// More than can be read, so that the maker sees which formats people hold.
+constexpr const char *KnownExtensions[] = {"pes", "pec", "dst", "xxx",  "exp", "sew", "jef",
+                                           "hus", "emb", "cnd", "art",  "csd", "vp3", "vip",
+                                           "pcs", "dsz", "tap", "exp+", "shv"};
+
+// A filter begins with "*.".
+constexpr int FilterPrefix = 2;
+
+QString extension(const QString &name)
+{
+    const int dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot < 0 ? QString() : name.mid(dot + 1).toLower();
+}
+
+} // namespace
+
+FileSyncTracking::FileSyncTracking()
+{
+    for (const char *known : KnownExtensions)
+        m_fileCounts.insert(QString::fromLatin1(known), 0);
+}
+
+void FileSyncTracking::beginSync(const QStringList &filters)
+{
+    m_supportedExtensions.clear();
+    for (const QString &filter : filters)
+        m_supportedExtensions.insert(filter.mid(FilterPrefix).toLower());
+    m_supportedFiles.clear();
+    for (int &count : m_fileCounts)
+        count = 0;
+    m_renderedFiles = m_errors = m_renderedStitches = m_renderTime = 0;
+    m_syncTimer.start();
+}
+
+void FileSyncTracking::logFileCountByExtension(const QStringList &files)
+{
+    for (const QString &file : files) {
+        const QString suffix = extension(file);
+        if (m_supportedExtensions.contains(suffix))
+            m_supportedFiles.append(file);
+        const auto count = m_fileCounts.find(suffix);
+        if (count != m_fileCounts.end())
+            ++*count;
+    }
+}
+
+void FileSyncTracking::fileFormatError()
+{
+    ++m_errors;
+}
+
+void FileSyncTracking::beginRenderFile()
+{
+    ++m_renderedFiles;
+    m_renderTimer.start();
+}
+
+void FileSyncTracking::endRenderFile(int stitchCount)
+{
+    m_renderedStitches += stitchCount;
+    m_renderTime += int(m_renderTimer.elapsed());
+}
+
+void FileSyncTracking::endSync(int smartFolderCount, int fileCount)
+{
+    const int syncTime = int(m_syncTimer.elapsed());
+    Metrics::submitEvent(QStringLiteral("hl project info"),
+                         {{QStringLiteral("num smartfolders"), smartFolderCount},
+                          {QStringLiteral("num files"), fileCount}});
+    Metrics::submitEvent(QStringLiteral("hl loader info"),
+                         {{QStringLiteral("num files"), m_supportedFiles.size()},
+                          {QStringLiteral("num errors"), m_errors},
+                          {QStringLiteral("rendered files"), m_renderedFiles},
+                          {QStringLiteral("rendered stitches"), m_renderedStitches},
+                          {QStringLiteral("render time"), m_renderTime},
+                          {QStringLiteral("sync time"), syncTime}});
+    QHash<QString, QVariant> counts;
+    for (auto count = m_fileCounts.cbegin(); count != m_fileCounts.cend(); ++count)
+        counts.insert(count.key(), count.value());
+    Metrics::submitEvent(QStringLiteral("hl found file types"), counts);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+/**
+ * Counts what one synchronisation of the catalogue meets, and reports the
+ * figures at its end. Names of files stay here; only numbers are reported.
+ * Main thread.
+ */
+class FileSyncTracking
+{
+public:
+    FileSyncTracking();
+
+    /** Starts afresh. @param filters patterns of the files that can be read, "*.pes" */
+    void beginSync(const QStringList &filters);
+
+    /** Counts the known design formats among @p files and picks those that can be read. */
+    void logFileCountByExtension(const QStringList &files);
+
+    /** The names among those logged that can be read. */
+    QStringList supportedFiles() const { return m_supportedFiles; }
+
+    void fileFormatError();
+    void beginRenderFile();
+    void endRenderFile(int stitchCount);
+
+    /** Submits the three events of a synchronisation. */
+    void endSync(int smartFolderCount, int fileCount);
+
+private:
+    QHash<QString, int> m_fileCounts;
+    QSet<QString> m_supportedExtensions;
+    QStringList m_supportedFiles;
+    int m_renderedFiles = 0;
+    int m_errors = 0;
+    int m_renderedStitches = 0;
+    int m_renderTime = 0;
+    QElapsedTimer m_syncTimer;
+    QElapsedTimer m_renderTimer;
+};
