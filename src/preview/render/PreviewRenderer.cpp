@@ -1,0 +1,132 @@
+#include "preview/render/PreviewRenderer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <QBrush>
+#include <QPainter>
+#include <QPen>
+#include <utility>
+
+using Embroidery::EmbPattern;
+using Embroidery::StitchBlock;
+
+namespace {
+
+constexpr double PenWidth = 4.0;
+constexpr float EndTilt = 0.3f;
+
+// Also false for a NaN, which compares false with everything.
+bool isDrawableSide(double pixels)
+{
+    return pixels >= 1.0 && pixels <= PreviewRenderer::LargestSide;
+}
+
+} // namespace
+
+PreviewRenderer::PreviewRenderer()
+    : m_lightColor(Qt::white), m_ambientColor(0xB3, 0xB3, 0xB3),
+      m_lightDirection(QVector3D(-0.5f, -0.5f, 1.0f).normalized()), m_diffuseFactor(1.0f)
+{
+}
+
+QPixmap PreviewRenderer::renderToPixmap(const QSharedPointer<EmbPattern> &pattern, double size)
+{
+    PreviewRenderer renderer;
+    QImage image = renderer.render(pattern, size);
+    return QPixmap::fromImage(std::move(image));
+}
+
+QImage PreviewRenderer::render(const QSharedPointer<EmbPattern> &pattern, double size)
+{
+    if (pattern.isNull()) {
+        return QImage();
+    }
+    const QList<StitchBlock> blocks = pattern->asStitchBlock();
+    const QRectF rect = pattern->boundingRect();
+    const double scale = size / std::max(rect.width(), rect.height());
+    const double width = std::ceil(rect.width() * scale);
+    const double height = std::ceil(rect.height() * scale);
+    if (!isDrawableSide(width) || !isDrawableSide(height)) {
+        return QImage();
+    }
+    QImage image(int(width), int(height), QImage::Format_ARGB32);
+    if (image.isNull()) {
+        return image;
+    }
+    image.fill(0);
+
+    QPainter painter(&image);
+    painter.translate(-std::floor(rect.x() * scale), -std::floor(rect.y() * scale));
+    painter.scale(scale, scale);
+    for (const StitchBlock &block : blocks) {
+        const QColor color(block.thread->getRGB());
+        QPointF from = block.points.first();
+        for (int i = 1; i < block.points.size(); ++i) {
+            drawThread(painter, from, block.points.at(i), color);
+            from = block.points.at(i);
+        }
+    }
+    painter.end();
+    return image;
+}
+
+void PreviewRenderer::drawThread(QPainter &painter, QPointF &from, const QPointF &to,
+                                 const QColor &color)
+{
+    painter.setPen(QPen(QBrush(buildGradient(from, to, color)), PenWidth, Qt::SolidLine,
+                        Qt::RoundCap, Qt::BevelJoin));
+    // A line without length would leave nothing, where the needle leaves a dot.
+    if (from == to) {
+        painter.drawPoint(from);
+        return;
+    }
+    const QLineF line(from, to);
+    painter.drawLines(&line, 1);
+}
+
+QLinearGradient PreviewRenderer::buildGradient(const QPointF &from, const QPointF &to,
+                                               const QColor &color)
+{
+    const QVector3D along = QVector3D(from - to).normalized();
+    const QVector3D startNormal = QVector3D(along.x(), along.y(), EndTilt).normalized();
+    const QVector3D endNormal = QVector3D(-along.x(), -along.y(), EndTilt).normalized();
+
+    QLinearGradient gradient;
+    gradient.setColorAt(0.0, shadeColor(color, startNormal));
+    gradient.setColorAt(1.0, shadeColor(color, endNormal));
+    gradient.setStart(from);
+    gradient.setFinalStop(to);
+    return gradient;
+}
+
+QColor PreviewRenderer::shadeColor(QColor color, const QVector3D &normal)
+{
+    const QVector4D light = rgbaVector(m_lightColor.rgba());
+    const QVector4D ambientLight = rgbaVector(m_ambientColor.rgba());
+    const QVector4D own = rgbaVector(color.rgba());
+
+    const QVector3D ambient = ambientLight.toVector3D() * ambientLight.w();
+    const QVector3D lighting = light.toVector3D() * light.w();
+    const float facing =
+        std::max(0.0f, QVector3D::dotProduct(normal, m_lightDirection.normalized()));
+    const QVector3D total = ambient + (lighting * facing) * m_diffuseFactor;
+
+    QVector4D shaded(own.toVector3D() * total, own.w());
+    return QColor::fromRgba(rgbaColor(shaded));
+}
+
+QVector3D PreviewRenderer::rgbVector(unsigned int rgb)
+{
+    return QVector3D(qRed(rgb), qGreen(rgb), qBlue(rgb)) / 255.0f;
+}
+
+QVector4D PreviewRenderer::rgbaVector(unsigned int rgba)
+{
+    return QVector4D(qRed(rgba), qGreen(rgba), qBlue(rgba), qAlpha(rgba)) / 255.0f;
+}
+
+unsigned int PreviewRenderer::rgbaColor(QVector4D &v)
+{
+    const auto channel = [](float value) { return std::min(255, int(value * 255.0f)); };
+    return qRgba(channel(v.x()), channel(v.y()), channel(v.z()), channel(v.w()));
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "embroidery/EmbPattern.h"
+#include <QColor>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPixmap>
+#include <QPointF>
+#include <QSharedPointer>
+#include <QVector3D>
+#include <QVector4D>
+
+class QPainter;
+
+/**
+ * Draws a design as sewn thread: every stitch is a thick line with rounded
+ * ends, shaded along its length like a small cylinder lit from the upper left.
+ *
+ * A renderer holds only its lighting model, so one may be made per picture.
+ */
+class PreviewRenderer
+{
+public:
+    PreviewRenderer();
+    virtual ~PreviewRenderer() = default;
+
+    /**
+     * render() as a pixmap; for the GUI thread only. Null where render() gives
+     * a null image.
+     */
+    static QPixmap renderToPixmap(const QSharedPointer<Embroidery::EmbPattern> &pattern,
+                                  double size);
+
+    /**
+     * The design on a transparent ground, without a margin, `size` pixels on
+     * its longer side. Null for a null pattern, for extents that have no usable
+     * scale (a single point, a line without any height) and for an image that
+     * would be larger than LargestSide either way.
+     *
+     * May lengthen the thread list of `pattern` by made-up greys.
+     */
+    QImage render(const QSharedPointer<Embroidery::EmbPattern> &pattern, double size);
+
+    /** One stitch, from and to in design units (tenths of a millimetre). */
+    void drawThread(QPainter &painter, QPointF &from, const QPointF &to, const QColor &color);
+
+    /** The shading of a stitch of `color`, running along the stitch. */
+    QLinearGradient buildGradient(const QPointF &from, const QPointF &to, const QColor &color);
+
+    /** `color` lit where the surface faces `normal` (of length 1); alpha stays. */
+    QColor shadeColor(QColor color, const QVector3D &normal);
+
+    /** (r, g, b), each from 0 to 1, of 0xAARRGGBB. */
+    static QVector3D rgbVector(unsigned int rgb);
+    /** (r, g, b, a), each from 0 to 1, of 0xAARRGGBB. */
+    static QVector4D rgbaVector(unsigned int rgba);
+    /** 0xAARRGGBB of (r, g, b, a); channels above 1 are clipped. */
+    static unsigned int rgbaColor(QVector4D &v);
+
+    /** Pixels; a longer side than this is not drawn. */
+    static constexpr double LargestSide = 16384.0;
+
+private:
+    QColor m_lightColor;
+    QColor m_ambientColor;
+    QVector3D m_lightDirection;
+    float m_diffuseFactor;
+};

@@ -1,0 +1,251 @@
+#include "preview/render/PreviewRenderer.h"
+#include <cmath>
+#include <limits>
+#include <QPainter>
+#include <QtTest>
+
+using Embroidery::EmbPattern;
+using Embroidery::EmbThread;
+using Pattern = QSharedPointer<EmbPattern>;
+
+namespace {
+
+using Points = QVector<QPointF>;
+
+// A move to the first point and a stitch to each further one.
+Pattern polyline(const Points &points, unsigned int rgb = 0xff0000)
+{
+    Pattern pattern = EmbPattern::create();
+    pattern->addThread(
+        QSharedPointer<EmbThread>::create(rgb, QString(), QString(), QString(), QString()));
+    for (int i = 0; i < points.size(); ++i) {
+        const float x = float(points.at(i).x());
+        const float y = float(points.at(i).y());
+        if (i == 0) {
+            pattern->moveAbs(x, y);
+        } else {
+            pattern->stitchAbs(x, y);
+        }
+    }
+    return pattern;
+}
+
+int paintedPixels(const QImage &image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += qAlpha(image.pixel(x, y)) != 0 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Points)
+
+class tst_PreviewRenderer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noPatternNoImage();
+    void imageSize_data();
+    void imageSize();
+    void emptyPatternIsTransparent();
+    void hugeSizesAreRefused();
+    void stitchIsShadedAlongItsLength();
+    void laterStitchesCoverEarlierOnes();
+    void singlePointStitchIsARoundDot();
+    void everyPixelIsOpaqueOrClear();
+    void farStitchIsShownAtTheImagesOrigin();
+    void shadeColor_data();
+    void shadeColor();
+    void colorConversions();
+};
+
+void tst_PreviewRenderer::noPatternNoImage()
+{
+    QVERIFY(PreviewRenderer().render(Pattern(), 400.0).isNull());
+    QVERIFY(PreviewRenderer::renderToPixmap(Pattern(), 400.0).isNull());
+}
+
+void tst_PreviewRenderer::imageSize_data()
+{
+    QTest::addColumn<Points>("points");
+    QTest::addColumn<double>("size");
+    QTest::addColumn<QSize>("expected");
+
+    const QSize none(0, 0);
+    QTest::newRow("square") << Points{{0, 0}, {1000, 1000}} << 400.0 << QSize(400, 400);
+    QTest::newRow("wide") << Points{{0, 0}, {1000, 500}} << 400.0 << QSize(400, 200);
+    QTest::newRow("tall") << Points{{0, 0}, {250, 1000}} << 400.0 << QSize(100, 400);
+    QTest::newRow("fraction is rounded up")
+        << Points{{0, 0}, {1000, 501}} << 400.0 << QSize(400, 201);
+    QTest::newRow("line off the axis has no height") << Points{{0, 5}, {1000, 5}} << 400.0 << none;
+    QTest::newRow("line on the axis is a pixel high")
+        << Points{{0, 0}, {1000, 0}} << 400.0 << QSize(400, 1);
+    QTest::newRow("wholly negative reaches the origin")
+        << Points{{-1000, -1000}, {-500, -500}} << 400.0 << QSize(400, 400);
+    QTest::newRow("single point") << Points{{5, 5}, {5, 5}} << 400.0 << none;
+    QTest::newRow("no size") << Points{{0, 0}, {1000, 500}} << 0.0 << none;
+    QTest::newRow("negative size") << Points{{0, 0}, {1000, 500}} << -400.0 << none;
+}
+
+void tst_PreviewRenderer::imageSize()
+{
+    QFETCH(Points, points);
+    QFETCH(double, size);
+    QFETCH(QSize, expected);
+    const QImage image = PreviewRenderer().render(polyline(points), size);
+    QCOMPARE(image.size(), expected);
+    QCOMPARE(PreviewRenderer::renderToPixmap(polyline(points), size).size(), expected);
+    if (!image.isNull()) {
+        QCOMPARE(image.format(), QImage::Format_ARGB32);
+        QVERIFY(paintedPixels(image) > 0);
+    }
+}
+
+void tst_PreviewRenderer::emptyPatternIsTransparent()
+{
+    const QImage image = PreviewRenderer().render(EmbPattern::create(), 400.0);
+    QCOMPARE(image.size(), QSize(400, 400));
+    QCOMPARE(paintedPixels(image), 0);
+}
+
+void tst_PreviewRenderer::hugeSizesAreRefused()
+{
+    const Pattern pattern = polyline({{0, 0}, {1000, 500}});
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double size : {1e6, 1e300, infinity, std::nan("")}) {
+        QVERIFY(PreviewRenderer().render(pattern, size).isNull());
+    }
+    const float far = std::numeric_limits<float>::infinity();
+    const Pattern endless = polyline({{0, 0}, {1000, 500}});
+    endless->stitchAbs(far, far);
+    QVERIFY(PreviewRenderer().render(endless, 400.0).isNull());
+}
+
+void tst_PreviewRenderer::stitchIsShadedAlongItsLength()
+{
+    // The frame of moves gives the stitch room on all sides.
+    const Pattern pattern = polyline({{100, 200}, {300, 200}}, 0x808080);
+    pattern->moveAbs(0, 0);
+    pattern->moveAbs(400, 400);
+    const QImage image = PreviewRenderer().render(pattern, 400.0);
+    QCOMPARE(image.size(), QSize(400, 400));
+
+    PreviewRenderer renderer;
+    const QLinearGradient gradient =
+        renderer.buildGradient(QPointF(100, 200), QPointF(300, 200), QColor(0x80, 0x80, 0x80));
+    QCOMPARE(gradient.start(), QPointF(100, 200));
+    QCOMPARE(gradient.finalStop(), QPointF(300, 200));
+    const QColor lit = gradient.stops().first().second;
+    const QColor dim = gradient.stops().last().second;
+    QVERIFY(lit.red() > dim.red());
+    QVERIFY(qAbs(qRed(image.pixel(101, 200)) - lit.red()) <= 2);
+    QVERIFY(qAbs(qRed(image.pixel(298, 200)) - dim.red()) <= 2);
+    // Four units wide: two on each side of the line, rounded ends beyond it.
+    QCOMPARE(qAlpha(image.pixel(200, 198)), 255);
+    QCOMPARE(qAlpha(image.pixel(200, 201)), 255);
+    QCOMPARE(qAlpha(image.pixel(200, 196)), 0);
+    QCOMPARE(qAlpha(image.pixel(200, 203)), 0);
+    QCOMPARE(qAlpha(image.pixel(98, 200)), 255);
+    QCOMPARE(qAlpha(image.pixel(96, 200)), 0);
+}
+
+void tst_PreviewRenderer::laterStitchesCoverEarlierOnes()
+{
+    const Pattern pattern = polyline({{0, 50}, {100, 50}}, 0xff0000);
+    pattern->addThread(
+        QSharedPointer<EmbThread>::create(0x0000ffu, QString(), QString(), QString(), QString()));
+    pattern->color_change();
+    pattern->moveAbs(50, 0);
+    pattern->stitchAbs(50, 100);
+    const QImage image = PreviewRenderer().render(pattern, 400.0);
+    const QColor crossing(image.pixel(200, 200));
+    QCOMPARE(crossing.red(), 0);
+    QVERIFY(crossing.blue() > 0);
+    QVERIFY(qRed(image.pixel(40, 200)) > 0);
+}
+
+void tst_PreviewRenderer::singlePointStitchIsARoundDot()
+{
+    const Pattern pattern = polyline({{50, 50}, {50, 50}}, 0x808080);
+    pattern->moveAbs(0, 0);
+    pattern->moveAbs(100, 100);
+    const QImage image = PreviewRenderer().render(pattern, 400.0);
+    const QRgb centre = image.pixel(200, 200);
+    QCOMPARE(qAlpha(centre), 255);
+    const double expected = M_PI * 8.0 * 8.0;
+    QVERIFY(qAbs(paintedPixels(image) - expected) < 0.1 * expected);
+    QCOMPARE(image.pixel(195, 200), centre);
+    QCOMPARE(image.pixel(200, 205), centre);
+    QCOMPARE(qAlpha(image.pixel(207, 207)), 0);
+}
+
+void tst_PreviewRenderer::everyPixelIsOpaqueOrClear()
+{
+    const QImage image =
+        PreviewRenderer().render(polyline({{0, 0}, {300, 100}, {20, 180}, {260, 300}}), 400.0);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int alpha = qAlpha(image.pixel(x, y));
+            QVERIFY2(alpha == 0 || alpha == 255, qPrintable(QString::number(alpha)));
+        }
+    }
+}
+
+void tst_PreviewRenderer::farStitchIsShownAtTheImagesOrigin()
+{
+    const QImage near = PreviewRenderer().render(polyline({{0, 0}, {100, 50}}), 400.0);
+    const QImage far = PreviewRenderer().render(polyline({{10000, 5000}, {10100, 5050}}), 400.0);
+    QCOMPARE(far.size(), near.size());
+    QCOMPARE(far.pixel(200, 100), near.pixel(200, 100));
+
+    // Stitching without a move starts at the origin; that segment is clipped.
+    const Pattern joined = EmbPattern::create();
+    joined->stitchAbs(1000, 1000);
+    joined->stitchAbs(1100, 1100);
+    const QImage clipped = PreviewRenderer().render(joined, 400.0);
+    QCOMPARE(clipped.size(), QSize(400, 400));
+    QCOMPARE(qAlpha(clipped.pixel(200, 200)), 255);
+}
+
+void tst_PreviewRenderer::shadeColor_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QVector3D>("normal");
+    QTest::addColumn<QColor>("expected");
+
+    const QVector3D towards = QVector3D(-0.5f, -0.5f, 1.0f).normalized();
+    const QVector3D away = -towards;
+    // Facing away leaves the ambient 179/255 alone.
+    QTest::newRow("away") << QColor(255, 100, 0) << away << QColor(179, 70, 0);
+    QTest::newRow("towards clips") << QColor(255, 100, 0) << towards << QColor(255, 170, 0);
+    QTest::newRow("upwards") << QColor(100, 100, 100) << QVector3D(0, 0, 1)
+                             << QColor(151, 151, 151);
+    QTest::newRow("alpha stays") << QColor(100, 100, 100, 51) << away << QColor(70, 70, 70, 51);
+}
+
+void tst_PreviewRenderer::shadeColor()
+{
+    QFETCH(QColor, color);
+    QFETCH(QVector3D, normal);
+    QFETCH(QColor, expected);
+    QCOMPARE(PreviewRenderer().shadeColor(color, normal), expected);
+}
+
+void tst_PreviewRenderer::colorConversions()
+{
+    QCOMPARE(PreviewRenderer::rgbVector(0xff3300ff), QVector3D(0.2f, 0.0f, 1.0f));
+    QVector4D v = PreviewRenderer::rgbaVector(0x663300ff);
+    QCOMPARE(v, QVector4D(0.2f, 0.0f, 1.0f, 0.4f));
+    v.setX(1.7f);
+    v.setY(0.999f);
+    QCOMPARE(PreviewRenderer::rgbaColor(v) & 0xffffff, 0xfffeffu);
+}
+
+QTEST_MAIN(tst_PreviewRenderer)
+#include "tst_previewrenderer.moc"
