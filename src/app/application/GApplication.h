@@ -1,0 +1,136 @@
+#pragma once
+
+#include "app/addons/GApplicationAddons.h"
+#include "app/base/ErrorCollector.h"
+#include "app/frame/GRecentFileProvider.h"
+
+#include <memory>
+#include <QAbstractNativeEventFilter>
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+
+class GAction;
+class GFileType;
+class GMainWindow;
+
+/**
+ * The frame's application object: the commands that belong to no window, the
+ * registry of windows, what opening a file means, the barrier that exceptions
+ * end at, and quitting. Main thread only.
+ */
+class GApplication : public QApplication,
+                     public GApplicationAddons,
+                     public QAbstractNativeEventFilter
+{
+    Q_OBJECT
+
+public:
+    GApplication(int &argc, char **argv, const QString &applicationName, const QString &version,
+                 const QString &shortName, bool singleWindowMode);
+    ~GApplication() override;
+
+    /** The application as this class; null when there is none or another one. */
+    static GApplication *instance();
+
+    /** Role of the about dialog in the object registry: made of one QWidget pointer. */
+    static const QString di_AboutDialog;
+
+    /** What belongs into the application menu, where the platform has one. */
+    virtual QList<GAction *> applicationMenuActions() const;
+    virtual QList<GAction *> applicationLevelFileActions() const;
+    virtual QList<GAction *> applicationLevelHelpActions() const;
+    virtual QList<GAction *> applicationLevelToolbarActions() const;
+    GAction *aboutAction() const;
+    GAction *preferencesAction() const;
+    GAction *tutorialsAction() const;
+    QMenu *windowMenu() const;
+
+    bool event(QEvent *event) override;
+    bool notify(QObject *receiver, QEvent *event) override;
+    bool nativeEventFilter(const QByteArray &eventType, void *message, long *result) override;
+
+    void registerMainWindow(GMainWindow *window);
+    void unregisterMainWindow(GMainWindow *window);
+    int mainWindowCount() const;
+
+    /** The active window, when it is one of ours; null otherwise. */
+    static GMainWindow *currentWindow();
+
+    GRecentFileProvider *recentFileProvider();
+    ErrorCollector &errorCollector();
+
+    /** This is the first start with these settings. */
+    bool isFirstStart() const;
+
+    /** From construction until finalizeStartup(): files to open wait meanwhile. */
+    bool isStartingUp() const;
+
+    /** A new hidden window for a file of this name; null when no type is registered. */
+    GMainWindow *newFile(const QString &fileName);
+
+public slots:
+    void openFile(QString fileName);
+
+    /** Closes the windows in order; false when the user kept one, and nothing is quit then. */
+    bool closeAllWindowsAndQuit();
+
+    virtual void newDocument();
+    virtual void openDocument();
+    /** These three belong to the product and do nothing at this level. */
+    virtual void showFeedbackDialog();
+    virtual void showPreferences();
+    virtual void updateCheck();
+    virtual void showAbout();
+    virtual void showDocumentation();
+    virtual void showTutorials();
+    virtual void showAcknowledgements();
+    void recentFileListRefreshed();
+    void updateWindowMenu();
+
+    /** The user asked for the program again: raises its windows or makes one. */
+    void onClickOnDock();
+
+signals:
+    void activate();
+    void fileOpenRequest();
+    /** May be emitted from any thread; the text is shown by the main thread. */
+    void criticalError(QString error);
+
+protected:
+    /** Ends the start-up and opens the files that came in meanwhile. */
+    void finalizeStartup();
+
+    /** Reports what is neither an Error nor to be shown as one. */
+    void reportException(const std::exception &exception);
+    static void logUnknownException();
+
+private:
+    void createApplicationLevelActions();
+    void createApplicationLevelMenuBar();
+    void displayCriticalError(const QString &text);
+    GMainWindow *windowShowing(const QString &fileName) const;
+    GMainWindow *lastUnusedWindowFor(const QString &fileName) const;
+    void loadInto(GMainWindow *window, const QString &fileName, bool reused);
+
+    QStringList m_filesToOpen;
+    bool m_singleWindowMode;
+    bool m_startingUp = true;
+    GRecentFileProvider m_recentFileProvider;
+    GAction *m_newAction = nullptr;
+    GAction *m_openAction = nullptr;
+    GAction *m_preferencesAction = nullptr;
+    GAction *m_aboutAction = nullptr;
+    GAction *m_documentationAction = nullptr;
+    GAction *m_tutorialsAction = nullptr;
+    GAction *m_acknowledgementsAction = nullptr;
+    GAction *m_feedbackAction = nullptr;
+    GAction *m_updateCheckAction = nullptr;
+    QList<QAction *> m_windowActions;
+    std::unique_ptr<QMenu> m_windowMenu;
+    std::unique_ptr<QMenuBar> m_menuBar;
+    bool m_quitting = false;
+    QList<GMainWindow *> m_mainWindows;
+    bool m_firstStart = false;
+    ErrorCollector m_errorCollector;
+};

@@ -1,0 +1,131 @@
+#include "app/application/HooplineApplication.h"
+
+#include "app/application/GMainWindow.h"
+#include "app/base/BuildConfig.h"
+#include "app/base/Error.h"
+#include "app/frame/GAction.h"
+#include "online/metrics/GlobalTracking.h"
+#include "online/metrics/Metrics.h"
+#include "widgets/style/WidgetStyles.h"
+
+#include <algorithm>
+#include <QIcon>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace {
+
+constexpr int NetworkDelay = 100;
+
+HooplineApplication::WindowFactory &windowFactory()
+{
+    static HooplineApplication::WindowFactory factory;
+    return factory;
+}
+
+HooplineApplication::PreferencesPresenter &preferencesPresenter()
+{
+    static HooplineApplication::PreferencesPresenter presenter;
+    return presenter;
+}
+
+} // namespace
+
+HooplineApplication::HooplineApplication(int &argc, char **argv)
+    : GApplication(argc, argv, QStringLiteral("Hoopline Organizer"),
+                   QString::fromLatin1(BuildConfig::Version), QStringLiteral("hl"), true)
+{
+    WidgetStyles::init();
+    setAttribute(Qt::AA_DisableWindowContextHelpButton);
+    setWindowIcon(QIcon(QStringLiteral(":/hoopline-mac.png")));
+    QTimer::singleShot(0, this, &HooplineApplication::launch);
+}
+
+HooplineApplication::~HooplineApplication() {}
+
+HooplineApplication *HooplineApplication::instance()
+{
+    return qobject_cast<HooplineApplication *>(GApplication::instance());
+}
+
+void HooplineApplication::setWindowFactory(const WindowFactory &factory)
+{
+    windowFactory() = factory;
+}
+
+void HooplineApplication::setPreferencesPresenter(const PreferencesPresenter &presenter)
+{
+    preferencesPresenter() = presenter;
+}
+
+QList<GAction *> HooplineApplication::applicationLevelFileActions() const
+{
+    return {};
+}
+
+QList<GAction *> HooplineApplication::applicationLevelHelpActions() const
+{
+    QList<GAction *> actions = GApplication::applicationLevelHelpActions();
+    const auto unwanted = [](const GAction *action) {
+        return action->objectName() == QLatin1String("documentation") ||
+               action->objectName() == QLatin1String("feedback");
+    };
+    actions.erase(std::remove_if(actions.begin(), actions.end(), unwanted), actions.end());
+    return actions;
+}
+
+QList<GAction *> HooplineApplication::applicationLevelToolbarActions() const
+{
+    return {};
+}
+
+QPixmap HooplineApplication::updaterPixmap() const
+{
+    return QPixmap(QStringLiteral(":/hoopline.png"));
+}
+
+bool HooplineApplication::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const Error &error) {
+        QMessageBox::critical(nullptr, tr("Error"), error.toString());
+    } catch (const std::exception &exception) {
+        reportException(exception);
+    } catch (...) {
+        logUnknownException();
+    }
+    return false;
+}
+
+void HooplineApplication::emitSyncGlobalSettings()
+{
+    emit syncGlobalSettings();
+}
+
+void HooplineApplication::newDocument()
+{
+    if (mainWindowCount() == 0)
+        windowFactory()()->show();
+}
+
+void HooplineApplication::showPreferences()
+{
+    preferencesPresenter()(currentWindow());
+}
+
+void HooplineApplication::launch()
+{
+    GlobalTracking::applicationStarted();
+    try {
+        GMainWindow *window = windowFactory()();
+        finalizeStartup();
+        window->show();
+        QTimer::singleShot(NetworkDelay, this, &HooplineApplication::launchAsyncNetworkTasks);
+    } catch (const Error &error) {
+        QMessageBox::critical(nullptr, tr("Error"), error.toString());
+        closeAllWindowsAndQuit();
+    }
+}
+
+void HooplineApplication::launchAsyncNetworkTasks() {}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/application/GApplication.h"
+
+#include <functional>
+
+/** The product's application: its brand, what is created at launch, its trimming of the menus. */
+class HooplineApplication : public GApplication
+{
+    Q_OBJECT
+
+public:
+    using WindowFactory = std::function<GMainWindow *()>;
+    using PreferencesPresenter = std::function<void(QWidget *)>;
+
+    HooplineApplication(int &argc, char **argv);
+    ~HooplineApplication() override;
+
+    /** The application as this class; null when there is none or another one. */
+    static HooplineApplication *instance();
+
+    /**
+     * Tells how the product's window is made and how its preferences are shown
+     * over a parent, which may be null. The application knows neither by itself,
+     * since both stand above it. To be set before the event loop turns.
+     */
+    static void setWindowFactory(const WindowFactory &factory);
+    static void setPreferencesPresenter(const PreferencesPresenter &presenter);
+
+    QList<GAction *> applicationLevelFileActions() const override;
+    QList<GAction *> applicationLevelHelpActions() const override;
+    QList<GAction *> applicationLevelToolbarActions() const override;
+    QPixmap updaterPixmap() const override;
+
+    /** Shows an Error to the user and goes on; nothing thrown by a handler ends the program. */
+    bool notify(QObject *receiver, QEvent *event) override;
+
+    /** Says that a setting which widgets keep a copy of has changed. */
+    void emitSyncGlobalSettings();
+
+public slots:
+    /** Makes the window, unless there is one. */
+    void newDocument() override;
+    void showPreferences() override;
+    void launch();
+    void launchAsyncNetworkTasks();
+
+signals:
+    /** Widgets that keep a copy of a setting read it again. */
+    void syncGlobalSettings();
+};

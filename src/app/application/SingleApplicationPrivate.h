@@ -1,0 +1,88 @@
+#pragma once
+
+#include "app/application/SingleApplication.h"
+#include "app/base/InstanceBlock.h"
+
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QLockFile>
+#include <QMap>
+#include <QSharedMemory>
+
+/**
+ * The guard behind SingleApplication: the shared-memory block, the primary's
+ * local server and the talk between the processes. What a client sends is not
+ * trusted: one that is too slow, too long or wrong is dropped.
+ */
+class SingleApplicationPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** As sent on the wire. */
+    enum class ConnectionType : quint8 {
+        Invalid = 0,
+        NewInstance = 1,
+        SecondaryInstance = 2,
+        Reconnect = 3,
+    };
+
+    /** How far a client has come. */
+    enum class Stage : quint8 { Header = 0, Body = 1, Connected = 2 };
+
+    struct ConnectionInfo
+    {
+        quint64 msgLen = 0;
+        quint32 instanceId = 0;
+        Stage stage = Stage::Header;
+    };
+
+    /** Longest body of an init message, in bytes; ours is 55 bytes long. */
+    static constexpr quint64 MaxInitMessageLength = 1024;
+    /** A client that has not introduced itself by then is dropped; milliseconds. */
+    static constexpr int InitMessageTimeout = 3000;
+
+    SingleApplicationPrivate(SingleApplication *owner, SingleApplication::Options options);
+    /** Gives up the role in the block and the server. */
+    ~SingleApplicationPrivate() override;
+
+    /** Waits, though not for ever, until no other process is coming or going. */
+    void enterStart();
+
+    /** Makes or joins the block; false when neither is possible. */
+    bool openMemoryBlock();
+
+    /** The block; to be touched only while it is locked. */
+    InstanceBlock *block() const;
+
+    void startPrimary();
+    /** Announces this process; returns silently when the primary can't be reached. */
+    void connectToPrimary(int timeout, ConnectionType type);
+
+    /** The init message of a client, header included. */
+    QByteArray initMessage(ConnectionType type) const;
+
+    static QString getUsername();
+    static QString genBlockServerName(SingleApplication::Options options);
+
+    SingleApplication *const owner;
+    std::unique_ptr<QSharedMemory> memory;
+    std::unique_ptr<QLocalSocket> socket;
+    std::unique_ptr<QLocalServer> server;
+    quint32 instanceNumber = quint32(-1);
+    const SingleApplication::Options options;
+    const QString blockServerName;
+    /** Lets one process at a time come or go: the lock of a QSharedMemory that is being made or
+     * removed does not hold. */
+    QLockFile startLock;
+
+private:
+    void slotConnectionEstablished();
+    void readFrom(QLocalSocket *client);
+    void readInitMessageHeader(QLocalSocket *client);
+    void readInitMessageBody(QLocalSocket *client);
+    void slotDataAvailable(QLocalSocket *client, quint32 instanceId);
+    void drop(QLocalSocket *client);
+
+    QMap<QLocalSocket *, ConnectionInfo> m_connectionMap;
+};

@@ -1,0 +1,329 @@
+#include "TestWindow.h"
+
+#include "app/application/HooplineApplication.h"
+#include "app/base/Error.h"
+#include "app/frame/GAction.h"
+
+#include <QAbstractButton>
+#include <QFileOpenEvent>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QSplitter>
+#include <QtTest>
+
+namespace {
+
+/** Throws what it is told to when an event arrives. */
+class Thrower : public QObject
+{
+public:
+    std::function<void()> action;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::User)
+            action();
+        return QObject::event(event);
+    }
+};
+
+/** Answers the next message box and keeps its texts. */
+class BoxAnswer : public QObject
+{
+public:
+    explicit BoxAnswer(QMessageBox::StandardButton button)
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this, button] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                title = box->windowTitle();
+                text = box->text();
+                ++count;
+                box->button(button)->click();
+            }
+        });
+        m_timer.start(10);
+    }
+
+    QString title;
+    QString text;
+    int count = 0;
+
+private:
+    QTimer m_timer;
+};
+
+HooplineApplication *app()
+{
+    return HooplineApplication::instance();
+}
+
+GMainWindow *theWindow()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *window = qobject_cast<GMainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_application : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void queuesFilesUntilStarted();
+    void namesItself();
+    void offersHelpWithoutDocumentationAndFeedback();
+    void barrierShowsErrors();
+    void barrierReportsExceptions();
+    void barrierSwallowsTheUnknown();
+    void makesOneWindowOnly();
+    void raisesWindowOrMakesOne();
+    void dropsFilesWhileModal();
+    void staysUpWithoutWindows();
+    void cancelledQuitKeepsTheProgram();
+    void listsWindows();
+    void keepsWindowState();
+    void hiddenWindowStoresNothing();
+    void closesOnceConfirmed();
+    void tellsOfChangedSettings();
+};
+
+void tst_application::init()
+{
+    HooplineApplication::setWindowFactory([] { return new TestWindow; });
+}
+
+void tst_application::cleanup()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (qobject_cast<GMainWindow *>(widget))
+            delete widget;
+    }
+    GSettings().flushSettings({});
+}
+
+// First, since it is the launch that makes the one window of the start.
+void tst_application::queuesFilesUntilStarted()
+{
+    QPointer<TestWindow> window;
+    HooplineApplication::setWindowFactory([&window] { return window = new TestWindow; });
+    QFileOpenEvent open(QStringLiteral("/designs/rose.dst"));
+    QSignalSpy request(app(), &GApplication::fileOpenRequest);
+    QCoreApplication::sendEvent(app(), &open);
+    app()->onClickOnDock();
+    QVERIFY(app()->isStartingUp());
+    QCOMPARE(app()->mainWindowCount(), 0);
+    QTRY_VERIFY(window && window->isVisible());
+    QVERIFY(!app()->isStartingUp());
+    QCOMPARE(app()->mainWindowCount(), 1);
+    // No file type is registered, so that the request comes to nothing.
+    QCOMPARE(request.count(), 0);
+}
+
+void tst_application::namesItself()
+{
+    QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Hoopline Organizer"));
+    QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.1.4"));
+    QCOMPARE(app()->shortName(), QStringLiteral("hl"));
+    QVERIFY(!QApplication::quitOnLastWindowClosed());
+    QCOMPARE(QDir::currentPath(), QDir::homePath());
+}
+
+void tst_application::offersHelpWithoutDocumentationAndFeedback()
+{
+    QStringList texts;
+    const auto actions = app()->applicationLevelHelpActions();
+    for (const GAction *action : actions)
+        texts.append(action->text());
+    QCOMPARE(texts,
+             (QStringList{QStringLiteral("Tutorials..."), QStringLiteral("Acknowledgements..."),
+                          QStringLiteral("Check for updates ...")}));
+    QVERIFY(app()->applicationLevelFileActions().isEmpty());
+}
+
+void tst_application::barrierShowsErrors()
+{
+    Thrower thrower;
+    thrower.action = [] { throw ErrorDoesNotExist(QStringLiteral("The disk is full.")); };
+    BoxAnswer answer(QMessageBox::Ok);
+    QEvent event(QEvent::User);
+    QVERIFY(!QCoreApplication::sendEvent(&thrower, &event));
+    QCOMPARE(answer.count, 1);
+    QCOMPARE(answer.title, QStringLiteral("Error"));
+    QCOMPARE(answer.text, QStringLiteral("The disk is full."));
+}
+
+void tst_application::barrierReportsExceptions()
+{
+    Thrower thrower;
+    thrower.action = [] { throw std::runtime_error("out of thread"); };
+    BoxAnswer answer(QMessageBox::Ok);
+    QEvent event(QEvent::User);
+    QVERIFY(!QCoreApplication::sendEvent(&thrower, &event));
+    QCOMPARE(answer.count, 1);
+    QCOMPARE(answer.title, QStringLiteral("Critical Exception"));
+    QVERIFY(answer.text.startsWith(
+        QStringLiteral("Caught unhandled exception:<br/>out of thread<br/>Please report to ")));
+    QVERIFY(answer.text.contains(QStringLiteral("mailto:")));
+}
+
+void tst_application::barrierSwallowsTheUnknown()
+{
+    Thrower thrower;
+    thrower.action = [] { throw 42; };
+    BoxAnswer answer(QMessageBox::Ok);
+    QEvent event(QEvent::User);
+    QVERIFY(!QCoreApplication::sendEvent(&thrower, &event));
+    QCOMPARE(answer.count, 0);
+}
+
+void tst_application::makesOneWindowOnly()
+{
+    app()->newDocument();
+    app()->newDocument();
+    QCOMPARE(app()->mainWindowCount(), 1);
+}
+
+void tst_application::raisesWindowOrMakesOne()
+{
+    app()->onClickOnDock();
+    QCOMPARE(app()->mainWindowCount(), 1);
+    GMainWindow *window = theWindow();
+    window->showMinimized();
+    app()->onClickOnDock();
+    QCOMPARE(app()->mainWindowCount(), 1);
+    QVERIFY(!window->isMinimized());
+}
+
+void tst_application::dropsFilesWhileModal()
+{
+    TestWindow window;
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QSignalSpy request(app(), &GApplication::fileOpenRequest);
+    app()->openFile(QStringLiteral("/designs/rose.dst"));
+    QCOMPARE(request.count(), 0);
+}
+
+void tst_application::staysUpWithoutWindows()
+{
+    QSignalSpy aboutToQuit(app(), &QCoreApplication::aboutToQuit);
+    app()->newDocument();
+    GMainWindow *window = theWindow();
+    QVERIFY(window->closeWindow());
+    QTRY_COMPARE(app()->mainWindowCount(), 0);
+    QTest::qWait(20);
+    QCOMPARE(aboutToQuit.count(), 0);
+}
+
+void tst_application::cancelledQuitKeepsTheProgram()
+{
+    QPointer<TestWindow> first = new TestWindow;
+    QPointer<TestWindow> second = new TestWindow;
+    second->modified = true;
+    first->show();
+    second->show();
+    BoxAnswer answer(QMessageBox::Cancel);
+    QVERIFY(!app()->closeAllWindowsAndQuit());
+    QCOMPARE(answer.text, QStringLiteral("The document has been modified."));
+    QTRY_VERIFY(!first);
+    QVERIFY(second && second->isVisible());
+}
+
+void tst_application::listsWindows()
+{
+    TestWindow untitled;
+    auto named = std::make_unique<TestWindow>();
+    named->setCurrentFileName(QStringLiteral("/designs/rose.dst"));
+    emit app()->windowMenu()->aboutToShow();
+    const auto actions = app()->windowMenu()->actions();
+    QCOMPARE(actions.size(), 2);
+    QCOMPARE(actions.at(0)->text(), QStringLiteral("untitled document"));
+    QCOMPARE(actions.at(1)->text(), QStringLiteral("/designs/rose.dst"));
+    named.reset();
+    emit app()->windowMenu()->aboutToShow();
+    QCOMPARE(app()->windowMenu()->actions().size(), 1);
+}
+
+void tst_application::keepsWindowState()
+{
+    const auto create = [] {
+        auto window = std::make_unique<TestWindow>();
+        auto *splitter = new QSplitter(window.get());
+        splitter->setObjectName(QStringLiteral("panes"));
+        splitter->addWidget(new QWidget);
+        splitter->addWidget(new QWidget);
+        window->setCentralWidget(splitter);
+        return window;
+    };
+    {
+        auto window = create();
+        window->setGeometry(60, 70, 420, 310);
+        window->show();
+        window->findChild<QSplitter *>()->setSizes({100, 300});
+        window->saveWindowState(QString());
+    }
+    const QString key = QStringLiteral("windowSettings/");
+    QVERIFY(GSettings().contains(key + QStringLiteral("geometry")));
+    QVERIFY(GSettings().contains(key + QStringLiteral("windowState")));
+    QVERIFY(GSettings().contains(key + QStringLiteral("panes")));
+    auto window = create();
+    window->restoreWindowState(QString());
+    QVERIFY(window->isHidden());
+    QCOMPARE(window->size(), QSize(420, 310));
+    QCOMPARE(window->property("own").toString(), QStringLiteral("stored"));
+    const auto sizes = window->findChild<QSplitter *>()->sizes();
+    QVERIFY(sizes.at(1) > 2 * sizes.at(0));
+
+    window->setCurrentFileName(QStringLiteral("/a b/rose-1.dst"));
+    window->show();
+    window->saveWindowState(QString());
+    QVERIFY(GSettings().contains(key + QStringLiteral("abrose1dst/geometry")));
+}
+
+void tst_application::hiddenWindowStoresNothing()
+{
+    TestWindow window;
+    window.saveWindowState(QString());
+    QVERIFY(!GSettings().contains(QStringLiteral("windowSettings/geometry")));
+}
+
+void tst_application::closesOnceConfirmed()
+{
+    QPointer<TestWindow> window = new TestWindow;
+    window->modified = true;
+    window->menuBar()->addMenu(QStringLiteral("File"));
+    window->show();
+    BoxAnswer answer(QMessageBox::Discard);
+    QVERIFY(window->closeWindow());
+    QTRY_VERIFY(!window);
+    QCOMPARE(answer.count, 1);
+    QVERIFY(GSettings().contains(QStringLiteral("windowSettings/geometry")));
+}
+
+void tst_application::tellsOfChangedSettings()
+{
+    QSignalSpy sync(app(), &HooplineApplication::syncGlobalSettings);
+    app()->emitSyncGlobalSettings();
+    QCOMPARE(sync.count(), 1);
+}
+
+int main(int argc, char **argv)
+{
+    HooplineApplication application(argc, argv);
+    tst_application test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_application.moc"
