@@ -1,0 +1,58 @@
+#include "catalogue/records/LocaleAwareFunctions.h"
+
+#include "catalogue/records/IFile.h"
+
+#include <algorithm>
+#include <QLocale>
+#include <utility>
+#include <vector>
+
+/** Sorts by the collation key of @p textOf each element, made once per element. */
+template <class T, class TextOf>
+static void sortByKey(QList<T> &list, TextOf textOf)
+{
+    if (list.count() < 2)
+        return;
+    const QCollator collator = LocaleAwareFunctions::collator();
+    std::vector<std::pair<QCollatorSortKey, T>> keyed;
+    keyed.reserve(std::size_t(list.count()));
+    for (const T &element : std::as_const(list))
+        keyed.emplace_back(collator.sortKey(textOf(element)), element);
+    std::stable_sort(keyed.begin(), keyed.end(),
+                     [](const auto &a, const auto &b) { return a.first.compare(b.first) < 0; });
+    std::transform(keyed.begin(), keyed.end(), list.begin(),
+                   [](const auto &entry) { return entry.second; });
+}
+
+void LocaleAwareFunctions::sort(QStringList &list)
+{
+    sortByKey<QString>(list, [](const QString &text) { return text; });
+}
+
+void LocaleAwareFunctions::sort(QList<QSharedPointer<IFile>> &files)
+{
+    sortByKey(files, [](const QSharedPointer<IFile> &file) { return file->absoluteFilePath(); });
+}
+
+QString LocaleAwareFunctions::toString(const QSizeF &size, bool inch)
+{
+    if (size.width() < 0 || size.height() < 0)
+        return {};
+    const double unit = inch ? 25.4 : 1.0;
+    const int precision = inch ? 1 : 0;
+    const QString pattern = inch ? QStringLiteral("%1\" x %2\"") : QStringLiteral("%1mm x %2mm");
+    return pattern.arg(size.width() / unit, 0, 'f', precision)
+        .arg(size.height() / unit, 0, 'f', precision);
+}
+
+QCollator LocaleAwareFunctions::collator()
+{
+    QLocale locale = QLocale::system();
+    // The C locale compares code by code and knows no natural order.
+    if (locale.language() == QLocale::C)
+        locale = QLocale(QLocale::English);
+    QCollator collator(locale);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    collator.setNumericMode(true);
+    return collator;
+}

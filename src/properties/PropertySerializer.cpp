@@ -1,0 +1,3 @@
+#include "properties/PropertySerializer.h"
+
+void PropertySerializer::saveBinaryLargeObject(const QString &, const QByteArray &) {}

@@ -1,0 +1,225 @@
+#include "properties/XmlTools.h"
+
+#include "app/base/Error.h"
+#include "properties/XmlAttributeOrder.h"
+
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTextStream>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+static void requireUtf8(const QByteArray &data)
+{
+    static const QRegularExpression encoding(QStringLiteral("encoding=['\"](.*?)['\"]"));
+    const QString declaration = QString::fromLatin1(data.left(data.indexOf("?>") + 2));
+    const QRegularExpressionMatch match = encoding.match(declaration);
+    if (match.hasMatch() && match.captured(1) != QLatin1String("UTF-8"))
+        throw Error(QStringLiteral("Glossmark only supports UTF-8 encoded XML files"));
+}
+
+static QDomElement createElement(QDomDocument &document, const QXmlStreamReader &reader,
+                                 XmlAttributeOrder *order)
+{
+    QDomElement element = document.createElement(reader.qualifiedName().toString());
+    const QXmlStreamAttributes attributes = reader.attributes();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+    if (order)
+        order->addElement(element.tagName(), attributes);
+    return element;
+}
+
+static QDomNode createCharacters(QDomDocument &document, const QXmlStreamReader &reader)
+{
+    const QString text = reader.text().toString();
+    if (reader.isCDATA())
+        return document.createCDATASection(text);
+    return document.createTextNode(text);
+}
+
+void XmlTools::readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomNode parent,
+                            XmlAttributeOrder *order)
+{
+    int depth = 0;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            if (++depth > MaximumDepth) {
+                reader.raiseError(QStringLiteral("Elements are nested too deeply."));
+                return;
+            }
+            parent = parent.appendChild(createElement(document, reader, order));
+            break;
+        case QXmlStreamReader::EndElement:
+            if (--depth < 0)
+                return;
+            parent = parent.parentNode();
+            break;
+        case QXmlStreamReader::Characters:
+            parent.appendChild(createCharacters(document, reader));
+            break;
+        case QXmlStreamReader::Comment:
+            parent.appendChild(document.createComment(reader.text().toString()));
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
+                     QString *errorText, int *errorLine)
+{
+    requireUtf8(data);
+    document = QDomDocument();
+    QXmlStreamReader reader(data);
+    reader.setNamespaceProcessing(false);
+    readChildren(reader, document, document, order);
+    if (!reader.hasError())
+        return true;
+    if (errorText)
+        *errorText = reader.errorString();
+    if (errorLine)
+        *errorLine = int(reader.lineNumber());
+    return false;
+}
+
+static bool isValidCharacter(const QString &text, int i)
+{
+    const QChar c = text.at(i);
+    if (c.isHighSurrogate())
+        return i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+    if (c.isLowSurrogate())
+        return i > 0 && text.at(i - 1).isHighSurrogate();
+    const ushort code = c.unicode();
+    return (code >= 0x20 && code < 0xfffe) || code == '\t' || code == '\n' || code == '\r';
+}
+
+QString XmlTools::withoutInvalidCharacters(const QString &text)
+{
+    int i = 0;
+    while (i < text.size() && isValidCharacter(text, i))
+        ++i;
+    if (i == text.size())
+        return text;
+    QString valid = text.left(i);
+    for (; i < text.size(); ++i) {
+        if (isValidCharacter(text, i))
+            valid.append(text.at(i));
+    }
+    return valid;
+}
+
+/** Carriage returns go as references, since whoever parses plain ones makes newlines of them. */
+static void writeText(QXmlStreamWriter &writer, const QString &text)
+{
+    const QStringList parts = XmlTools::withoutInvalidCharacters(text).split(QLatin1Char('\r'));
+    for (int i = 0; i < parts.count(); ++i) {
+        if (i > 0)
+            writer.writeEntityReference(QStringLiteral("#13"));
+        writer.writeCharacters(parts.at(i));
+    }
+}
+
+static QXmlStreamAttributes validAttributes(const QXmlStreamAttributes &attributes)
+{
+    QXmlStreamAttributes valid;
+    for (const QXmlStreamAttribute &attribute : attributes)
+        valid.append(
+            QXmlStreamAttribute(attribute.namespaceUri().toString(), attribute.name().toString(),
+                                XmlTools::withoutInvalidCharacters(attribute.value().toString())));
+    return valid;
+}
+
+static void writeChildren(QXmlStreamWriter &writer, const QDomNode &node, XmlAttributeOrder *order,
+                          const QStringList &verbatimTags)
+{
+    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
+        XmlTools::serialize(writer, child, order, verbatimTags);
+}
+
+static void writeElement(QXmlStreamWriter &writer, const QDomElement &element,
+                         XmlAttributeOrder *order, const QStringList &verbatimTags)
+{
+    const bool wasFormatting = writer.autoFormatting();
+    writer.writeStartElement(element.tagName());
+    if (verbatimTags.contains(element.tagName()))
+        writer.setAutoFormatting(false);
+    writer.writeAttributes(validAttributes(order->getOrderedAttributeNames(element)));
+    writeChildren(writer, element, order, verbatimTags);
+    writer.writeEndElement();
+    writer.setAutoFormatting(wasFormatting);
+}
+
+QByteArray XmlTools::serialize(const QDomDocument &document, XmlAttributeOrder *order,
+                               const QStringList &verbatimTags, int indent)
+{
+    QByteArray bytes;
+    QXmlStreamWriter writer(&bytes);
+    writer.setCodec("UTF-8");
+    writer.setAutoFormatting(true);
+    writer.setAutoFormattingIndent(indent);
+    serialize(writer, document, order, verbatimTags);
+    return bytes;
+}
+
+void XmlTools::serialize(QXmlStreamWriter &writer, const QDomNode &node, XmlAttributeOrder *order,
+                         const QStringList &verbatimTags)
+{
+    switch (node.nodeType()) {
+    case QDomNode::DocumentNode:
+        writer.writeStartDocument(QStringLiteral("1.0"));
+        writer.writeCharacters(QStringLiteral("\n"));
+        serialize(writer, node.toDocument().documentElement(), order, verbatimTags);
+        writer.writeEndDocument();
+        break;
+    case QDomNode::ElementNode:
+        writeElement(writer, node.toElement(), order, verbatimTags);
+        break;
+    case QDomNode::TextNode:
+        if (!writer.autoFormatting() || !node.nodeValue().simplified().isEmpty())
+            writeText(writer, node.nodeValue());
+        break;
+    case QDomNode::CDATASectionNode:
+        writer.writeCDATA(withoutInvalidCharacters(node.nodeValue()));
+        break;
+    case QDomNode::EntityReferenceNode:
+        writer.writeEntityReference(node.nodeName());
+        break;
+    case QDomNode::CommentNode:
+        writer.writeComment(withoutInvalidCharacters(node.nodeValue()));
+        break;
+    case QDomNode::AttributeNode:
+        writer.writeAttribute(node.nodeName(), withoutInvalidCharacters(node.nodeValue()));
+        break;
+    default:
+        break;
+    }
+}
+
+QString XmlTools::xmlContent(const QDomElement &element)
+{
+    QByteArray bytes;
+    QTextStream stream(&bytes);
+    stream.setCodec("UTF-8");
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling())
+        child.save(stream, -1, QDomNode::EncodingFromTextStream);
+    stream.flush();
+    return QString::fromUtf8(bytes);
+}
+
+void XmlTools::setXmlContent(QDomDocument &document, QDomElement &element, const QString &content)
+{
+    while (element.hasChildNodes())
+        element.removeChild(element.firstChild());
+    QDomDocument wrapper;
+    const QByteArray xml = "<root>" + content.toUtf8() + "</root>";
+    if (!parse(wrapper, xml, nullptr, nullptr, nullptr)) {
+        element.appendChild(document.createTextNode(content));
+        return;
+    }
+    for (QDomNode child = wrapper.documentElement().firstChild(); !child.isNull();
+         child = child.nextSibling())
+        element.appendChild(document.importNode(child, true));
+}

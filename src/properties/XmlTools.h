@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class QDomDocument;
+class QDomElement;
+class QDomNode;
+class QXmlStreamReader;
+class QXmlStreamWriter;
+class XmlAttributeOrder;
+
+/** The step between XML documents and bytes. */
+class XmlTools
+{
+public:
+    /** Elements nested deeper than this are refused: whoever walks them recurses. */
+    static constexpr int MaximumDepth = 256;
+
+    /**
+     * Replaces @p document by what @p data holds. Returns false for malformed XML and
+     * tells the error and its line, where the pointers aren't null. @p order, which
+     * may be null, learns the order of the attributes. Throws Error when an encoding
+     * other than UTF-8 is declared.
+     */
+    static bool parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
+                      QString *errorText, int *errorLine);
+
+    /**
+     * The document as UTF-8, indented by @p indent blanks. Texts of blanks only are
+     * dropped, but not in elements named in @p verbatimTags. Characters that XML can't
+     * hold are dropped.
+     */
+    static QByteArray serialize(const QDomDocument &document, XmlAttributeOrder *order,
+                                const QStringList &verbatimTags, int indent);
+    static void serialize(QXmlStreamWriter &writer, const QDomNode &node, XmlAttributeOrder *order,
+                          const QStringList &verbatimTags);
+
+    /** The children of @p element as XML text. */
+    static QString xmlContent(const QDomElement &element);
+
+    /** Replaces the children by @p content: by its markup if well-formed, else as text. */
+    static void setXmlContent(QDomDocument &document, QDomElement &element, const QString &content);
+
+    /** @p text without the characters that XML can't hold. */
+    static QString withoutInvalidCharacters(const QString &text);
+
+    /**
+     * Builds the children of @p parent from @p reader, up to the end of the element
+     * that it stands in. Errors, too deep nesting among them, stay in @p reader.
+     */
+    static void readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomNode parent,
+                             XmlAttributeOrder *order = nullptr);
+};
