@@ -1,0 +1,165 @@
+#include "catalogue/models/FilterModel.h"
+
+#include "catalogue/records/Project.h"
+
+FilterModel::FilterModel(const QSharedPointer<Project> &project) : m_project(project)
+{
+    m_project->filesProp()->registerObserver(this);
+    watchFiles();
+    updateFilterListForAllFilesAndEmitChange();
+}
+
+void FilterModel::setDirectory(const QString &path)
+{
+    if (path == m_directoryFilter)
+        return;
+    m_directoryFilter = path;
+    updateFilterListForAllFilesAndEmitChange();
+    emit directoryFilterChanged(path);
+}
+
+void FilterModel::setTag(const QString &tag)
+{
+    if (tag == m_tagFilter)
+        return;
+    m_tagFilter = tag;
+    updateFilterListForAllFilesAndEmitChange();
+    emit tagFilterChanged(tag);
+}
+
+void FilterModel::setFileType(const QString &type)
+{
+    m_fileType = type.toLower();
+    updateFilterListForAllFilesAndEmitChange();
+}
+
+void FilterModel::setMaxDesignSize(const QSizeF &size)
+{
+    m_maxDesignSize = size;
+    updateFilterListForAllFilesAndEmitChange();
+}
+
+void FilterModel::setSearchSubstring(const QString &text)
+{
+    m_searchExpression.setText(text);
+    updateFilterListForAllFilesAndEmitChange();
+}
+
+void FilterModel::setFavoritesOnly(bool favoritesOnly)
+{
+    m_favoritesOnly = favoritesOnly;
+    updateFilterListForAllFilesAndEmitChange();
+}
+
+void FilterModel::refreshFilter()
+{
+    observedObjectChanged(m_project->filesProp());
+}
+
+QList<QSharedPointer<IFile>> FilterModel::filteredFiles() const
+{
+    if (m_filteredFilesAreValid)
+        return m_filteredFiles;
+    m_filteredFiles.clear();
+    m_filteredFiles.reserve(m_filteredSet.count());
+    for (const QSharedPointer<IFile> &file : orderedFiles()) {
+        if (m_filteredSet.contains(file))
+            m_filteredFiles.append(file);
+    }
+    m_filteredFilesAreValid = true;
+    return m_filteredFiles;
+}
+
+const QList<QSharedPointer<IFile>> &FilterModel::orderedFiles() const
+{
+    if (!m_orderIsValid) {
+        m_order.setFiles(m_watchedFiles);
+        m_orderIsValid = true;
+    }
+    return m_order.files();
+}
+
+void FilterModel::observedObjectChanged(const Observable *observable)
+{
+    if (observable == m_project->filesProp()) {
+        watchFiles();
+        updateFilterListForAllFilesAndEmitChange();
+        return;
+    }
+    const QSharedPointer<IFile> file = m_observedProperties.value(observable);
+    if (!file)
+        return;
+    if (observable == file->absoluteFilePathProp()) {
+        m_orderIsValid = false;
+        m_filteredFilesAreValid = false;
+    }
+    updateFilterListForSingleFileAndEmitChange(file);
+}
+
+void FilterModel::watchFiles()
+{
+    const QList<QSharedPointer<IFile>> files = m_project->files();
+    if (files == m_watchedFiles)
+        return;
+    m_watchedFiles = files;
+    m_orderIsValid = false;
+    m_filteredFilesAreValid = false;
+    m_observedProperties.clear();
+    m_observedProperties.reserve(3 * files.count());
+    for (const QSharedPointer<IFile> &file : files) {
+        const std::initializer_list<const Observable *> watched = {
+            file->absoluteFilePathProp(), file->tagsProp(), file->designSizeProp()};
+        for (const Observable *property : watched) {
+            property->registerObserver(this);
+            m_observedProperties.insert(property, file);
+        }
+    }
+}
+
+bool FilterModel::matchesFilter(const QSharedPointer<IFile> &file) const
+{
+    const QString path = file->absoluteFilePath();
+    if (!m_directoryFilter.isEmpty() && !path.startsWith(m_directoryFilter))
+        return false;
+    if (m_favoritesOnly && !file->isFavorite())
+        return false;
+    if (!m_tagFilter.isEmpty() && !file->tags().contains(m_tagFilter))
+        return false;
+    if (!m_fileType.isEmpty() && !path.toLower().endsWith(QLatin1Char('.') + m_fileType))
+        return false;
+    const QSizeF size = file->designSize();
+    if (m_maxDesignSize.width() >= 0 && size.width() > m_maxDesignSize.width())
+        return false;
+    if (m_maxDesignSize.height() >= 0 && size.height() > m_maxDesignSize.height())
+        return false;
+    return m_searchExpression.matches(*file);
+}
+
+void FilterModel::updateFilterListForAllFilesAndEmitChange()
+{
+    QList<QSharedPointer<IFile>> matching;
+    for (const QSharedPointer<IFile> &file : orderedFiles()) {
+        if (matchesFilter(file))
+            matching.append(file);
+    }
+    if (matching == filteredFiles() && matching.count() == m_filteredSet.count())
+        return;
+    m_filteredSet = QSet<QSharedPointer<IFile>>(matching.cbegin(), matching.cend());
+    m_filteredFiles = matching;
+    m_filteredFilesAreValid = true;
+    emit filterChanged(matching);
+}
+
+void FilterModel::updateFilterListForSingleFileAndEmitChange(const QSharedPointer<IFile> &file)
+{
+    const bool wasIn = m_filteredSet.contains(file);
+    const bool isIn = matchesFilter(file);
+    if (wasIn == isIn)
+        return;
+    if (isIn)
+        m_filteredSet.insert(file);
+    else
+        m_filteredSet.remove(file);
+    m_filteredFilesAreValid = false;
+    emit filterChanged(filteredFiles());
+}
