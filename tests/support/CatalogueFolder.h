@@ -1,0 +1,53 @@
+#pragma once
+
+#include "app/base/GlobalSettings.h"
+#include "app/base/GSettings.h"
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+
+/** A throw-away profile and, beside it, a folder for designs; new settings while it lives. */
+class CatalogueFolder
+{
+public:
+    CatalogueFolder()
+    {
+        GSettings::setIniFile(m_root.filePath(QStringLiteral("settings.ini")));
+        GlobalSettings().setApplicationDataPath(m_root.filePath(QStringLiteral("data")));
+        QDir(m_root.path()).mkpath(QStringLiteral("designs"));
+    }
+    ~CatalogueFolder() { GSettings::setIniFile(QString()); }
+
+    QString designs() const { return m_root.filePath(QStringLiteral("designs")); }
+    QString design(const QString &name) const { return designs() + QLatin1Char('/') + name; }
+    QString dataFile(const QString &name) const
+    {
+        return m_root.filePath(QStringLiteral("data/")) + name;
+    }
+    QString catalogueFile() const { return dataFile(QStringLiteral("hoopline-organizer.xml")); }
+
+    /** Sets the modification time, to the second. */
+    static bool setDate(const QString &path, const QDateTime &date)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadWrite) &&
+               file.setFileTime(date, QFileDevice::FileModificationTime);
+    }
+
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    static bool write(const QString &path, const QByteArray &bytes)
+    {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    }
+
+private:
+    QTemporaryDir m_root;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/base/IProgressAbortListener.h"
+#include <functional>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/** Notes what long work reports, and lets a test step in at each report. */
+class ScriptedListener : public IProgressAbortListener
+{
+public:
+    void setSteps(int count) override { steps.append(count); }
+    void proceed(const QString &text) override
+    {
+        texts.append(text);
+        if (onProceed)
+            onProceed(text);
+    }
+    int abortState() const override { return aborted ? 2 : 0; }
+
+    QList<int> steps;
+    QStringList texts;
+    std::function<void(const QString &)> onProceed;
+    bool aborted = false;
+};
