@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/base/GlobalSettings.h"
+#include "catalogue/records/IFile.h"
+#include "preview/cache/PreviewCacheWorker.h"
+#include <QByteArray>
+#include <QCache>
+#include <QMultiHash>
+#include <QObject>
+#include <QPixmap>
+#include <QSharedPointer>
+
+class PreviewCacheListener;
+
+/**
+ * The previews in memory. Answers at once, with a placeholder where the preview
+ * has to be loaded first; a worker thread does the loading. GUI thread only.
+ */
+class PreviewCache : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Made at first use, which needs the application object; destroyed at exit. */
+    static PreviewCache &instance();
+
+    /**
+     * The preview of `file`, or the placeholder while it is loaded. `listener`,
+     * which may be null, is told once when it has arrived.
+     */
+    QPixmap previewImage(const QSharedPointer<IFile> &file, PreviewCacheListener *listener);
+
+    /** Forgets what `listener` waits for; loads under way still fill the cache. */
+    void dropRequestsOfListener(PreviewCacheListener *listener);
+
+    /** Empties the memory. Open requests stay and are answered as usual. */
+    void clear();
+
+public slots:
+    /** Keeps `image` for `key` and tells whoever waits for it. */
+    void previewLoaded(QByteArray key, QImage image);
+
+signals:
+    /** Asks the worker for the file at `path`. */
+    void loadPreview(QByteArray key, QString path);
+
+private:
+    PreviewCache();
+
+    QPixmap m_loadingImage;
+    PreviewCacheWorker m_worker;
+    QCache<QByteArray, QPixmap> m_cache;
+    GlobalSettings m_settings;
+    QMultiHash<PreviewCacheListener *, QByteArray> m_listenerRequests;
+    QMultiHash<QByteArray, PreviewCacheListener *> m_keyRequests;
+};

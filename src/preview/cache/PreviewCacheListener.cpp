@@ -1,0 +1,8 @@
+#include "preview/cache/PreviewCacheListener.h"
+
+#include "preview/cache/PreviewCache.h"
+
+PreviewCacheListener::~PreviewCacheListener()
+{
+    PreviewCache::instance().dropRequestsOfListener(this);
+}

@@ -1,0 +1,48 @@
+#include "preview/cache/PreviewCacheWorker.h"
+
+#include <QImageReader>
+
+namespace {
+
+// Previews are 400 pixels wide. A file far beyond that is none of ours, and
+// decoding it could take all memory.
+constexpr int LargestSide = 4096;
+
+QImage readImage(const QString &path)
+{
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (size.width() > LargestSide || size.height() > LargestSide) {
+        return QImage();
+    }
+    return reader.read();
+}
+
+} // namespace
+
+PreviewCacheWorker::PreviewCacheWorker()
+{
+    moveToThread(&m_thread);
+    m_thread.start(QThread::InheritPriority);
+}
+
+PreviewCacheWorker::~PreviewCacheWorker()
+{
+    m_thread.requestInterruption();
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void PreviewCacheWorker::loadPreview(QByteArray key, QString path)
+{
+    // The loads still queued at the end of the program have nobody to wait for them.
+    if (m_thread.isInterruptionRequested()) {
+        return;
+    }
+    QImage image = readImage(path);
+    if (image.isNull()) {
+        image = readImage(QStringLiteral(":/render-error.png"));
+    }
+    // The format that pixmaps have, so that the GUI thread needs no conversion.
+    emit previewLoaded(key, image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QObject>
+#include <QString>
+#include <QThread>
+
+/**
+ * Decodes preview files in a thread of its own, one at a time in the order of
+ * arrival. The thread starts with the worker and ends with it.
+ *
+ * What crosses the thread border is an image rather than a pixmap, since
+ * pixmaps belong to the GUI thread on some platforms.
+ */
+class PreviewCacheWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    PreviewCacheWorker();
+    ~PreviewCacheWorker() override;
+
+public slots:
+    /** Runs in the worker's thread; always answers with previewLoaded(). */
+    void loadPreview(QByteArray key, QString path);
+
+signals:
+    /** The image of `key`, or the error picture where the file has none. */
+    void previewLoaded(QByteArray key, QImage image);
+
+private:
+    QThread m_thread;
+};

@@ -1,0 +1,248 @@
+#include "preview/cache/PreviewCache.h"
+#include "preview/cache/PreviewCacheListener.h"
+#include "PreviewFixture.h"
+#include <functional>
+#include <memory>
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+
+class Listener : public PreviewCacheListener
+{
+public:
+    void previewAvailable() override
+    {
+        ++calls;
+        if (onCall) {
+            onCall();
+        }
+    }
+
+    int calls = 0;
+    std::function<void()> onCall;
+};
+
+} // namespace
+
+class tst_PreviewCache : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void placeholderThenImage();
+    void identicalDesignsLoadOnce();
+    void repaintWhileWaitingAsksNoSecondTime();
+    void withoutListenerEachCallLoads();
+    void destroyedListenerIsNotCalled();
+    void callbackMayDestroyAnotherListener();
+    void clearKeepsOpenRequests();
+    void whatCannotBeLoadedShowsTheErrorPicture_data();
+    void whatCannotBeLoadedShowsTheErrorPicture();
+    void servedInOrderOfArrival();
+    void largestImageIsNotKept();
+
+private:
+    QSharedPointer<IFile> file(const QByteArray &hash)
+    {
+        return PreviewFixture::makeFile(&m_project, QStringLiteral("/designs/a.dst"), hash);
+    }
+    static QImage image(const QString &path)
+    {
+        return QImage(path).convertToFormat(QImage::Format_ARGB32);
+    }
+    static QImage image(const QPixmap &pixmap)
+    {
+        return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    }
+
+    std::unique_ptr<PreviewFixture> m_fixture;
+    Project m_project;
+    QImage m_placeholder;
+};
+
+void tst_PreviewCache::initTestCase()
+{
+    Q_INIT_RESOURCE(hoopline_resources);
+    m_fixture = std::make_unique<PreviewFixture>();
+    m_placeholder = image(QStringLiteral(":/loading.png"));
+    QVERIFY(!m_placeholder.isNull());
+}
+
+void tst_PreviewCache::cleanup()
+{
+    // Loads that a test did not wait for end here.
+    const QSharedPointer<IFile> last = file("last");
+    Listener listener;
+    PreviewCache::instance().previewImage(last, &listener);
+    QTRY_COMPARE(listener.calls, 1);
+    PreviewCache::instance().clear();
+}
+
+void tst_PreviewCache::placeholderThenImage()
+{
+    PreviewFixture::storePreview("rose", QSize(40, 30), Qt::red);
+    PreviewCache &cache = PreviewCache::instance();
+    Listener listener;
+    QCOMPARE(image(cache.previewImage(file("rose"), &listener)), m_placeholder);
+    QCOMPARE(listener.calls, 0);
+    QTRY_COMPARE(listener.calls, 1);
+    const QImage loaded = image(cache.previewImage(file("rose"), &listener));
+    QCOMPARE(loaded.size(), QSize(40, 30));
+    QCOMPARE(loaded.pixelColor(20, 15), QColor(Qt::red));
+    QCoreApplication::processEvents();
+    QCOMPARE(listener.calls, 1);
+}
+
+void tst_PreviewCache::identicalDesignsLoadOnce()
+{
+    PreviewCache &cache = PreviewCache::instance();
+    QSignalSpy loads(&cache, &PreviewCache::loadPreview);
+    Listener first;
+    Listener second;
+    cache.previewImage(file("twin"), &first);
+    cache.previewImage(file("twin"), &second);
+    QCOMPARE(loads.count(), 1);
+    QCOMPARE(loads.first().at(0).toByteArray(), QByteArray("twin"));
+    QCOMPARE(loads.first().at(1).toString(), PreviewFixture::previewPath("twin"));
+    QTRY_COMPARE(first.calls, 1);
+    QCOMPARE(second.calls, 1);
+}
+
+void tst_PreviewCache::repaintWhileWaitingAsksNoSecondTime()
+{
+    PreviewCache &cache = PreviewCache::instance();
+    QSignalSpy loads(&cache, &PreviewCache::loadPreview);
+    Listener listener;
+    for (int i = 0; i < 5; ++i) {
+        cache.previewImage(file("patient"), &listener);
+    }
+    QCOMPARE(loads.count(), 1);
+    QTRY_COMPARE(listener.calls, 1);
+}
+
+void tst_PreviewCache::withoutListenerEachCallLoads()
+{
+    PreviewFixture::storePreview("nobody", QSize(8, 8), Qt::blue);
+    PreviewCache &cache = PreviewCache::instance();
+    QSignalSpy loads(&cache, &PreviewCache::loadPreview);
+    cache.previewImage(file("nobody"), nullptr);
+    cache.previewImage(file("nobody"), nullptr);
+    QCOMPARE(loads.count(), 2);
+    QTRY_COMPARE(cache.previewImage(file("nobody"), nullptr).size(), QSize(8, 8));
+}
+
+void tst_PreviewCache::destroyedListenerIsNotCalled()
+{
+    PreviewFixture::storePreview("orphan", QSize(8, 8), Qt::green);
+    PreviewCache &cache = PreviewCache::instance();
+    int calls = 0;
+    {
+        Listener listener;
+        listener.onCall = [&calls]() { ++calls; };
+        cache.previewImage(file("orphan"), &listener);
+        cache.previewImage(file("orphan too"), &listener);
+    }
+    QTRY_COMPARE(cache.previewImage(file("orphan"), nullptr).size(), QSize(8, 8));
+    QCOMPARE(calls, 0);
+}
+
+void tst_PreviewCache::callbackMayDestroyAnotherListener()
+{
+    PreviewCache &cache = PreviewCache::instance();
+    std::unique_ptr<Listener> first = std::make_unique<Listener>();
+    std::unique_ptr<Listener> second = std::make_unique<Listener>();
+    int calls = 0;
+    first->onCall = [&]() {
+        ++calls;
+        second.reset();
+    };
+    second->onCall = [&]() {
+        ++calls;
+        first.reset();
+    };
+    cache.previewImage(file("rivals"), first.get());
+    cache.previewImage(file("rivals"), second.get());
+    QTRY_COMPARE(calls, 1);
+    QVERIFY(!first != !second);
+}
+
+void tst_PreviewCache::clearKeepsOpenRequests()
+{
+    PreviewFixture::storePreview("slow", QSize(8, 8), Qt::cyan);
+    PreviewCache &cache = PreviewCache::instance();
+    Listener listener;
+    cache.previewImage(file("slow"), &listener);
+    cache.clear();
+    QTRY_COMPARE(listener.calls, 1);
+    QCOMPARE(cache.previewImage(file("slow"), nullptr).size(), QSize(8, 8));
+    cache.clear();
+    QCOMPARE(image(cache.previewImage(file("slow"), nullptr)), m_placeholder);
+}
+
+void tst_PreviewCache::whatCannotBeLoadedShowsTheErrorPicture_data()
+{
+    QTest::addColumn<QByteArray>("hash");
+    QTest::addColumn<bool>("store");
+    QTest::newRow("no such file") << QByteArray("missing") << false;
+    QTest::newRow("no hash") << QByteArray() << false;
+    QTest::newRow("not a picture") << QByteArray("broken") << true;
+    QTest::newRow("far too large") << QByteArray("large") << true;
+}
+
+void tst_PreviewCache::whatCannotBeLoadedShowsTheErrorPicture()
+{
+    QFETCH(QByteArray, hash);
+    QFETCH(bool, store);
+    if (store && hash == "broken") {
+        QFile broken(PreviewFixture::previewPath(hash));
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        broken.write("\x89PNG\r\n\x1a\n and no more");
+    } else if (store) {
+        PreviewFixture::storePreview(hash, QSize(1, 100000), Qt::red);
+    }
+    PreviewCache &cache = PreviewCache::instance();
+    Listener listener;
+    cache.previewImage(file(hash), &listener);
+    QTRY_COMPARE(listener.calls, 1);
+    const QImage error = image(QStringLiteral(":/render-error.png"));
+    QVERIFY(!error.isNull());
+    QCOMPARE(image(cache.previewImage(file(hash), nullptr)), error);
+
+    // It stays, also when the file is mended, until the memory is cleared.
+    PreviewFixture::storePreview(hash.isEmpty() ? QByteArray("unused") : hash, QSize(8, 8),
+                                 Qt::red);
+    QCOMPARE(cache.previewImage(file(hash), nullptr).size(), error.size());
+}
+
+void tst_PreviewCache::servedInOrderOfArrival()
+{
+    PreviewCache &cache = PreviewCache::instance();
+    QByteArray order;
+    std::vector<std::unique_ptr<Listener>> listeners;
+    const QByteArray keys("qwertz");
+    for (const char key : keys) {
+        listeners.push_back(std::make_unique<Listener>());
+        listeners.back()->onCall = [&order, key]() { order.append(key); };
+        cache.previewImage(file(QByteArray(1, key)), listeners.back().get());
+    }
+    QTRY_COMPARE(order, keys);
+}
+
+void tst_PreviewCache::largestImageIsNotKept()
+{
+    PreviewCache &cache = PreviewCache::instance();
+    Listener listener;
+    cache.previewImage(file("billboard"), &listener);
+    // More pixels than the whole budget.
+    QImage image(16000, 8200, QImage::Format_Mono);
+    image.fill(0);
+    cache.previewLoaded("billboard", image);
+    QCOMPARE(listener.calls, 1);
+    QCOMPARE(this->image(cache.previewImage(file("billboard"), nullptr)), m_placeholder);
+}
+
+QTEST_MAIN(tst_PreviewCache)
+#include "tst_previewcache.moc"
