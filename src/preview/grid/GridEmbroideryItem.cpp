@@ -1,0 +1,221 @@
+#include "preview/grid/GridEmbroideryItem.h"
+
+#include "catalogue/records/LocaleAwareFunctions.h"
+#include "preview/cache/PreviewCache.h"
+#include "preview/grid/GridFavoriteItem.h"
+#include "properties/PropertyValues.h"
+#include "widgets/controls/DesktopInteraction.h"
+#include "widgets/style/WidgetStyles.h"
+#include <QFileInfo>
+#include <QFont>
+#include <QFontMetrics>
+#include <QGraphicsScene>
+#include <QGraphicsSceneContextMenuEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+
+const GridEmbroideryItem::ItemLayout GridEmbroideryItem::NormalGrid = {200, 10, 2, 10};
+const GridEmbroideryItem::ItemLayout GridEmbroideryItem::SmallGrid = {200, 10, 1, 5};
+
+namespace {
+
+const QPointF StarPosition(5, 5);
+constexpr double LargestSmallGridScale = 0.5;
+
+int cardWidth(const GridEmbroideryItem::ItemLayout *layout)
+{
+    return layout->previewSize + 2 * layout->padding;
+}
+
+// A file name may hold line breaks and tabs; a label has one line.
+QString singleLine(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+            c.category() == QChar::Separator_Paragraph) {
+            c = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+GridEmbroideryItem::GridEmbroideryItem(const QSharedPointer<IFile> &file, QGraphicsScene *scene,
+                                       bool imperial)
+    : m_file(file), m_imperial(imperial)
+{
+    static const QBrush whiteBrush(Qt::white);
+    setFlag(ItemIsSelectable);
+    setAcceptHoverEvents(true);
+    setBrush(whiteBrush);
+    setPen(Qt::NoPen);
+    refreshLabels(imperial);
+    scene->addItem(this);
+}
+
+GridEmbroideryItem::~GridEmbroideryItem() = default;
+
+void GridEmbroideryItem::refreshLabels(bool imperial)
+{
+    m_path = m_file->absoluteFilePath();
+    m_designSize = m_file->designSize();
+    m_labelsImperial = imperial;
+    layoutItem(m_layout, m_viewScaleFactor);
+    update();
+}
+
+void GridEmbroideryItem::setViewScaleFactor(double s)
+{
+    m_viewScaleFactor = s;
+    m_layout = s <= LargestSmallGridScale ? &SmallGrid : &NormalGrid;
+    layoutItem(m_layout, s);
+}
+
+void GridEmbroideryItem::layoutItem(const ItemLayout *layout, double s)
+{
+    const int width = cardWidth(layout);
+    const double lineHeight = QFontMetrics(QFont()).lineSpacing() / s;
+    const double margin = layout->textMargin / s;
+    const double labelHeight = lineHeight * layout->lines + 2 * margin;
+    m_maxLabelWidth = int(width * s) - 2 * layout->textMargin;
+    clearLabels();
+    setRect(0, 0, width, width + labelHeight);
+}
+
+void GridEmbroideryItem::clearLabels()
+{
+    m_nameLabel.clear();
+    m_sizeLabel.clear();
+}
+
+void GridEmbroideryItem::fillLabels()
+{
+    const QString fullName = singleLine(QFileInfo(m_path).fileName());
+    m_nameLabel =
+        QFontMetrics(QFont()).elidedText(fullName, Qt::ElideRight, qMax(0, m_maxLabelWidth));
+    if (m_layout->lines >= 2) {
+        m_sizeLabel = LocaleAwareFunctions::toString(m_designSize, m_labelsImperial);
+    }
+}
+
+void GridEmbroideryItem::setExposed(bool exposed)
+{
+    if (exposed == (m_favorite != nullptr)) {
+        return;
+    }
+    if (exposed) {
+        watchFile();
+        m_favorite = new GridFavoriteItem(m_file, this);
+        m_favorite->setPos(StarPosition);
+        m_favorite->setParentHovered(m_hovered);
+    } else {
+        unwatchFile();
+        clearLabels();
+        delete m_favorite;
+        m_favorite = nullptr;
+    }
+}
+
+void GridEmbroideryItem::watchFile()
+{
+    m_file->absoluteFilePathProp()->registerObserver(this);
+    m_file->designSizeProp()->registerObserver(this);
+    // What happened while nobody looked.
+    if (m_path != m_file->absoluteFilePath() || m_designSize != m_file->designSize()) {
+        refreshLabels(m_imperial);
+    }
+}
+
+void GridEmbroideryItem::unwatchFile()
+{
+    m_file->absoluteFilePathProp()->unregister(this);
+    m_file->designSizeProp()->unregister(this);
+}
+
+void GridEmbroideryItem::observedObjectChanged(const Observable *)
+{
+    refreshLabels(m_imperial);
+}
+
+void GridEmbroideryItem::previewAvailable()
+{
+    update();
+}
+
+void GridEmbroideryItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+                               QWidget *widget)
+{
+    if (m_nameLabel.isEmpty()) {
+        fillLabels();
+    }
+    // The selection shows by the colour of the labels, not by a dashed outline.
+    QStyleOptionGraphicsItem plainOption(*option);
+    plainOption.state &= ~QStyle::State_Selected;
+    QGraphicsRectItem::paint(painter, &plainOption, widget);
+    paintPreview(painter);
+    paintLabels(painter);
+}
+
+void GridEmbroideryItem::paintPreview(QPainter *painter)
+{
+    const QPixmap image = PreviewCache::instance().previewImage(m_file, this);
+    if (image.isNull()) {
+        return;
+    }
+    const int previewSize = m_layout->previewSize;
+    const double f = double(previewSize) / qMax(image.width(), image.height());
+    const int width = int(image.width() * f);
+    const int height = int(image.height() * f);
+    const int left = m_layout->padding + (previewSize - width) / 2;
+    const int top = m_layout->padding + (previewSize - height) / 2;
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->drawPixmap(QRect(left, top, width, height), image);
+}
+
+void GridEmbroideryItem::paintLabels(QPainter *painter)
+{
+    const int width = cardWidth(m_layout);
+    const QRectF box(0, width, width, rect().height() - width);
+    painter->fillRect(box, isSelected() ? WidgetStyles::Primary100 : WidgetStyles::Primary25);
+
+    // The text keeps its size at any zoom.
+    const QPoint corner = painter->worldTransform().map(box.topLeft()).toPoint();
+    const QFontMetrics metrics{QFont()};
+    const QPoint name = QPoint(m_layout->textMargin, m_layout->textMargin + metrics.ascent());
+    painter->save();
+    painter->setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()));
+    painter->setFont(QFont());
+    // Both tints of the box are pale in light and dark.
+    painter->setPen(Qt::black);
+    painter->drawText(name, m_nameLabel);
+    painter->drawText(name + QPoint(0, metrics.lineSpacing()), m_sizeLabel);
+    painter->restore();
+}
+
+void GridEmbroideryItem::hoverEnterEvent(QGraphicsSceneHoverEvent *)
+{
+    m_hovered = true;
+    if (m_favorite != nullptr) {
+        m_favorite->setParentHovered(true);
+    }
+}
+
+void GridEmbroideryItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *)
+{
+    m_hovered = false;
+    if (m_favorite != nullptr) {
+        m_favorite->setParentHovered(false);
+    }
+}
+
+void GridEmbroideryItem::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
+{
+    // The card may be gone when the user has chosen.
+    const QString path = m_file->absoluteFilePath();
+    QMenu menu;
+    QObject::connect(menu.addAction(DesktopInteraction::revealActionTextString()),
+                     &QAction::triggered, [path]() { DesktopInteraction::revealInFinder(path); });
+    menu.exec(event->screenPos());
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "catalogue/records/IFile.h"
+#include "preview/cache/PreviewCacheListener.h"
+#include "properties/Observer.h"
+#include <QGraphicsRectItem>
+#include <QPixmap>
+#include <QSharedPointer>
+#include <QSizeF>
+#include <QString>
+
+class GridFavoriteItem;
+
+/**
+ * One card of the grid: the preview of a file, below it the file's name and the
+ * size of the design, in a corner the star.
+ *
+ * Cards are many and few of them are on screen, so a card is a single item. It
+ * paints its labels itself, and only while it is exposed has it a star, texts and
+ * an eye on the file's properties.
+ */
+class GridEmbroideryItem : public QGraphicsRectItem, public Observer, public PreviewCacheListener
+{
+public:
+    /** The previews in scene units, the labels in screen pixels. */
+    struct ItemLayout
+    {
+        int previewSize;
+        int padding;
+        int lines;
+        int textMargin;
+    };
+    static const ItemLayout NormalGrid;
+    static const ItemLayout SmallGrid;
+
+    /** Adds itself to `scene`, which owns it. `imperial`: sizes in inches. */
+    GridEmbroideryItem(const QSharedPointer<IFile> &file, QGraphicsScene *scene, bool imperial);
+    ~GridEmbroideryItem() override;
+
+    const QSharedPointer<IFile> &file() const { return m_file; }
+
+    /** Reads name and size of the file anew. */
+    void refreshLabels(bool imperial);
+
+    /** Follows the view, which now draws `s` pixels per scene unit. */
+    void setViewScaleFactor(double s);
+
+    /** Tells whether the card is in the part of the sheet that the view shows. */
+    void setExposed(bool exposed);
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+               QWidget *widget = nullptr) override;
+
+    void previewAvailable() override;
+    void observedObjectChanged(const Observable *observable) override;
+
+protected:
+    void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
+
+private:
+    void layoutItem(const ItemLayout *layout, double s);
+    void fillLabels();
+    void clearLabels();
+    void watchFile();
+    void unwatchFile();
+    void paintPreview(QPainter *painter);
+    void paintLabels(QPainter *painter);
+
+    QSharedPointer<IFile> m_file;
+    // What the labels tell, as of the last refresh.
+    QString m_path;
+    QSizeF m_designSize;
+    bool m_labelsImperial = false;
+    // As given at construction; a change of the file falls back to it.
+    bool m_imperial;
+    bool m_hovered = false;
+    QString m_nameLabel;
+    QString m_sizeLabel;
+    int m_maxLabelWidth = 0;
+    double m_viewScaleFactor = 1.0;
+    const ItemLayout *m_layout = &NormalGrid;
+    // A child item, there while the card is exposed.
+    GridFavoriteItem *m_favorite = nullptr;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "catalogue/records/IFile.h"
+#include "properties/Observer.h"
+#include <QGraphicsPixmapItem>
+#include <QSharedPointer>
+
+/**
+ * The star on a card. Shown while the file is a favourite or the pointer is on
+ * the card; pressing it turns the favourite flag over.
+ */
+class GridFavoriteItem : public QGraphicsPixmapItem, public Observer
+{
+public:
+    /** The star belongs to `card`, its parent item. */
+    GridFavoriteItem(const QSharedPointer<IFile> &file, QGraphicsItem *card);
+
+    void setParentHovered(bool hovered);
+
+    void observedObjectChanged(const Observable *observable) override;
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+
+private:
+    void update();
+
+    QSharedPointer<IFile> m_file;
+    bool m_isFavorite = false;
+    bool m_parentHovered = false;
+};

@@ -1,0 +1,125 @@
+#include "preview/grid/PreviewBrowser.h"
+
+#include "app/base/GlobalSettings.h"
+#include "catalogue/models/FilterSelectionModel.h"
+#include "catalogue/models/IFilterModel.h"
+#include "catalogue/models/ISelectionModel.h"
+#include "catalogue/records/Project.h"
+#include "preview/cache/PreviewCache.h"
+#include "preview/grid/GridGraphicsView.h"
+#include "preview/grid/GridPreviewScene.h"
+#include "preview/grid/PreviewSheet.h"
+#include <QEvent>
+#include <QVBoxLayout>
+
+const QList<int> PreviewBrowser::ScaleFactors = {33, 50, 75, 100, 150, 200};
+
+namespace {
+
+constexpr int DefaultScaleFactor = 100;
+
+} // namespace
+
+PreviewBrowser::PreviewBrowser(QWidget *parent, QSharedPointer<Project> project,
+                               FilterSelectionModel *models)
+    : QWidget(parent), m_project(project), m_models(models), m_view(new GridGraphicsView(this)),
+      m_scene(new GridPreviewScene(this))
+{
+    m_view->setScene(m_scene);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+    setFocusProxy(m_view);
+
+    connectModels();
+    m_project->filesProp()->registerObserver(this);
+    observedObjectChanged(m_project->filesProp());
+    readZoom();
+}
+
+PreviewBrowser::~PreviewBrowser()
+{
+    GlobalSettings().setGridScaleFactor(ScaleFactors.at(m_zoomIndex));
+}
+
+void PreviewBrowser::connectModels()
+{
+    connect(m_view, &GridGraphicsView::widthChanged, m_scene,
+            &GridPreviewScene::setPreferredSceneWidth);
+    connect(m_view, &EditorGraphicsView::zoomChanged, m_scene, &GridPreviewScene::setScaleFactor);
+    connect(m_view, &GridGraphicsView::openSelection, this, &PreviewBrowser::previewSelection);
+    connect(m_scene, &GridPreviewScene::filesSelected, m_models->selection(),
+            &ISelectionModel::setSelection);
+    connect(m_models->selection(), &ISelectionModel::selectionChanged, m_scene,
+            &GridPreviewScene::selectFiles);
+    connect(m_models->filter(), &IFilterModel::filterChanged, this, &PreviewBrowser::filterChanged);
+}
+
+void PreviewBrowser::readZoom()
+{
+    m_zoomIndex = ScaleFactors.indexOf(GlobalSettings().gridScaleFactor());
+    if (m_zoomIndex < 0) {
+        m_zoomIndex = ScaleFactors.indexOf(DefaultScaleFactor);
+    }
+    m_view->zoomTo(zoom());
+}
+
+double PreviewBrowser::zoom() const
+{
+    return ScaleFactors.at(m_zoomIndex) / 100.0;
+}
+
+void PreviewBrowser::observedObjectChanged(const Observable *observable)
+{
+    if (observable == m_project->filesProp()) {
+        m_scene->setFiles(m_models->filter()->filteredFiles());
+    }
+}
+
+void PreviewBrowser::filterChanged()
+{
+    observedObjectChanged(m_project->filesProp());
+}
+
+void PreviewBrowser::zoomIn()
+{
+    if (m_zoomIndex < ScaleFactors.size() - 1) {
+        ++m_zoomIndex;
+        updateZoomAndKeepSelectionVisible();
+    }
+}
+
+void PreviewBrowser::zoomOut()
+{
+    if (m_zoomIndex >= 1) {
+        --m_zoomIndex;
+        updateZoomAndKeepSelectionVisible();
+    }
+}
+
+void PreviewBrowser::updateZoomAndKeepSelectionVisible()
+{
+    const QList<QGraphicsItem *> selected = m_scene->selectedItems();
+    m_view->zoomTo(zoom());
+    if (!selected.isEmpty()) {
+        m_view->centerOn(selected.first());
+    }
+}
+
+void PreviewBrowser::previewSelection()
+{
+    const QList<QSharedPointer<IFile>> files = m_models->selection()->selectedFiles();
+    if (files.size() == 1) {
+        PreviewSheet sheet(this, PreviewCache::instance().previewImage(files.first(), nullptr));
+        sheet.exec();
+    }
+}
+
+void PreviewBrowser::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
+        // The labels are as high as the font is.
+        m_scene->setScaleFactor(m_view->currentZoomValue());
+    }
+}
