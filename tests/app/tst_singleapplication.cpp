@@ -1,0 +1,326 @@
+#include "app/application/SingleApplicationPrivate.h"
+#include "app/base/BuildConfig.h"
+#include "app/base/InstanceName.h"
+
+#include <algorithm>
+#include <memory>
+#include <QDataStream>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <vector>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+using Process = std::unique_ptr<QProcess>;
+
+// Covers the longest pause of a process that finds the block half-written.
+constexpr int Patience = 40000;
+
+Process start(const QStringList &arguments = {})
+{
+    auto process = std::make_unique<QProcess>();
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process->start(QStringLiteral(GUARDED_PROGRAM), arguments);
+    return process;
+}
+
+QString serverName()
+{
+    InstanceName name;
+    name.applicationName = QStringLiteral("Hoopline Organizer");
+    name.organisationName = QString::fromLatin1(BuildConfig::Organisation);
+    name.userName = InstanceName::currentUser();
+    return name.toString();
+}
+
+QByteArray message(quint8 type, const QByteArray &name, int checksumError = 0)
+{
+    QByteArray body;
+    QDataStream stream(&body, QIODevice::WriteOnly);
+    stream << name << type << quint32(7);
+    stream << quint16(qChecksum(body.constData(), uint(body.size())) + checksumError);
+    return body;
+}
+
+QByteArray header(quint64 length)
+{
+    QByteArray bytes;
+    QDataStream(&bytes, QIODevice::WriteOnly) << length;
+    return bytes;
+}
+
+QByteArray framed(const QByteArray &body)
+{
+    return header(quint64(body.size())) + body;
+}
+
+} // namespace
+
+class tst_singleapplication : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void recordsThePrimary();
+    void secondStartEndsAndRaisesThePrimary();
+    void secondaryTalksToThePrimary();
+    void twentyStartsLeaveOnePrimary();
+    void killedPrimaryLocksNobodyOut();
+    void killedWhileStartingLocksNobodyOut();
+    void halfWrittenBlockIsReset();
+    void dropsBadClients_data();
+    void dropsBadClients();
+    void acceptsSplitHeader();
+    void refusesOtherUsers();
+
+private:
+    Process startPrimary();
+    bool waitForLine(QProcess &process, const QByteArray &line);
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    Process m_primary;
+};
+
+void tst_singleapplication::initTestCase()
+{
+    QVERIFY(QFileInfo(QStringLiteral(GUARDED_PROGRAM)).isExecutable());
+}
+
+void tst_singleapplication::init()
+{
+    // Key files, lock and socket lie in the temporary folder: no other process takes part.
+    m_directory = std::make_unique<QTemporaryDir>(QStringLiteral("/tmp/hl-XXXXXX"));
+    qputenv("TMPDIR", m_directory->path().toUtf8());
+}
+
+void tst_singleapplication::cleanup()
+{
+    if (m_primary) {
+        m_primary->kill();
+        m_primary->waitForFinished();
+        m_primary.reset();
+    }
+    // The last detach removes the block of the process that was killed.
+    QSharedMemory(serverName()).attach();
+}
+
+Process tst_singleapplication::startPrimary()
+{
+    Process process = start();
+    const bool ready = waitForLine(*process, "not sent to myself");
+    return ready ? std::move(process) : nullptr;
+}
+
+bool tst_singleapplication::waitForLine(QProcess &process, const QByteArray &line)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < Patience) {
+        while (process.canReadLine()) {
+            if (process.readLine().trimmed() == line)
+                return true;
+        }
+        process.waitForReadyRead(100);
+    }
+    return false;
+}
+
+void tst_singleapplication::recordsThePrimary()
+{
+    m_primary = start();
+    QVERIFY(waitForLine(*m_primary, "primary " + QByteArray::number(m_primary->processId()) + ' ' +
+                                        InstanceName::currentUser().toUtf8()));
+    QVERIFY(waitForLine(*m_primary, "not sent to myself"));
+}
+
+void tst_singleapplication::secondStartEndsAndRaisesThePrimary()
+{
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    Process second = start();
+    QVERIFY(second->waitForFinished(Patience));
+    QCOMPARE(second->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(second->exitCode(), 0);
+    QVERIFY(waitForLine(*m_primary, "started 1"));
+    QVERIFY(!second->readAllStandardOutput().contains("primary"));
+}
+
+void tst_singleapplication::secondaryTalksToThePrimary()
+{
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    for (int id = 1; id <= 2; ++id) {
+        Process second = start({QStringLiteral("secondary")});
+        QVERIFY(waitForLine(*second, "sent"));
+        QVERIFY(waitForLine(*m_primary, "message " + QByteArray::number(id) + " hello"));
+        QVERIFY(second->waitForFinished(Patience));
+    }
+}
+
+void tst_singleapplication::twentyStartsLeaveOnePrimary()
+{
+    constexpr int Count = 20;
+    std::vector<Process> processes;
+    for (int i = 0; i < Count; ++i)
+        processes.push_back(start());
+    const auto running = [&] {
+        return std::count_if(processes.cbegin(), processes.cend(), [](const Process &process) {
+            return process->state() != QProcess::NotRunning;
+        });
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(running(), 1, Patience);
+    // A process that is primary too would stay as well, if only for a while.
+    int primaries = 0;
+    for (Process &process : processes) {
+        if (process->state() == QProcess::NotRunning) {
+            QCOMPARE(process->exitCode(), 0);
+            QVERIFY(!process->readAllStandardOutput().contains("primary"));
+        } else {
+            QVERIFY(waitForLine(*process, "not sent to myself"));
+            m_primary = std::move(process);
+            ++primaries;
+        }
+    }
+    QCOMPARE(primaries, 1);
+}
+
+void tst_singleapplication::killedPrimaryLocksNobodyOut()
+{
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    m_primary->kill();
+    QVERIFY(m_primary->waitForFinished());
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+}
+
+void tst_singleapplication::killedWhileStartingLocksNobodyOut()
+{
+    for (int delay = 1; delay < 60; delay += 4) {
+        Process process = start();
+        QVERIFY(process->waitForStarted());
+        QTest::qSleep(delay);
+        process->kill();
+        QVERIFY(process->waitForFinished());
+    }
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+}
+
+void tst_singleapplication::halfWrittenBlockIsReset()
+{
+    // Someone stays attached, so that the block is not simply dropped.
+    QSharedMemory block(serverName());
+    QVERIFY(block.create(sizeof(InstanceBlock)));
+    std::memset(block.data(), 0x5a, sizeof(InstanceBlock));
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    QVERIFY(static_cast<const InstanceBlock *>(block.constData())->isIntact());
+}
+
+void tst_singleapplication::dropsBadClients_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray name = serverName().toLatin1();
+    QTest::newRow("silent") << QByteArray();
+    QTest::newRow("half a header") << header(55).left(3);
+    QTest::newRow("header only") << header(55);
+    QTest::newRow("body cut short") << framed(message(1, name)).chopped(1);
+    QTest::newRow("huge length") << header(~quint64(0));
+    QTest::newRow("oversized") << header(SingleApplicationPrivate::MaxInitMessageLength + 1) +
+                                      QByteArray(1 << 20, 'x');
+    QTest::newRow("empty body") << header(0);
+    QTest::newRow("one byte") << header(1) + 'x';
+    QTest::newRow("wrong name") << framed(message(1, "someone else"));
+    QTest::newRow("wrong checksum") << framed(message(1, name, 1));
+    QTest::newRow("name longer than the body")
+        << framed(QByteArray::fromHex("7fffffff") + message(1, name));
+    QTest::newRow("garbage") << QByteArray(4096, char(0xff));
+    QTest::newRow("wrong name and a message") << framed(message(1, "someone else")) + "hello";
+}
+
+void tst_singleapplication::dropsBadClients()
+{
+    QFETCH(QByteArray, bytes);
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    QLocalSocket client;
+    client.connectToServer(serverName());
+    QVERIFY(client.waitForConnected(5000));
+    client.write(bytes);
+    client.flush();
+    QTRY_COMPARE_WITH_TIMEOUT(client.state(), QLocalSocket::UnconnectedState, Patience);
+
+    QLocalSocket good;
+    good.connectToServer(serverName());
+    QVERIFY(good.waitForConnected(5000));
+    good.write(framed(message(3, serverName().toLatin1())) + "still there");
+    good.flush();
+    good.disconnectFromServer();
+    QTRY_VERIFY_WITH_TIMEOUT(m_primary->canReadLine(), Patience);
+    QCOMPARE(m_primary->readAllStandardOutput(), QByteArray("message 7 still there\n"));
+}
+
+void tst_singleapplication::acceptsSplitHeader()
+{
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    QLocalSocket client;
+    client.connectToServer(serverName());
+    QVERIFY(client.waitForConnected(5000));
+    const QByteArray bytes = framed(message(1, serverName().toLatin1()));
+    for (const char byte : bytes) {
+        client.write(&byte, 1);
+        client.flush();
+        QTest::qSleep(2);
+    }
+    QVERIFY(waitForLine(*m_primary, "started 1"));
+}
+
+void tst_singleapplication::refusesOtherUsers()
+{
+#ifdef Q_OS_UNIX
+    if (geteuid() != 0)
+        QSKIP("Only root can become another user.");
+    m_primary = startPrimary();
+    QVERIFY(m_primary);
+    QVERIFY(QFile::setPermissions(m_directory->path(), QFile::Permissions(0x7777)));
+    const QByteArray path = m_directory->filePath(serverName()).toLocal8Bit();
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, path.constData(), sizeof(address.sun_path));
+    const auto connectAs = [&address](uid_t user) {
+        const pid_t child = fork();
+        if (child == 0) {
+            const int descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);
+            const bool changed = user == 0 || setuid(user) == 0;
+            const int result =
+                ::connect(descriptor, reinterpret_cast<sockaddr *>(&address), sizeof(address));
+            _exit(!changed ? 255 : result == 0 ? 0 : errno);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WEXITSTATUS(status);
+    };
+    QCOMPARE(connectAs(0), 0);
+    QCOMPARE(connectAs(65534), EACCES);
+#endif
+}
+
+QTEST_GUILESS_MAIN(tst_singleapplication)
+#include "tst_singleapplication.moc"
