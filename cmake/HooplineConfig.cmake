@@ -10,6 +10,8 @@ set(HOOPLINE_METRICS_DOMAIN "metrics.hoopline.example" CACHE STRING
     "Domain of the metrics endpoint; the product's own label is put before it")
 set(HOOPLINE_PRIVACY_URL "${HOOPLINE_BASE_URL}/privacy" CACHE STRING
     "The privacy page")
+set(HOOPLINE_BETA_TAG "" CACHE STRING
+    "Marks the build as a beta, which always looks for beta updates; empty for a release")
 set(HOOPLINE_SUPPORT_MAIL "support@hoopline.example" CACHE STRING
     "Address shown when an unexpected error is reported")
 

@@ -1,0 +1,83 @@
+#include "online/PlistLoader.h"
+
+#include "app/base/Error.h"
+#include "online/XmlGuard.h"
+
+#include <QDomDocument>
+#include <QFile>
+
+namespace {
+
+QVariant parseValue(const QDomElement &element);
+
+QVariantList parseArray(const QDomElement &array)
+{
+    QVariantList values;
+    for (QDomElement child = array.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement())
+        values.append(parseValue(child));
+    return values;
+}
+
+QVariantMap parseDict(const QDomElement &dict)
+{
+    QVariantMap values;
+    QDomElement child = dict.firstChildElement();
+    while (!child.isNull()) {
+        if (child.tagName() != QStringLiteral("key"))
+            throw Error(QStringLiteral("<key> missing in <dict>"));
+        const QDomElement value = child.nextSiblingElement();
+        values.insert(child.text(), parseValue(value));
+        child = value.nextSiblingElement();
+    }
+    return values;
+}
+
+QVariant parseValue(const QDomElement &element)
+{
+    const QString tag = element.tagName();
+    if (tag == QStringLiteral("string") || tag == QStringLiteral("data"))
+        return element.text();
+    if (tag == QStringLiteral("real"))
+        return element.text().toDouble();
+    if (tag == QStringLiteral("integer"))
+        return element.text().toInt();
+    if (tag == QStringLiteral("true") || tag == QStringLiteral("false"))
+        return tag == QStringLiteral("true");
+    if (tag == QStringLiteral("array"))
+        return parseArray(element);
+    if (tag == QStringLiteral("dict"))
+        return parseDict(element);
+    if (tag == QStringLiteral("date"))
+        throw Error(QStringLiteral("<date> not yet supported"));
+    throw Error(QStringLiteral("Unknown element type <%1>").arg(tag));
+}
+
+QVariant parseDom(const QDomDocument &document)
+{
+    const QDomElement plist = document.firstChildElement(QStringLiteral("plist"));
+    if (plist.isNull())
+        throw Error(QStringLiteral("No <plist> element found at the top-level of the XML file!"));
+    return parseValue(plist.firstChildElement(QStringLiteral("dict")));
+}
+
+} // namespace
+
+QVariant PlistLoader::read(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        throw Error(file.errorString());
+    return parse(file.readAll());
+}
+
+QVariant PlistLoader::parse(const QByteArray &data)
+{
+    QDomDocument document;
+    QString message;
+    if (!XmlGuard::isHarmless(data))
+        throw Error(QStringLiteral("The XML is nested too deeply or declares entities"));
+    if (!document.setContent(data, false, &message))
+        throw Error(message);
+    return parseDom(document);
+}
