@@ -1,10 +1,10 @@
 #include "online/PlistLoader.h"
 
 #include "app/base/Error.h"
+#include "catalogue/disk/FileTools.h"
 #include "online/XmlGuard.h"
 
 #include <QDomDocument>
-#include <QFile>
 
 namespace {
 
@@ -65,10 +65,7 @@ QVariant parseDom(const QDomDocument &document)
 
 QVariant PlistLoader::read(const QString &fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Error(file.errorString());
-    return parse(file.readAll());
+    return parse(FileTools::readAll(fileName));
 }
 
 QVariant PlistLoader::parse(const QByteArray &data)

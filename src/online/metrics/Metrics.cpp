@@ -2,14 +2,15 @@
 
 #include "app/addons/GApplicationAddons.h"
 #include "app/base/BuildConfig.h"
+#include "app/base/Error.h"
 #include "app/base/GSettings.h"
 #include "app/base/GTranslationLoader.h"
+#include "catalogue/disk/FileTools.h"
 #include "online/metrics/ReplyLimits.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDesktopServices>
-#include <QFile>
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -211,8 +212,12 @@ QString Metrics::trackingAgreementText(bool plain) const
         return QString();
     const QString name =
         plain ? QStringLiteral(":/tracking.txt") : QStringLiteral(":/tracking.html");
-    QFile file(GTranslationLoader::instance()->localizedFilename(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    try {
+        return QString::fromUtf8(
+            FileTools::readAll(GTranslationLoader::instance()->localizedFilename(name)));
+    } catch (const Error &) {
+        return QString();
+    }
 }
 
 bool Metrics::trackingAgreementPresented() const

@@ -1,0 +1,199 @@
+#include "app/base/GDebug.h"
+#include "app/base/GSettings.h"
+#include "online/BreakpadCrashHandler.h"
+#include "online/GCrashLogCollector.h"
+
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <stdexcept>
+
+namespace {
+
+volatile int sink = 0;
+volatile int Endless = INT_MAX;
+
+// NOLINTNEXTLINE(misc-no-recursion): running out of stack is what it is for
+int overflow(int depth)
+{
+    volatile char frame[4096];
+    frame[0] = char(depth);
+    return depth < Endless ? overflow(depth + 1) + frame[0] : 0;
+}
+
+[[noreturn]] void crash(const QByteArray &how)
+{
+    BreakpadCrashHandler::install();
+    theLogServer()->logMessage("Test", LogLevel::Warning, QStringLiteral("the last words"));
+    theLogServer()->logMessage("Test", LogLevel::Warning,
+                               QStringLiteral("reading /home/jo/secret rose.dst"));
+    if (how == "segv") {
+        volatile int *nothing = nullptr;
+        sink = *nothing;
+    } else if (how == "overflow") {
+        sink = overflow(0);
+    } else if (how == "throw") {
+        throw std::runtime_error("nobody catches this");
+    } else if (how == "trap") {
+        __builtin_trap();
+    }
+    std::raise(SIGSEGV);
+    std::exit(0);
+}
+
+void setNames()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Crash Test"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("9.8.7"));
+}
+
+} // namespace
+
+/** Real processes that really crash, and what the next start finds. */
+class tst_Crash : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void logIsWritten_data();
+    void logIsWritten();
+    void anotherUsersFolderIsNotUsed();
+    void onlyNewLogsAreOffered();
+    void foldersAreLeftOut();
+
+private:
+    int exitSignal(const QByteArray &how) const;
+    static void writeLog(const QString &name, const QByteArray &text, const QDateTime &time);
+
+    QTemporaryDir m_dir;
+};
+
+void tst_Crash::initTestCase()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("the operating system writes the logs");
+#endif
+    qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
+    GSettings::setIniFile(m_dir.filePath(QStringLiteral("s.ini")));
+}
+
+void tst_Crash::init()
+{
+    QDir(BreakpadCrashHandler::crashLogPath()).removeRecursively();
+    GSettings().flushSettings({});
+}
+
+int tst_Crash::exitSignal(const QByteArray &how) const
+{
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--crash"), QString::fromLatin1(how)});
+    process.waitForFinished();
+    return process.exitStatus() == QProcess::CrashExit ? process.exitCode() : 0;
+}
+
+void tst_Crash::writeLog(const QString &name, const QByteArray &text, const QDateTime &time)
+{
+    QFile file(BreakpadCrashHandler::crashLogPath() + QLatin1Char('/') + name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.flush();
+    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+}
+
+void tst_Crash::logIsWritten_data()
+{
+    QTest::addColumn<QByteArray>("how");
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("bad pointer") << QByteArray("segv") << SIGSEGV << "SIGSEGV";
+    QTest::newRow("from outside") << QByteArray("kill") << SIGSEGV << "SIGSEGV";
+    QTest::newRow("no stack left") << QByteArray("overflow") << SIGSEGV << "SIGSEGV";
+    QTest::newRow("exception") << QByteArray("throw") << SIGABRT << "SIGABRT";
+    QTest::newRow("trap") << QByteArray("trap") << SIGILL << "SIGILL";
+}
+
+void tst_Crash::logIsWritten()
+{
+    QFETCH(QByteArray, how);
+    QFETCH(QString, name);
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+    QTEST(exitSignal(how), "signal");
+    const QStringList logs = GCrashLogCollector().logsSince(before);
+    QCOMPARE(logs.size(), 1);
+    const QString log = logs.first();
+    QVERIFY2(log.contains(QStringLiteral("Signal: ") + name), qPrintable(log));
+    QVERIFY(log.contains(QStringLiteral("Version: 9.8.7\n")));
+    QVERIFY(log.contains(QStringLiteral("Build date: 20")));
+    QVERIFY(log.contains(QStringLiteral("System: Linux")));
+    QVERIFY(log.contains(QStringLiteral("the last words")));
+    QVERIFY(!log.contains(QStringLiteral("rose")));
+    // Frames of the program itself, to be resolved by their offset in it.
+    QVERIFY(log.contains(QRegularExpression(QStringLiteral("\ntst_crash\\(.*\\+0x[0-9a-f]+\\)"))));
+    QVERIFY(!log.contains(QCoreApplication::applicationDirPath()));
+}
+
+void tst_Crash::anotherUsersFolderIsNotUsed()
+{
+    const QString path = BreakpadCrashHandler::crashLogPath();
+    QVERIFY(QDir().mkpath(path));
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                    QFile::WriteOther | QFile::ExeOther | QFile::ReadOther);
+    QCOMPARE(exitSignal("segv"), SIGSEGV);
+    QVERIFY(QDir(path).isEmpty());
+    QVERIFY(QDir().rmdir(path));
+    const QString elsewhere = m_dir.filePath(QStringLiteral("elsewhere"));
+    QVERIFY(QDir().mkpath(elsewhere));
+    QVERIFY(QFile::link(elsewhere, path));
+    QCOMPARE(exitSignal("segv"), SIGSEGV);
+    QVERIFY(QDir(elsewhere).isEmpty());
+    QVERIFY(QFile::remove(path));
+}
+
+void tst_Crash::onlyNewLogsAreOffered()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    QCOMPARE(exitSignal("kill"), SIGSEGV);
+    writeLog(QStringLiteral("Crash Test-old.crash"), "old", now.addSecs(-3600));
+    writeLog(QStringLiteral("Other-new.crash"), "other", now.addSecs(60));
+    writeLog(QStringLiteral("Crash Test-new.txt"), "text", now.addSecs(60));
+    // On a fresh store the last check is now.
+    QVERIFY(GCrashLogCollector().logsSinceLastCheck().isEmpty());
+    QVERIFY(qAbs(GSettings().crashLoggerLastCheck().secsTo(now)) < 60);
+    GSettings().setCrashLoggerLastCheck(now.addSecs(-5));
+    QCOMPARE(GCrashLogCollector().logsSinceLastCheck().size(), 1);
+    QVERIFY(GCrashLogCollector().logsSinceLastCheck().isEmpty());
+}
+
+void tst_Crash::foldersAreLeftOut()
+{
+    QCOMPARE(exitSignal("kill"), SIGSEGV);
+    const QDateTime later = QDateTime::currentDateTime().addSecs(60);
+    writeLog(QStringLiteral("Crash Test-x.crash"),
+             "Backtrace:\n/home/jo smith/bin/prog(main+0x1)[0x2]\n/usr/lib/libc.so.6(+0x3)[0x4]\n",
+             later);
+    QCOMPARE(
+        GCrashLogCollector().logsSince(later.addSecs(-1)),
+        QStringList(QStringLiteral("Backtrace:\nprog(main+0x1)[0x2]\nlibc.so.6(+0x3)[0x4]\n")));
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    setNames();
+    if (argc == 3 && qstrcmp(argv[1], "--crash") == 0)
+        crash(argv[2]);
+    tst_Crash test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_crash.moc"
