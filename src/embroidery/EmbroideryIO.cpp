@@ -2,7 +2,13 @@
 
 #include "embroidery/DstReader.h"
 #include "embroidery/EmbPattern.h"
+#include "embroidery/ExpReader.h"
+#include "embroidery/HusReader.h"
 #include "embroidery/IOException.h"
+#include "embroidery/JefReader.h"
+#include "embroidery/PesReader.h"
+#include "embroidery/SewReader.h"
+#include "embroidery/XxxReader.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -25,7 +31,9 @@ struct Format
 };
 
 constexpr Format Formats[] = {
-    {"dst", makeReader<DstReader>},
+    {"pes", makeReader<PesReader>}, {"pec", makeReader<PecReader>}, {"dst", makeReader<DstReader>},
+    {"xxx", makeReader<XxxReader>}, {"exp", makeReader<ExpReader>}, {"sew", makeReader<SewReader>},
+    {"jef", makeReader<JefReader>}, {"hus", makeReader<HusReader>},
 };
 
 } // namespace

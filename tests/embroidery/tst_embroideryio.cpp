@@ -48,7 +48,8 @@ void TestEmbroideryIO::readerByFilename()
 
 void TestEmbroideryIO::formatsAreListedInOrder()
 {
-    QCOMPARE(EmbroideryIO::supportedFormats(), QStringList({"*.dst"}));
+    QCOMPARE(EmbroideryIO::supportedFormats(),
+             QStringList({"*.pes", "*.pec", "*.dst", "*.xxx", "*.exp", "*.sew", "*.jef", "*.hus"}));
 }
 
 void TestEmbroideryIO::unknownFormats_data()

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "embroidery/EmbThread.h"
+
+#include <QList>
+#include <QSharedPointer>
+
+namespace Embroidery {
+
+/** A thread of the chart of Husqvarna. */
+class EmbThreadHus : public EmbThread
+{
+public:
+    /** `r`, `g` and `b` are 0 to 255. */
+    EmbThreadHus(int r, int g, int b, const QString &description, const QString &catalogNumber);
+
+    static QSharedPointer<EmbThreadHus> create(int r, int g, int b, const QString &description,
+                                               const QString &catalogNumber);
+
+    /**
+     * The chart, 29 threads in the order of their index. It is built once, and every
+     * call returns the same thread objects, which nobody changes. Safe in any thread.
+     */
+    static QList<QSharedPointer<EmbThread>> getThreadSet();
+};
+
+} // namespace Embroidery

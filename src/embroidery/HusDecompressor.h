@@ -1,0 +1,104 @@
+#pragma once
+
+#include "embroidery/QByteArrayWrapper.h"
+
+#include <array>
+#include <memory>
+
+/**
+ * Undoes the compression of the HUS format: a sliding window with static
+ * Huffman codes per block. One object serves one stream.
+ *
+ * A stream that is cut off is not noticed as such: decoding goes on over the
+ * bytes that the last read left in the input buffer until some rule stops it.
+ * Any failure is an Embroidery::IOException.
+ */
+class HusDecompressor
+{
+public:
+    /**
+     * The most that one stream may yield, in bytes. A stream has no stored
+     * length and may repeat itself without consuming a bit, so something must
+     * bound it; a design has one byte for each stitch.
+     */
+    static constexpr qint64 MaximumOutputSize = 32 * 1024 * 1024;
+
+    /**
+     * The most blocks that may begin behind the end of the input. What is read
+     * there is one byte over and over, so what does not end in a few blocks
+     * never does.
+     */
+    static constexpr int MaximumStaleBlocks = 32;
+
+    /**
+     * `size` is the length of `input` in bytes and `bits` the binary logarithm
+     * of the window's size. Both arrays stay the caller's.
+     */
+    HusDecompressor(QByteArray *input, QByteArray *output, long size, int bits);
+
+    /** Decodes the whole stream into the output. */
+    void decompress();
+
+private:
+    static constexpr int CodeCount = 511;
+    static constexpr int LengthCodeCount = 19;
+    static constexpr int DistanceCodeCount = 15;
+    static constexpr int NodeCount = 1021;
+    static constexpr int CodeTableBits = 12;
+    static constexpr int SmallTableBits = 8;
+    static constexpr int LongestCode = 16;
+
+    void init();
+    int getNextValueToProcess();
+    void beginBlock();
+    int decodeRelativeOffsetFromTree();
+    void copyMatch(int length, int distance);
+
+    void readFromStream(int n);
+    int readBits(int n);
+    unsigned char nextByte();
+    void refillInput();
+
+    void loadBuffers(short count, short bits, short special);
+    int readCodeLength();
+    void anotherInterestingTreeRoutine();
+    int readRunLength(int code);
+    void initTrees(int count, const unsigned char *lengths, int tableBits, unsigned short *table,
+                   unsigned short tableSize);
+    unsigned short *growBranch(unsigned short *entry, unsigned short code, unsigned short mask,
+                               int depth, int &available);
+    int walkTree(short node, unsigned short mask, short limit) const;
+
+    void putByte(unsigned char byte);
+    void flushBuffer();
+    unsigned char getByteFromOutputBufferWithWrapAround(int position) const;
+
+    void initShortBuffer256(short value);
+    void fillShortBuffer(short value);
+    void initUCharBufferBigWith0();
+
+    short m_windowSize;
+    short m_windowMask;
+    std::unique_ptr<unsigned char[]> m_window;
+    std::array<unsigned short, 1 << CodeTableBits> m_codeTable{};
+    std::array<unsigned short, 1 << SmallTableBits> m_smallTable{};
+    std::array<char, 512> m_inputBuffer{};
+    // The nodes of both trees.
+    std::array<unsigned short, NodeCount> m_left{};
+    std::array<unsigned short, NodeCount> m_right{};
+    std::array<unsigned char, CodeCount> m_codeLengths{};
+    std::array<unsigned char, LengthCodeCount> m_smallLengths{};
+    unsigned short m_blockSize = 0;
+    unsigned short m_bitBuffer = 0;
+    short m_bitCount = 0;
+    unsigned char m_subBuffer = 0;
+    short m_inputCount = 0;
+    int m_inputPointer = 0;
+    long m_remaining;
+    QByteArrayWrapper m_input;
+    QByteArrayWrapper m_output;
+    int m_outputCount = 0;
+    qint64 m_written = 0;
+    qint64 m_staleBytes = 0;
+    int m_staleBlocks = 0;
+};
