@@ -24,6 +24,7 @@ int main(int argc, char **argv)
     const bool secondary = role == "secondary";
     SingleApplication app(argc, argv, secondary,
                           Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000);
+    GSettings().setAutoUpdatesEnabled(false);
     if (app.isSecondary()) {
         say(app.sendMessage("hello", 1000) ? "sent" : "not sent");
         return 0;

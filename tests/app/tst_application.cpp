@@ -109,7 +109,7 @@ void tst_application::cleanup()
         if (qobject_cast<GMainWindow *>(widget))
             delete widget;
     }
-    GSettings().flushSettings({});
+    GSettings().flushSettings({QStringLiteral("autoUpdatesEnabled")});
 }
 
 // First, since it is the launch that makes the one window of the start.
@@ -322,6 +322,7 @@ void tst_application::tellsOfChangedSettings()
 int main(int argc, char **argv)
 {
     HooplineApplication application(argc, argv);
+    GSettings().setAutoUpdatesEnabled(false);
     tst_application test;
     return QTest::qExec(&test, argc, argv);
 }

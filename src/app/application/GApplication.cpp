@@ -8,9 +8,12 @@
 #include "app/base/GSettings.h"
 #include "app/base/GTranslationLoader.h"
 #include "app/frame/GFileTypeRegistry.h"
+#include "online/BreakpadCrashHandler.h"
+#include "online/FeedbackDialog.h"
 #include "online/services/GUrlProvider.h"
 #include "widgets/style/TnwMacStyle.h"
 
+#include <cstdlib>
 #include <QDir>
 #include <QFileOpenEvent>
 #include <QMessageBox>
@@ -38,6 +41,11 @@ GApplication::GApplication(int &argc, char **argv, const QString &applicationNam
     installNativeEventFilter(this);
     setStyle(new TnwMacStyle);
     connect(this, &GApplication::criticalError, this, &GApplication::displayCriticalError);
+    if (arguments().contains(QStringLiteral("--report-crash"))) {
+        FeedbackDialog::presentDialogIfCrashed();
+        std::exit(EXIT_FAILURE);
+    }
+    BreakpadCrashHandler::install();
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     setQuitOnLastWindowClosed(false);
     createApplicationLevelActions();

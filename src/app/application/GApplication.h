@@ -77,10 +77,9 @@ public slots:
 
     virtual void newDocument();
     virtual void openDocument();
-    /** These three belong to the product and do nothing at this level. */
-    virtual void showFeedbackDialog();
-    virtual void showPreferences();
-    virtual void updateCheck();
+    virtual void showFeedbackDialog() = 0;
+    virtual void showPreferences() = 0;
+    virtual void updateCheck() = 0;
     virtual void showAbout();
     virtual void showDocumentation();
     virtual void showTutorials();

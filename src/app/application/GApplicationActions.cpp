@@ -152,12 +152,6 @@ void GApplication::recentFileListRefreshed()
 #endif
 }
 
-void GApplication::showFeedbackDialog() {}
-
-void GApplication::showPreferences() {}
-
-void GApplication::updateCheck() {}
-
 void GApplication::showAbout()
 {
     // Exercises the road of a crash report on a real installation.

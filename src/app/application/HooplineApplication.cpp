@@ -4,8 +4,10 @@
 #include "app/base/BuildConfig.h"
 #include "app/base/Error.h"
 #include "app/frame/GAction.h"
+#include "online/FeedbackDialog.h"
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"
+#include "online/WindowsUpdater.h"
 #include "widgets/style/WidgetStyles.h"
 
 #include <algorithm>
@@ -38,6 +40,7 @@ HooplineApplication::HooplineApplication(int &argc, char **argv)
     WidgetStyles::init();
     setAttribute(Qt::AA_DisableWindowContextHelpButton);
     setWindowIcon(QIcon(QStringLiteral(":/hoopline-mac.png")));
+    m_updater = QSharedPointer<WindowsUpdater>::create();
     QTimer::singleShot(0, this, &HooplineApplication::launch);
 }
 
@@ -114,9 +117,20 @@ void HooplineApplication::showPreferences()
     preferencesPresenter()(currentWindow());
 }
 
+void HooplineApplication::showFeedbackDialog()
+{
+    FeedbackDialog(currentWindow()).exec();
+}
+
+void HooplineApplication::updateCheck()
+{
+    theAutoUpdater()->checkForUpdatesMenuItem();
+}
+
 void HooplineApplication::launch()
 {
     GlobalTracking::applicationStarted();
+    FeedbackDialog::presentDialogIfCrashed();
     try {
         GMainWindow *window = windowFactory()();
         finalizeStartup();

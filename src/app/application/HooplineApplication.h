@@ -3,6 +3,9 @@
 #include "app/application/GApplication.h"
 
 #include <functional>
+#include <QSharedPointer>
+
+class WindowsUpdater;
 
 /** The product's application: its brand, what is created at launch, its trimming of the menus. */
 class HooplineApplication : public GApplication
@@ -42,10 +45,15 @@ public slots:
     /** Makes the window, unless there is one. */
     void newDocument() override;
     void showPreferences() override;
+    void showFeedbackDialog() override;
+    void updateCheck() override;
     void launch();
     void launchAsyncNetworkTasks();
 
 signals:
     /** Widgets that keep a copy of a setting read it again. */
     void syncGlobalSettings();
+
+private:
+    QSharedPointer<WindowsUpdater> m_updater;
 };
