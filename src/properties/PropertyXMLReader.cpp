@@ -164,8 +164,14 @@ void PropertyXMLReader::visit(PropertyStringList *property)
 
 void PropertyXMLReader::visit(PropertyList *list)
 {
+    rethrowingForList(list, [this, list] { readListElements(list); });
+}
+
+void PropertyXMLReader::rethrowingForList(const PropertyList *list,
+                                          const std::function<void()> &read) const
+{
     try {
-        readListElements(list);
+        read();
     } catch (const Error &error) {
         throw Error(
             tr("Failed to read '%1' from XML!\n(%2)").arg(list->propertyName(), error.toString()));

@@ -2,6 +2,7 @@
 
 #include "properties/PropertyVisitor.h"
 
+#include <functional>
 #include <QCoreApplication>
 #include <QDir>
 #include <QDomElement>
@@ -56,7 +57,8 @@ protected:
     /** Makes the element of @p list that @p element stands for and adds it. */
     void readListElement(PropertyList *list, const QDomElement &element);
 
-    QDomElement currentElement() const { return m_currentElement; }
+    /** Runs @p read and has its failures tell that @p list couldn't be read. */
+    void rethrowingForList(const PropertyList *list, const std::function<void()> &read) const;
 
 private:
     void visit(PropertyStruct *structure, const QStringList &names);

@@ -18,8 +18,8 @@ static void requireUtf8(const QByteArray &data)
         throw Error(QStringLiteral("Glossmark only supports UTF-8 encoded XML files"));
 }
 
-static QDomElement createElement(QDomDocument &document, const QXmlStreamReader &reader,
-                                 XmlAttributeOrder *order)
+QDomElement XmlTools::createElement(QDomDocument &document, const QXmlStreamReader &reader,
+                                    XmlAttributeOrder *order)
 {
     QDomElement element = document.createElement(reader.qualifiedName().toString());
     const QXmlStreamAttributes attributes = reader.attributes();
@@ -38,26 +38,34 @@ static QDomNode createCharacters(QDomDocument &document, const QXmlStreamReader 
     return document.createTextNode(text);
 }
 
-void XmlTools::readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomNode parent,
-                            XmlAttributeOrder *order)
+/** Counts one level more; refuses too deep nesting. */
+static bool enter(QXmlStreamReader &reader, int &depth)
+{
+    if (++depth <= XmlTools::MaximumDepth)
+        return true;
+    reader.raiseError(QStringLiteral("Elements are nested too deeply."));
+    return false;
+}
+
+void XmlTools::readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomElement parent,
+                            BlankText blankText, XmlAttributeOrder *order)
 {
     int depth = 0;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (++depth > MaximumDepth) {
-                reader.raiseError(QStringLiteral("Elements are nested too deeply."));
+            if (!enter(reader, depth))
                 return;
-            }
-            parent = parent.appendChild(createElement(document, reader, order));
+            parent = parent.appendChild(createElement(document, reader, order)).toElement();
             break;
         case QXmlStreamReader::EndElement:
             if (--depth < 0)
                 return;
-            parent = parent.parentNode();
+            parent = parent.parentNode().toElement();
             break;
         case QXmlStreamReader::Characters:
-            parent.appendChild(createCharacters(document, reader));
+            if (blankText == KeepBlankText || reader.isCDATA() || !reader.isWhitespace())
+                parent.appendChild(createCharacters(document, reader));
             break;
         case QXmlStreamReader::Comment:
             parent.appendChild(document.createComment(reader.text().toString()));
@@ -68,6 +76,18 @@ void XmlTools::readChildren(QXmlStreamReader &reader, QDomDocument &document, QD
     }
 }
 
+void XmlTools::skipChildren(QXmlStreamReader &reader)
+{
+    int depth = 0;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement && !enter(reader, depth))
+            return;
+        if (token == QXmlStreamReader::EndElement && --depth < 0)
+            return;
+    }
+}
+
 bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
                      QString *errorText, int *errorLine)
 {
@@ -75,7 +95,16 @@ bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttribut
     document = QDomDocument();
     QXmlStreamReader reader(data);
     reader.setNamespaceProcessing(false);
-    readChildren(reader, document, document, order);
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::Comment)
+            document.appendChild(document.createComment(reader.text().toString()));
+        if (token != QXmlStreamReader::StartElement)
+            continue;
+        const QDomElement root = createElement(document, reader, order);
+        document.appendChild(root);
+        readChildren(reader, document, root, KeepBlankText, order);
+    }
     if (!reader.hasError())
         return true;
     if (errorText)
@@ -152,14 +181,19 @@ static void writeElement(QXmlStreamWriter &writer, const QDomElement &element,
     writer.setAutoFormatting(wasFormatting);
 }
 
+void XmlTools::prepareWriter(QXmlStreamWriter &writer, int indent)
+{
+    writer.setCodec("UTF-8");
+    writer.setAutoFormatting(true);
+    writer.setAutoFormattingIndent(indent);
+}
+
 QByteArray XmlTools::serialize(const QDomDocument &document, XmlAttributeOrder *order,
                                const QStringList &verbatimTags, int indent)
 {
     QByteArray bytes;
     QXmlStreamWriter writer(&bytes);
-    writer.setCodec("UTF-8");
-    writer.setAutoFormatting(true);
-    writer.setAutoFormattingIndent(indent);
+    prepareWriter(writer, indent);
     serialize(writer, document, order, verbatimTags);
     return bytes;
 }

@@ -46,10 +46,22 @@ public:
     /** @p text without the characters that XML can't hold. */
     static QString withoutInvalidCharacters(const QString &text);
 
+    /** Sets @p writer up as serialize() has it. */
+    static void prepareWriter(QXmlStreamWriter &writer, int indent);
+
+    enum BlankText { KeepBlankText, DropBlankText };
+
+    /** The element that @p reader stands at the start of, without its children. */
+    static QDomElement createElement(QDomDocument &document, const QXmlStreamReader &reader,
+                                     XmlAttributeOrder *order = nullptr);
+
     /**
-     * Builds the children of @p parent from @p reader, up to the end of the element
-     * that it stands in. Errors, too deep nesting among them, stay in @p reader.
+     * Builds the children of @p parent, at whose start @p reader stands, and leaves it
+     * at the end. Errors, too deep nesting among them, stay in @p reader.
      */
-    static void readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomNode parent,
-                             XmlAttributeOrder *order = nullptr);
+    static void readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomElement parent,
+                             BlankText blankText, XmlAttributeOrder *order = nullptr);
+
+    /** The same without building anything. */
+    static void skipChildren(QXmlStreamReader &reader);
 };

@@ -1,10 +1,10 @@
 #include "catalogue/records/DataModelReader.h"
 
 #include "app/base/Error.h"
+#include "catalogue/records/CatalogueXMLReader.h"
 #include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/Project.h"
 #include "properties/ChangeManager.h"
-#include "properties/PropertyXMLReader.h"
 
 #include <QFile>
 #include <QObject>
@@ -29,11 +29,8 @@ void DataModelReader::readFromFile(Project *project, const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw ErrorDoesNotExist(QObject::tr("Failed to open file '%1'").arg(path));
-    QDomDocument document;
-    QString message;
-    int line = 0;
-    if (!document.setContent(&file, &message, &line))
-        throw Error(QObject::tr("XML parser error: %1 (line %2)").arg(message).arg(line));
+    CatalogueXMLReader reader(project, this, &file);
+    const QDomDocument document = reader.parseWithoutRecords();
     if (document.documentElement().tagName() != project->propertyName())
         throw Error(QObject::tr("'%1' is not a Hoopline Organizer project file").arg(path));
     upgradeDom(document);
@@ -43,8 +40,7 @@ void DataModelReader::readFromFile(Project *project, const QString &path)
     ChangeManager &changes = ChangeManager::instance();
     changes.startBulkOperation({});
     try {
-        PropertyXMLReader(project, this)
-            .readFromXML(project, document.documentElement(), QStringLiteral("/"));
+        reader.readFromXML(project, document.documentElement(), QStringLiteral("/"));
     } catch (...) {
         changes.finishBulkOperation(true);
         throw;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "catalogue/records/Project.h"
+
+#include <QSharedPointer>
+
+/** A catalogue to test with, and short ways to say what is in it. */
+class Catalogue
+{
+public:
+    QSharedPointer<IFile> add(const QString &path)
+    {
+        const auto file = QSharedPointer<File>::create(project.data());
+        file->setAbsoluteFilePath(path);
+        project->filesProp()->addSharedWithoutUndo(file);
+        return file;
+    }
+
+    static QString paths(const QList<QSharedPointer<IFile>> &files)
+    {
+        QStringList paths;
+        for (const auto &file : files)
+            paths << file->absoluteFilePath();
+        return paths.join(QLatin1Char(' '));
+    }
+
+    QSharedPointer<Project> project = QSharedPointer<Project>::create();
+};

@@ -1,0 +1,353 @@
+#include "app/base/Error.h"
+#include "catalogue/disk/FileTools.h"
+#include "catalogue/records/Project.h"
+#include "properties/RecordingObserver.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestCatalogueFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void form();
+    void byteStable();
+    void hostileTextSurvives_data();
+    void hostileTextSurvives();
+    void textThatXmlCannotHold();
+    void versions_data();
+    void versions();
+    void failuresLeaveTheProject_data();
+    void failuresLeaveTheProject();
+    void missingFile();
+    void tolerance();
+    void unsortedFilesAreSorted();
+    void failureWithinTheRecords();
+    void loadAnnouncesOnce();
+    void hostileFiles_data();
+    void hostileFiles();
+    void failedSaveIsTold();
+
+private:
+    QString path() const { return m_dir->filePath("catalogue.xml"); }
+    void load(const QByteArray &xml);
+    QString errorOfLoad(const QByteArray &xml);
+    QSharedPointer<IFile> addFile(const QString &path);
+
+    QScopedPointer<QTemporaryDir> m_dir;
+    QScopedPointer<Project> m_project;
+};
+
+void TestCatalogueFile::init()
+{
+    m_dir.reset(new QTemporaryDir);
+    m_project.reset(new Project);
+}
+
+void TestCatalogueFile::load(const QByteArray &xml)
+{
+    FileTools::writeAll(path(), xml);
+    m_project->load(path());
+}
+
+QString TestCatalogueFile::errorOfLoad(const QByteArray &xml)
+{
+    try {
+        load(xml);
+    } catch (const Error &error) {
+        return error.toString();
+    }
+    return {};
+}
+
+QSharedPointer<IFile> TestCatalogueFile::addFile(const QString &path)
+{
+    const auto file = QSharedPointer<File>::create(m_project.data());
+    file->setAbsoluteFilePath(path);
+    m_project->filesProp()->addSharedWithoutUndo(file);
+    return file;
+}
+
+void TestCatalogueFile::form()
+{
+    const auto file = addFile("/home/user/Designs/rose.pes");
+    file->setFileSize(48213);
+    file->setModificationDate(1609459200);
+    file->setContentHash(QByteArray::fromHex("0123456789abcdef0123456789abcdef"));
+    file->setName("rose");
+    file->setDesignSize({94.5, 120.25});
+    file->setStitchCount(10311);
+    const auto thread = QSharedPointer<Thread>::create(m_project.data());
+    thread->setColor(QColor(0xed, 0x17, 0x1f));
+    thread->setColorName("Red & gold");
+    file->setThreads({thread});
+    file->setTags({"flowers", "red"});
+    m_project->setSmartFolders({"/home/user/Designs"}, {});
+    m_project->setAllTags({"flowers", "red"});
+    m_project->save(path());
+    QCOMPARE(QString::fromUtf8(FileTools::readAll(path())),
+             QStringLiteral(R"(<?xml version="1.0" encoding="UTF-8"?>
+<hoopline_organizer version="1.0">
+    <preset_collections/>
+    <smart_folders>
+        <string>/home/user/Designs</string>
+    </smart_folders>
+    <files>
+        <file>
+            <absolute_file_path>/home/user/Designs/rose.pes</absolute_file_path>
+            <file_size>48213</file_size>
+            <modification_date>1609459200</modification_date>
+            <content_hash>0123456789abcdef0123456789abcdef</content_hash>
+            <name>rose</name>
+            <design_size h="120.25" w="94.5"/>
+            <stitch_count>10311</stitch_count>
+            <threads>
+                <thread>
+                    <color>#ed171f</color>
+                    <color_name>Red &amp; gold</color_name>
+                    <chart/>
+                </thread>
+            </threads>
+            <notes/>
+            <tags>
+                <string>flowers</string>
+                <string>red</string>
+            </tags>
+            <is_favorite>false</is_favorite>
+        </file>
+    </files>
+    <all_tags>
+        <string>flowers</string>
+        <string>red</string>
+    </all_tags>
+</hoopline_organizer>
+)"));
+}
+
+void TestCatalogueFile::byteStable()
+{
+    for (int i = 0; i < 50; ++i) {
+        const auto file = addFile(QStringLiteral("/d/%1 \u00fc.pes").arg(i));
+        file->setDesignSize({i / 7.0, i * 1.1 + 0.1});
+        file->setNotes(QStringLiteral("line\n\n  %1\r\nend \n").arg(i));
+        file->setThreads({QSharedPointer<Thread>::create(m_project.data()),
+                          QSharedPointer<Thread>::create(m_project.data())});
+    }
+    m_project->save(path());
+    const QByteArray first = FileTools::readAll(path());
+    Project other;
+    other.load(path());
+    QCOMPARE(other.files().count(), 50);
+    other.save(path());
+    QCOMPARE(FileTools::readAll(path()), first);
+    QVERIFY(!other.undoStack()->canUndo());
+}
+
+void TestCatalogueFile::hostileTextSurvives_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("quotes") << QStringLiteral("\"a\" 'b' & <c> ]]>");
+    QTest::newRow("newlines") << QStringLiteral("\nfirst\r\nsecond\rthird\n\n");
+    QTest::newRow("blanks around") << QStringLiteral("  \t a  b \t ");
+    QTest::newRow("entities") << QStringLiteral("&lt; &#13; < > &");
+    QTest::newRow("emoji and scripts") << QStringLiteral("\U0001F9F5 \u05e9\u05dc\u05d5\u05dd");
+    QTest::newRow("500 characters") << QString(500, QChar('x'));
+    QTest::newRow("100 KB") << QStringLiteral("0123456789 & <\n").repeated(7000);
+}
+
+void TestCatalogueFile::hostileTextSurvives()
+{
+    QFETCH(QString, text);
+    const auto file = addFile(QStringLiteral("/") + text);
+    file->setNotes(text);
+    file->setTags({text});
+    m_project->setSmartFolders({QStringLiteral("/") + text}, {});
+    m_project->setAllTags({text});
+    m_project->save(path());
+    Project other;
+    other.load(path());
+    QCOMPARE(other.smartFolders(), m_project->smartFolders());
+    QCOMPARE(other.allTags(), m_project->allTags());
+    QCOMPARE(other.files().first()->absoluteFilePath(), file->absoluteFilePath());
+    QCOMPARE(other.files().first()->notes(), text);
+    QCOMPARE(other.files().first()->tags(), QStringList(text));
+}
+
+void TestCatalogueFile::textThatXmlCannotHold()
+{
+    const auto file = addFile("/a");
+    file->setNotes(QStringLiteral("a\u0001\u000bb") + QChar(0xd800) + QChar('c') + QChar(0xffff));
+    file->setFavorite(true);
+    m_project->save(path());
+    Project other;
+    other.load(path());
+    QCOMPARE(other.files().first()->notes(), QStringLiteral("abc"));
+    QVERIFY(other.files().first()->isFavorite());
+}
+
+void TestCatalogueFile::versions_data()
+{
+    QTest::addColumn<QByteArray>("version");
+    QTest::addColumn<bool>("loads");
+    QTest::newRow("1.0") << QByteArray("version='1.0'") << true;
+    QTest::newRow("0.9") << QByteArray("version='0.9'") << true;
+    QTest::newRow("1") << QByteArray("version='1'") << true;
+    QTest::newRow("none") << QByteArray() << true;
+    QTest::newRow("rubbish") << QByteArray("version='x'") << true;
+    QTest::newRow("2.0") << QByteArray("version='2.0'") << false;
+    QTest::newRow("1.0.1") << QByteArray("version='1.0.1'") << false;
+}
+
+void TestCatalogueFile::versions()
+{
+    QFETCH(QByteArray, version);
+    QFETCH(bool, loads);
+    m_project->setAllTags({"kept"});
+    const QString message = errorOfLoad("<hoopline_organizer " + version + "/>");
+    QCOMPARE(m_project->allTags().isEmpty(), loads);
+    QCOMPARE(message, loads ? QString()
+                            : QStringLiteral("This file cannot be loaded because it was created "
+                                             "with a newer version of Hoopline organizer"));
+}
+
+void TestCatalogueFile::failuresLeaveTheProject_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("other root") << QByteArray("<other/>")
+                                << "'%1' is not a Hoopline Organizer project file";
+    QTest::newRow("malformed") << QByteArray("<hoopline_organizer>\n<files>\n</hoopline_organizer>")
+                               << "XML parser error: * (line 3)";
+    QTest::newRow("cut off") << QByteArray("<hoopline_organizer><files><file>")
+                             << "XML parser error: * (line 1)";
+    QTest::newRow("empty") << QByteArray() << "XML parser error: * (line *)";
+    QTest::newRow("trailing rubbish")
+        << QByteArray("<hoopline_organizer/>\nx") << "XML parser error: * (line 2)";
+}
+
+void TestCatalogueFile::failuresLeaveTheProject()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, message);
+    m_project->setAllTags({"kept"});
+    const QString told = errorOfLoad(xml);
+    const QRegExp pattern(message.replace("%1", path()), Qt::CaseSensitive, QRegExp::Wildcard);
+    QVERIFY2(pattern.exactMatch(told), qPrintable(told));
+    QCOMPARE(m_project->allTags(), QStringList("kept"));
+}
+
+void TestCatalogueFile::missingFile()
+{
+    try {
+        m_project->load(path());
+        QFAIL("nothing thrown");
+    } catch (const ErrorDoesNotExist &error) {
+        QCOMPARE(error.toString(), QStringLiteral("Failed to open file '%1'").arg(path()));
+    }
+}
+
+void TestCatalogueFile::tolerance()
+{
+    load("<hoopline_organizer><unknown><file/></unknown><files>"
+         "<file><absolute_file_path>/a</absolute_file_path><tags/></file>"
+         "<file><absolute_file_path>/b</absolute_file_path><strange/>"
+         "<file_size>99999999999999</file_size><is_favorite> true </is_favorite></file>"
+         "</files><files><nonsense/></files></hoopline_organizer>");
+    const auto files = m_project->files();
+    QCOMPARE(files.count(), 2);
+    QCOMPARE(files.at(0)->designSize(), QSizeF(-1, -1));
+    QVERIFY(files.at(0)->tags().isEmpty());
+    QVERIFY(files.at(1)->tags().isEmpty());
+    QCOMPARE(files.at(1)->fileSize(), 0);
+    QVERIFY(files.at(1)->isFavorite());
+}
+
+void TestCatalogueFile::unsortedFilesAreSorted()
+{
+    load("<hoopline_organizer><files>"
+         "<file><absolute_file_path>/c</absolute_file_path></file>"
+         "<file><absolute_file_path>/a</absolute_file_path></file>"
+         "<file><absolute_file_path>/b</absolute_file_path></file>"
+         "</files></hoopline_organizer>");
+    QString paths;
+    for (const auto &file : m_project->files())
+        paths += file->absoluteFilePath();
+    QCOMPARE(paths, QStringLiteral("/a/b/c"));
+}
+
+void TestCatalogueFile::failureWithinTheRecords()
+{
+    RecordingObserver observer;
+    m_project->filesProp()->registerObserver(&observer);
+    QCOMPARE(errorOfLoad("<hoopline_organizer><files>"
+                         "<file><absolute_file_path>/c</absolute_file_path></file><strange/>"
+                         "</files></hoopline_organizer>"),
+             QStringLiteral("Failed to read 'files' from XML!\n(Unknown list element 'strange')"));
+    QCOMPARE(m_project->files().count(), 1);
+    // Once for the clearing, once for what was read.
+    QCOMPARE(observer.heard.count(), 2);
+    QCOMPARE(errorOfLoad("<hoopline_organizer><files><thread/></files></hoopline_organizer>"),
+             QStringLiteral("Failed to read 'files' from XML!\n"
+                            "(cannot add 'thread' to list 'files', wrong type)"));
+}
+
+void TestCatalogueFile::loadAnnouncesOnce()
+{
+    RecordingObserver observer;
+    m_project->smartFoldersProp()->registerObserver(&observer);
+    m_project->filesProp()->registerObserver(&observer);
+    m_project->allTagsProp()->registerObserver(&observer);
+    m_project->presetCollections()->registerObserver(&observer);
+    load("<hoopline_organizer><all_tags/><files><file/><file/><file/></files><smart_folders/>"
+         "</hoopline_organizer>");
+    // In the order of the project's properties, after what clearing told before.
+    observer.heard = observer.heard.mid(3);
+    QCOMPARE(observer.heard,
+             QList<const Observable *>({m_project->smartFoldersProp(), m_project->filesProp(),
+                                        m_project->allTagsProp()}));
+}
+
+void TestCatalogueFile::hostileFiles_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    const QByteArray head = "<hoopline_organizer><files><file><notes>";
+    const QByteArray tail = "</notes></file></files></hoopline_organizer>";
+    QTest::newRow("deep") << head + QByteArray("<a>").repeated(500000) +
+                                 QByteArray("</a>").repeated(500000) + tail;
+    QTest::newRow("deep outside the records")
+        << "<hoopline_organizer>" + QByteArray("<a>").repeated(500000) +
+               QByteArray("</a>").repeated(500000) + "</hoopline_organizer>";
+    QByteArray entities = "<!ENTITY e0 'lol'>";
+    for (int i = 1; i < 20; ++i)
+        entities += "<!ENTITY e" + QByteArray::number(i) + " '" +
+                    ("&e" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
+    QTest::newRow("entities") << "<!DOCTYPE hoopline_organizer [" + entities + "]>" + head +
+                                     "&e19;" + tail;
+    QTest::newRow("random bytes") << head + QByteArray("\x80\xfe\xff\x01").repeated(100) + tail;
+}
+
+void TestCatalogueFile::hostileFiles()
+{
+    QFETCH(QByteArray, xml);
+    m_project->setAllTags({"kept"});
+    const QString message = errorOfLoad(xml);
+    QVERIFY2(message.startsWith("XML parser error: "), qPrintable(message));
+    QCOMPARE(m_project->allTags(), QStringList("kept"));
+}
+
+void TestCatalogueFile::failedSaveIsTold()
+{
+    FileTools::writeAll(m_dir->filePath("blocked"), "x");
+    const QString target = m_dir->filePath("blocked/catalogue.xml");
+    try {
+        m_project->save(target);
+        QFAIL("nothing thrown");
+    } catch (const Error &error) {
+        QVERIFY(error.toString().startsWith("Failed to write " + target + ": "));
+    }
+}
+
+QTEST_MAIN(TestCatalogueFile)
+#include "tst_cataloguefile.moc"

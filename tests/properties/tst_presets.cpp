@@ -1,0 +1,222 @@
+#include "properties/GProject.h"
+#include "properties/GUndoStack.h"
+#include "properties/PropertyDescriptionPreset.h"
+#include "properties/PropertyDescriptionReference.h"
+#include "properties/PropertyDescriptionValues.h"
+#include "properties/PropertyFactory.h"
+#include "properties/PropertyReference.h"
+#include "properties/PropertySerializer.h"
+#include "properties/PropertyValues.h"
+#include "properties/PropertyXMLReader.h"
+#include "properties/PropertyXMLWriter.h"
+#include "properties/ThrowHelper.h"
+
+#include <QtTest>
+
+/** A document with one type of preset, a collection of these and a reference to one. */
+struct Document : public GProject, public PropertyFactory
+{
+    Document() : GProject(QStringLiteral("document"), {})
+    {
+        type.addProperty(new PropertyDescriptionInt(QStringLiteral("width"), {}, {}, 3));
+        type.addProperty(new PropertyDescriptionString(QStringLiteral("note"), {}, {}));
+        reference = addProperty(new PropertyReference(this, &referenceType));
+    }
+
+    QSharedPointer<PropertyPreset> preset(const QString &name, int width)
+    {
+        const auto preset = QSharedPointer<PropertyPreset>::create(this, &type);
+        preset->name()->setValueWithoutUndoAndAnnounceChange(name);
+        this->width(*preset)->setValueWithoutUndoAndAnnounceChange(width);
+        return preset;
+    }
+
+    static PropertyInt *width(const PropertyPreset &preset)
+    {
+        return preset.data()->property<PropertyInt>(QStringLiteral("width"));
+    }
+
+    Property *createProperty(const QString &name, const Property *) const override
+    {
+        auto *self = static_cast<GProject *>(project());
+        if (name == QLatin1String("stitch_list"))
+            return new PropertyPresetCollection(self, &type);
+        if (name == QLatin1String("preset"))
+            return new PropertyPreset(self, &type);
+        throw Error(QStringLiteral("unknown ") + name);
+    }
+
+    PropertyEnumElement createEnumElem(const PropertyDescriptionEnum *,
+                                       const QString &) const override
+    {
+        return {};
+    }
+
+    PropertyPreset *createPreset(const QString &) const override
+    {
+        return new PropertyPreset(project(), &type);
+    }
+
+    PropertyDescriptionPreset type{QStringLiteral("stitch"), {}};
+    PropertyDescriptionReference referenceType{&type, QStringLiteral("current"), {}, {}};
+    PropertyReference *reference = nullptr;
+};
+
+class TestPresets : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void descriptionFailures();
+    void referenceIsNeverNull();
+    void referenceChecksTheType();
+    void collectionNames();
+    void removeComesBack();
+    void oneCollectionOfEachType();
+    void roundTrip_data();
+    void roundTrip();
+    void unknownReferenceFails();
+};
+
+void TestPresets::descriptionFailures()
+{
+    Document document;
+    QCOMPARE(messageOf<ErrorAlreadyExists>([&] {
+                 document.type.addProperty(
+                     new PropertyDescriptionInt(QStringLiteral("width"), {}, {}));
+             }),
+             QStringLiteral("property 'width' already exists in preset 'stitch'"));
+    QCOMPARE(messageOf<ErrorDoesNotExist>(
+                 [&] { document.type.descriptionForPropertyWithName(QStringLiteral("height")); }),
+             QStringLiteral("property 'height' does not exist in preset 'stitch'"));
+    QCOMPARE(document.type.orderedProperties().count(), 2);
+}
+
+void TestPresets::referenceIsNeverNull()
+{
+    Document document;
+    QVERIFY(document.reference->value());
+    QVERIFY(!document.reference->value()->isSharedGroup());
+    QCOMPARE(Document::width(*document.reference->value())->value(), 3);
+    QCOMPARE(messageOf<Error>([&] { document.reference->setValue({}, {}); }),
+             QStringLiteral("reference property may not be set to NULL"));
+}
+
+void TestPresets::referenceChecksTheType()
+{
+    Document document;
+    PropertyDescriptionPreset other(QStringLiteral("other"), {});
+    const auto stranger = QSharedPointer<PropertyPreset>::create(&document, &other);
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { document.reference->setValue(stranger, {}); }),
+             QStringLiteral("cannot assign type 'other' to reference property of type 'stitch'"));
+    const auto unnamed = document.preset({}, 9);
+    document.reference->setValue(unnamed, {});
+    QCOMPARE(document.reference->value(), unnamed);
+    document.undoStack()->undo();
+    QVERIFY(document.reference->value() != unnamed);
+}
+
+void TestPresets::collectionNames()
+{
+    Document document;
+    PropertyPresetCollection collection(&document, &document.type);
+    QCOMPARE(collection.propertyName(), QStringLiteral("stitch_list"));
+    const auto add = [&](const QString &name) {
+        auto *preset = new PropertyPreset(&document, &document.type);
+        preset->name()->setValueWithoutUndoAndAnnounceChange(name);
+        collection.add(preset, {});
+    };
+    add(QStringLiteral("satin"));
+    QCOMPARE(document.undoStack()->undoText(), QStringLiteral("Add stitch satin"));
+    QCOMPARE(messageOf<ErrorAlreadyExists>([&] { add(QStringLiteral("satin")); }),
+             QStringLiteral("property preset 'satin' already exists in 'stitch'"));
+    QCOMPARE(messageOf<Error>([&] { add({}); }),
+             QStringLiteral("cannot add unnamed property preset to collection 'stitch'"));
+    QCOMPARE(messageOf<ErrorDoesNotExist>([&] { collection.preset(QStringLiteral("fill")); }),
+             QStringLiteral("property preset 'fill' not found in 'stitch'"));
+    QCOMPARE(collection.presetNames(), QStringList(QStringLiteral("satin")));
+    document.undoStack()->clear();
+}
+
+void TestPresets::removeComesBack()
+{
+    Document document;
+    PropertyPresetCollection collection(&document, &document.type);
+    for (const char *name : {"a", "b", "c"})
+        collection.addSharedWithoutUndo(document.preset(QString::fromLatin1(name), 1));
+    const auto b = collection.preset(QStringLiteral("b"));
+    collection.remove(QStringLiteral("b"), {});
+    QCOMPARE(document.undoStack()->undoText(), QStringLiteral("Remove stitch b"));
+    QVERIFY(!collection.contains(QStringLiteral("b")));
+    document.undoStack()->undo();
+    QCOMPARE(collection.sharedAt(1), b);
+    document.undoStack()->clear();
+}
+
+void TestPresets::oneCollectionOfEachType()
+{
+    Document document;
+    auto *collections = document.presetCollections();
+    auto *first = new PropertyPresetCollection(&document, &document.type);
+    collections->addWithoutUndo(first);
+    auto *second = new PropertyPresetCollection(&document, &document.type);
+    collections->addWithoutUndo(second);
+    QCOMPARE(collections->count(), 1);
+    QCOMPARE(collections->at(0), second);
+
+    const QString message = QStringLiteral("preset collection of type 'stitch' already exists");
+    QCOMPARE(messageOf<ErrorAlreadyExists>([&] { collections->addWithoutUndo(second); }), message);
+    second->addSharedWithoutUndo(document.preset(QStringLiteral("satin"), 1));
+    QCOMPARE(messageOf<ErrorAlreadyExists>([&] {
+                 collections->add(new PropertyPresetCollection(&document, &document.type), {});
+             }),
+             message);
+    QCOMPARE(collections->at(0), second);
+}
+
+void TestPresets::roundTrip_data()
+{
+    QTest::addColumn<QString>("referenced");
+    QTest::newRow("shared preset") << QStringLiteral("satin");
+    QTest::newRow("preset of its own") << QString();
+}
+
+void TestPresets::roundTrip()
+{
+    QFETCH(QString, referenced);
+    Document source;
+    auto *collection = new PropertyPresetCollection(&source, &source.type);
+    source.presetCollections()->addWithoutUndo(collection);
+    collection->addSharedWithoutUndo(source.preset(QStringLiteral("satin"), 7));
+    source.reference->setValueWithoutUndoAndAnnounceChange(
+        referenced.isEmpty() ? source.preset({}, 11) : collection->preset(referenced));
+    PropertySerializer serializer;
+    PropertyXMLWriter writer(QStringLiteral("/"), &serializer);
+    const QString xml = writer.writeToXML(&source).toString(-1);
+
+    Document target;
+    QDomDocument document;
+    QVERIFY(document.setContent(xml));
+    PropertyXMLReader(&target, &target)
+        .readFromXML(&target, document.documentElement(), QStringLiteral("/"));
+    QCOMPARE(target.presetCollectionByName(QStringLiteral("stitch"))->presetNames(),
+             QStringList(QStringLiteral("satin")));
+    QCOMPARE(Document::width(*target.reference->value())->value(), referenced.isEmpty() ? 11 : 7);
+    QCOMPARE(target.reference->value()->isSharedGroup(), !referenced.isEmpty());
+    QCOMPARE(writer.writeToXML(&target).toString(-1), xml);
+}
+
+void TestPresets::unknownReferenceFails()
+{
+    Document target;
+    QDomDocument document;
+    document.setContent(QStringLiteral("<document><current type='stitch' name='x'/></document>"));
+    QCOMPARE(messageOf<ErrorDoesNotExist>([&] {
+                 PropertyXMLReader(&target, &target)
+                     .readFromXML(&target, document.documentElement(), QStringLiteral("/"));
+             }),
+             QStringLiteral("preset collection of type 'stitch' does not exist"));
+}
+
+QTEST_MAIN(TestPresets)
+#include "tst_presets.moc"

@@ -1,0 +1,240 @@
+#include "properties/GProject.h"
+#include "properties/GUndoStack.h"
+#include "properties/PropertyListT.h"
+#include "properties/PropertyValues.h"
+#include "properties/RecordingObserver.h"
+#include "properties/ThrowHelper.h"
+
+#include <QtTest>
+
+/** Ordered by the first letter only, so that distinct elements may compare equal. */
+class Word : public PropertyString
+{
+public:
+    Word(GProject *project, const QString &text)
+        : PropertyString(project, QStringLiteral("word"), text)
+    {
+    }
+};
+
+static bool operator<(const Word &a, const Word &b)
+{
+    return a.value().left(1) < b.value().left(1);
+}
+
+using Words = PropertyListT<Word>;
+
+class TestPropertyList : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void sortedInsertion();
+    void equalElementsKeepTheirArrival();
+    void unsortedAppends();
+    void replacementIsSorted();
+    void valueIsTakenAsGiven();
+    void removeAndUndo();
+    void removeOfAStranger();
+    void removeWithoutUndoAnnouncesAlways();
+    void wrongTypes();
+    void wrongElementIsNoticed();
+    void sorting();
+    void findByName();
+    void clearIsUndoable();
+
+private:
+    QString text(const Words &list) const;
+    Word *word(const char *text) { return new Word(&m_project, QString::fromLatin1(text)); }
+    GUndoStack *stack() { return m_project.undoStack(); }
+
+    GProject m_project{QStringLiteral("document"), {}};
+};
+
+void TestPropertyList::init()
+{
+    stack()->clear();
+}
+
+QString TestPropertyList::text(const Words &list) const
+{
+    QStringList words;
+    for (int i = 0; i < list.count(); ++i)
+        words << list.at(i)->value();
+    return words.join(QLatin1Char(' '));
+}
+
+void TestPropertyList::sortedInsertion()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    for (const char *letter : {"d", "a", "f", "c", "b", "e"})
+        list.addWithoutUndo(word(letter));
+    QCOMPARE(text(list), QStringLiteral("a b c d e f"));
+    QVERIFY(!stack()->canUndo());
+}
+
+void TestPropertyList::equalElementsKeepTheirArrival()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    for (const char *letter : {"b1", "c", "a", "b2", "b3"})
+        list.add(word(letter), QStringLiteral("add"));
+    QCOMPARE(text(list), QStringLiteral("a b1 b2 b3 c"));
+    QCOMPARE(stack()->count(), 5);
+    stack()->undo();
+    QCOMPARE(text(list), QStringLiteral("a b1 b2 c"));
+    stack()->clear();
+}
+
+void TestPropertyList::unsortedAppends()
+{
+    Words list(&m_project, QStringLiteral("l"), false);
+    for (const char *letter : {"b", "a"})
+        list.addWithoutUndo(word(letter));
+    QCOMPARE(text(list), QStringLiteral("b a"));
+}
+
+void TestPropertyList::replacementIsSorted()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    RecordingObserver observer;
+    list.registerObserver(&observer);
+    QList<QSharedPointer<Word>> words;
+    for (const char *letter : {"c", "b2", "a", "b1"})
+        words << QSharedPointer<Word>(word(letter));
+    list.replaceListWithoutUndo(words);
+    QCOMPARE(text(list), QStringLiteral("a b2 b1 c"));
+    list.setValueWithoutUndoAndAnnounceChange(list.value());
+    QCOMPARE(observer.heard.count(), 2);
+    QVERIFY(!stack()->canUndo());
+}
+
+void TestPropertyList::valueIsTakenAsGiven()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    const QSharedPointer<Property> b(word("b"));
+    const QSharedPointer<Property> a(word("a"));
+    list.setValue({b, a}, {});
+    QCOMPARE(text(list), QStringLiteral("b a"));
+    stack()->clear();
+}
+
+void TestPropertyList::removeAndUndo()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    for (const char *letter : {"a", "b", "c"})
+        list.addWithoutUndo(word(letter));
+    Word *b = list.at(1);
+    list.remove(b, QStringLiteral("remove"));
+    QCOMPARE(text(list), QStringLiteral("a c"));
+    stack()->undo();
+    QCOMPARE(list.at(1), b);
+    QCOMPARE(b->value(), QStringLiteral("b"));
+    list.remove(0, {});
+    list.remove(7, {});
+    QCOMPARE(stack()->count(), 1);
+    QCOMPARE(text(list), QStringLiteral("b c"));
+    stack()->clear();
+}
+
+void TestPropertyList::removeOfAStranger()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    list.addWithoutUndo(word("a"));
+    RecordingObserver observer;
+    list.registerObserver(&observer);
+    const QScopedPointer<Word> stranger(word("a"));
+    list.remove(stranger.data(), {});
+    QVERIFY(!stack()->canUndo());
+    QVERIFY(observer.heard.isEmpty());
+}
+
+void TestPropertyList::removeWithoutUndoAnnouncesAlways()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    list.addWithoutUndo(word("a"));
+    RecordingObserver observer;
+    list.registerObserver(&observer);
+    list.removeWithoutUndo(-1);
+    QCOMPARE(list.count(), 1);
+    QCOMPARE(observer.heard.count(), 1);
+    list.removeWithoutUndo(0);
+    QCOMPARE(list.count(), 0);
+    QCOMPARE(observer.heard.count(), 2);
+}
+
+void TestPropertyList::wrongTypes()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    const auto other = [this] { return new PropertyInt(&m_project, QStringLiteral("i"), 0); };
+    const QString message = QStringLiteral("cannot add 'i' to list 'l', wrong type");
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.add(other(), {}); }), message);
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.addWithoutUndo(other()); }), message);
+    const QSharedPointer<Property> shared(other());
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.addShared(shared, {}); }), message);
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.addSharedWithoutUndo(shared); }), message);
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.addWithoutUndo(nullptr); }),
+             QStringLiteral("cannot add '' to list 'l', wrong type"));
+    QCOMPARE(list.count(), 0);
+    QVERIFY(!stack()->canUndo());
+}
+
+void TestPropertyList::wrongElementIsNoticed()
+{
+    Words list(&m_project, QStringLiteral("l"), false);
+    list.setValueWithoutUndoAndAnnounceChange(
+        {QSharedPointer<Property>(new PropertyInt(&m_project, QStringLiteral("i"), 0))});
+    const QString message = QStringLiteral("property 'i' in list 'l' has wrong type'");
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.at(0); }), message);
+    QCOMPARE(messageOf<ErrorTypeConflict>([&] { list.sharedAt(0); }), message);
+}
+
+void TestPropertyList::sorting()
+{
+    Words sorted(&m_project, QStringLiteral("l"), true);
+    const QSharedPointer<Property> b(word("b"));
+    const QSharedPointer<Property> a(word("a"));
+    sorted.setValueWithoutUndoAndAnnounceChange({b, a});
+    sorted.sort();
+    QCOMPARE(text(sorted), QStringLiteral("a b"));
+    QCOMPARE(stack()->undoText(), QStringLiteral("sort list"));
+    sorted.sort();
+    QCOMPARE(stack()->count(), 1);
+    stack()->clear();
+
+    PropertyList plain(&m_project, QStringLiteral("p"), false);
+    for (int i = 0; i < 100; ++i)
+        plain.addWithoutUndo(new PropertyInt(&m_project, QStringLiteral("i"), i));
+    plain.sort();
+    QVERIFY(!stack()->canUndo());
+}
+
+void TestPropertyList::findByName()
+{
+    const auto key = [](Property *element) { return static_cast<Word *>(element)->value(); };
+    for (const bool sorted : {false, true}) {
+        Words list(&m_project, QStringLiteral("l"), sorted);
+        QVERIFY(!list.findByName(QStringLiteral("a"), key));
+        for (const char *letter : {"a", "c", "e", "g"})
+            list.addWithoutUndo(word(letter));
+        QCOMPARE(list.findByName(QStringLiteral("e"), key), list.value().at(2));
+        QVERIFY(!list.findByName(QStringLiteral("d"), key));
+        QVERIFY(!list.findByName(QStringLiteral("z"), key));
+    }
+}
+
+void TestPropertyList::clearIsUndoable()
+{
+    Words list(&m_project, QStringLiteral("l"), true);
+    list.clear({});
+    QVERIFY(!stack()->canUndo());
+    list.addWithoutUndo(word("a"));
+    list.clear({});
+    QCOMPARE(list.count(), 0);
+    stack()->undo();
+    QCOMPARE(text(list), QStringLiteral("a"));
+    stack()->clear();
+}
+
+QTEST_MAIN(TestPropertyList)
+#include "tst_propertylist.moc"

@@ -1,0 +1,217 @@
+#include "properties/SimpleXmlWriter.h"
+#include "properties/ThrowHelper.h"
+#include "properties/XmlAttributeOrder.h"
+#include "properties/XmlTools.h"
+
+#include <QDomDocument>
+#include <QtTest>
+
+class TestXmlTools : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void roundTripKeepsTheAttributeOrder();
+    void withoutOrderAttributesAreSorted();
+    void encodings_data();
+    void encodings();
+    void malformed();
+    void hostile_data();
+    void hostile();
+    void blanksAndVerbatim();
+    void textSurvives_data();
+    void textSurvives();
+    void content_data();
+    void content();
+    void simpleWriter();
+};
+
+static QByteArray serialized(const QDomDocument &document, XmlAttributeOrder order = {},
+                             const QStringList &verbatim = {})
+{
+    return XmlTools::serialize(document, &order, verbatim, 4);
+}
+
+void TestXmlTools::roundTripKeepsTheAttributeOrder()
+{
+    const QByteArray xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                           "<root z=\"1\" a=\"2\">\n"
+                           "    <!--remark-->\n"
+                           "    <x:leaf b=\"1\" a=\"&amp;\">t&lt;</x:leaf>\n"
+                           "    <cdata><![CDATA[<raw>]]></cdata>\n"
+                           "</root>\n";
+    QDomDocument document;
+    XmlAttributeOrder order;
+    QVERIFY(XmlTools::parse(document, xml, &order, nullptr, nullptr));
+    QCOMPARE(serialized(document, order), xml);
+}
+
+void TestXmlTools::withoutOrderAttributesAreSorted()
+{
+    QDomDocument document;
+    QVERIFY(XmlTools::parse(document, "<r b='2' a='3' Z='1'/>", nullptr, nullptr, nullptr));
+    QVERIFY(serialized(document).contains("<r Z=\"1\" a=\"3\" b=\"2\"/>"));
+}
+
+void TestXmlTools::encodings_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("none") << QByteArray("<r/>") << true;
+    QTest::newRow("no name") << QByteArray("<?xml version='1.0'?><r/>") << true;
+    QTest::newRow("UTF-8") << QByteArray("<?xml version='1.0' encoding='UTF-8'?><r/>") << true;
+    QTest::newRow("standalone")
+        << QByteArray("<?xml version='1.0' encoding='UTF-8' standalone='yes'?><r/>") << true;
+    QTest::newRow("utf-8") << QByteArray("<?xml version='1.0' encoding='utf-8'?><r/>") << false;
+    QTest::newRow("latin") << QByteArray("<?xml version='1.0' encoding=\"ISO-8859-1\"?><r/>")
+                           << false;
+}
+
+void TestXmlTools::encodings()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(bool, accepted);
+    QDomDocument document;
+    const QString message = messageOf<Error>(
+        [&] { QVERIFY(XmlTools::parse(document, xml, nullptr, nullptr, nullptr)); });
+    QCOMPARE(message, accepted ? QStringLiteral("nothing thrown")
+                               : QStringLiteral("Glossmark only supports UTF-8 encoded XML files"));
+}
+
+void TestXmlTools::malformed()
+{
+    QDomDocument document;
+    QString text;
+    int line = 0;
+    QVERIFY(!XmlTools::parse(document, "<r>\n<a>\n</b></r>", nullptr, &text, &line));
+    QCOMPARE(line, 3);
+    QVERIFY(!text.isEmpty());
+}
+
+void TestXmlTools::hostile_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::newRow("deep") << QByteArray("<a>").repeated(1000000);
+    QTest::newRow("deep and closed")
+        << QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000);
+    QByteArray entities = "<!ENTITY e0 'lol'>";
+    for (int i = 1; i < 20; ++i)
+        entities += "<!ENTITY e" + QByteArray::number(i) + " '" +
+                    ("&e" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
+    QTest::newRow("entities") << "<!DOCTYPE r [" + entities + "]><r>&e19;</r>";
+    QTest::newRow("cut off") << QByteArray("<r><a att='");
+    QTest::newRow("no utf-8") << QByteArray("<r>\xff\xfe\xfd</r><");
+    QTest::newRow("nul") << QByteArray("<r>\0</r>", 8);
+}
+
+void TestXmlTools::hostile()
+{
+    QFETCH(QByteArray, xml);
+    QDomDocument document;
+    QString text;
+    QVERIFY(!XmlTools::parse(document, xml, nullptr, &text, nullptr));
+    QVERIFY(!text.isEmpty());
+}
+
+void TestXmlTools::blanksAndVerbatim()
+{
+    QDomDocument document;
+    QVERIFY(XmlTools::parse(document, "<r>\n <a>  </a>\n <keep>  <b/> </keep></r>", nullptr,
+                            nullptr, nullptr));
+    QCOMPARE(serialized(document, {}, {QStringLiteral("keep")}),
+             QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<r>\n    <a/>\n"
+                        "    <keep>  <b/> </keep>\n</r>\n"));
+}
+
+void TestXmlTools::textSurvives_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("kept");
+    const auto same = [](const char *name, const QString &text) {
+        QTest::newRow(name) << text << text;
+    };
+    same("newlines", QStringLiteral("\n one\n\ntwo\t \n"));
+    same("carriage returns", QStringLiteral("\ra\r\nb\r\r"));
+    same("markup", QStringLiteral("<a>&amp;]]>'\""));
+    same("scripts", QStringLiteral("\u0627\u0644 \u4e2d \U0001F9F5"));
+    same("large", QStringLiteral("0123456789abcdef\n").repeated(7000));
+    QTest::newRow("control") << QStringLiteral("a\u0001\u001f\u000cb") << QStringLiteral("ab");
+    QTest::newRow("nul") << QStringLiteral("a") + QChar(0) + QChar('b') << QStringLiteral("ab");
+    QTest::newRow("not a character")
+        << QStringLiteral("a") + QChar(0xfffe) + QChar(0xffff) + QChar('b') << QStringLiteral("ab");
+    QTest::newRow("lone surrogates")
+        << QChar(0xdc00) + QStringLiteral("a") + QChar(0xd800) + QStringLiteral("b") + QChar(0xd801)
+        << QStringLiteral("ab");
+}
+
+void TestXmlTools::textSurvives()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, kept);
+    QDomDocument document;
+    QDomElement root = document.createElement(QStringLiteral("r"));
+    document.appendChild(root);
+    root.setAttribute(QStringLiteral("a"), text);
+    root.appendChild(document.createTextNode(text));
+    const QByteArray bytes = serialized(document);
+    QDomDocument read;
+    QVERIFY(XmlTools::parse(read, bytes, nullptr, nullptr, nullptr));
+    QCOMPARE(read.documentElement().text(), kept);
+    QCOMPARE(read.documentElement().attribute(QStringLiteral("a")), kept);
+    QCOMPARE(serialized(read), bytes);
+}
+
+void TestXmlTools::content_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<int>("nodes");
+    QTest::newRow("markup") << QStringLiteral("a <b>c</b> d") << 3;
+    QTest::newRow("lone sign") << QStringLiteral("a < b") << 1;
+    QTest::newRow("nothing") << QString() << 0;
+    QTest::newRow("closing") << QStringLiteral("</root><root>") << 1;
+}
+
+void TestXmlTools::content()
+{
+    QFETCH(QString, content);
+    QFETCH(int, nodes);
+    QDomDocument document;
+    QDomElement element = document.createElement(QStringLiteral("e"));
+    document.appendChild(element);
+    element.appendChild(document.createTextNode(QStringLiteral("old")));
+    XmlTools::setXmlContent(document, element, content);
+    QCOMPARE(element.childNodes().count(), nodes);
+    if (nodes == 1)
+        QCOMPARE(element.text(), content);
+    else
+        QCOMPARE(XmlTools::xmlContent(element), content);
+}
+
+void TestXmlTools::simpleWriter()
+{
+    QByteArray bytes;
+    SimpleXmlWriter writer(&bytes, QStringLiteral("report"),
+                           {{QStringLiteral("v"), QStringLiteral("1")}});
+    writer.addElement(QStringLiteral("text"), "a<b");
+    writer.addElement(QStringLiteral("bad"), QStringLiteral("x\u0001") + QChar(0xd800));
+    writer.addElement(QStringLiteral("yes"), QVariant(true));
+    writer.addElement(QStringLiteral("none"), QVariant());
+    writer.addElement(QStringLiteral("real"), QVariant(1.5));
+    writer.addElement(QStringLiteral("map"),
+                      QVariantMap({{QStringLiteral("b"), 2}, {QStringLiteral("a"), 1}}));
+    writer.close();
+    writer.close();
+    QCOMPARE(bytes, QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                               "<report v=\"1\">\n"
+                               "\t<text>a&lt;b</text>\n"
+                               "\t<bad>x</bad>\n"
+                               "\t<yes>true</yes>\n"
+                               "\t<none>\n\t\t<!--invalid data-->\n\t</none>\n"
+                               "\t<real>\n\t\t<!--unknown value type-->\n\t\t<!--1.5-->\n"
+                               "\t</real>\n"
+                               "\t<map>\n\t\t<a>1</a>\n\t\t<b>2</b>\n\t</map>\n"
+                               "</report>\n"));
+}
+
+QTEST_MAIN(TestXmlTools)
+#include "tst_xmltools.moc"
