@@ -60,8 +60,10 @@ protected:
     /** Runs @p read and has its failures tell that @p list couldn't be read. */
     void rethrowingForList(const PropertyList *list, const std::function<void()> &read) const;
 
-private:
+    /** Reads the children of these names, in this order. */
     void visit(PropertyStruct *structure, const QStringList &names);
+
+private:
     void readListElements(PropertyList *list);
     double number(const QString &attribute) const;
 
