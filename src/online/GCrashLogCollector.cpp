@@ -12,12 +12,14 @@ namespace {
 // Our own logs have a few kilobytes; a larger file is not worth sending.
 constexpr qint64 MaxLogSize = 1024 * 1024;
 
-// The folders of program and libraries tell where the user installed them, and
-// often the user's name; the file's own name is all that a report needs.
+// A frame of the backtrace begins with the path of the program or a library,
+// which tells where the user installed it, and often the user's name; the
+// file's own name is all that a report needs.
 QString withoutFolders(QString text)
 {
-    static const QRegularExpression folders(QStringLiteral("^/.*/(?=[^/\\n]*$)"),
-                                            QRegularExpression::MultilineOption);
+    static const QRegularExpression folders(
+        QStringLiteral("^.*/(?=[^/\\n]*\\(.*\\)\\s*\\[0x[0-9a-f]+\\]$)"),
+        QRegularExpression::MultilineOption);
     return text.remove(folders);
 }
 

@@ -180,11 +180,13 @@ void tst_Crash::foldersAreLeftOut()
     QCOMPARE(exitSignal("kill"), SIGSEGV);
     const QDateTime later = QDateTime::currentDateTime().addSecs(60);
     writeLog(QStringLiteral("Crash Test-x.crash"),
-             "Backtrace:\n/home/jo smith/bin/prog(main+0x1)[0x2]\n/usr/lib/libc.so.6(+0x3)[0x4]\n",
+             "Backtrace:\n/home/jo smith/bin/prog(main+0x1)[0x2]\n/usr/lib/libc.so.6(+0x3)[0x4]\n"
+             "bin/prog(+0x5) [0x6]\n1/2\n",
              later);
     QCOMPARE(
         GCrashLogCollector().logsSince(later.addSecs(-1)),
-        QStringList(QStringLiteral("Backtrace:\nprog(main+0x1)[0x2]\nlibc.so.6(+0x3)[0x4]\n")));
+        QStringList(QStringLiteral(
+            "Backtrace:\nprog(main+0x1)[0x2]\nlibc.so.6(+0x3)[0x4]\nprog(+0x5) [0x6]\n1/2\n")));
 }
 
 int main(int argc, char **argv)
