@@ -1,0 +1,28 @@
+#pragma once
+
+#include "catalogue/records/IFile.h"
+#include "cli/Console.h"
+#include <QCoreApplication>
+#include <QList>
+#include <QSharedPointer>
+
+/** Prints records of the catalogue. */
+class CatalogueReport
+{
+    Q_DECLARE_TR_FUNCTIONS(CatalogueReport)
+
+public:
+    using Files = QList<QSharedPointer<IFile>>;
+
+    explicit CatalogueReport(StandardOutput &output) : m_output(output) {}
+
+    /** One object per record, a line each. */
+    void writeJson(const Files &files);
+    /** A line of column names, then a line per record. */
+    void writeCsv(const Files &files);
+    /** Aligned columns and a closing line with the number of designs. */
+    void writeTable(const Files &files);
+
+private:
+    StandardOutput &m_output;
+};

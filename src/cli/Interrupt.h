@@ -1,0 +1,14 @@
+#pragma once
+
+/** The user's wish to stop, by Ctrl-C or by a termination signal. */
+namespace Interrupt {
+
+/**
+ * From now on the first such signal is only noted; a second one ends the process
+ * at once.
+ */
+void install();
+
+bool requested();
+
+} // namespace Interrupt

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/base/InstanceBlock.h"
+#include <QSharedMemory>
+#include <QString>
+
+/**
+ * While it lives, no organiser of this user gets past the guard at its start: it
+ * holds the lock on the block in which the running instance is recorded. To be
+ * held only as long as a look or a save takes.
+ */
+class OrganiserGuard
+{
+public:
+    OrganiserGuard();
+    ~OrganiserGuard();
+
+    OrganiserGuard(const OrganiserGuard &) = delete;
+    OrganiserGuard &operator=(const OrganiserGuard &) = delete;
+
+    /**
+     * Whether an organiser is recorded and answers. One that was killed stays
+     * recorded while other processes hold the block, but does not answer.
+     */
+    bool isOrganiserRunning() const;
+
+private:
+    bool knowsThatNoneRuns() const;
+    bool organiserAnswers() const;
+
+    QString m_name;
+    QSharedMemory m_block;
+    bool m_locked = false;
+};

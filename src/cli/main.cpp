@@ -1,0 +1,83 @@
+#include "app/base/BuildConfig.h"
+#include "app/base/Error.h"
+#include "app/base/GDebug.h"
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+#include "cli/ExitStatus.h"
+#include "cli/InspectCommand.h"
+#include "cli/ListCommand.h"
+#include "cli/ScanCommand.h"
+#include <exception>
+#include <QGuiApplication>
+#include <QTextCodec>
+
+namespace {
+
+constexpr int CriticalMessagesOnly = 4;
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("main", text);
+}
+
+int runWithoutCommand(const QStringList &arguments)
+{
+    CommandLine line(
+        QStringLiteral("hoopline-cli scan|inspect|list [options] [ARGUMENT...]"),
+        translated("The companion of Hoopline Organizer that needs no window.\n"
+                   "\n"
+                   "Commands; each has a --help of its own:\n"
+                   "  scan     Add folders to the catalogue, bring it into line with the disk.\n"
+                   "  inspect  Read designs and tell about them.\n"
+                   "  list     Print the designs of the catalogue."),
+        arguments);
+    if (!line.parse())
+        return line.exitStatus();
+    if (line.positionalArguments().isEmpty())
+        return line.fail(translated("No command given."));
+    return line.fail(
+        translated("Unknown command '%1'.").arg(line.positionalArguments().constFirst()));
+}
+
+int run(QStringList arguments)
+{
+    arguments.removeFirst();
+    const QString command = arguments.value(0);
+    const QStringList rest = arguments.mid(1);
+    if (command == QLatin1String("scan"))
+        return ScanCommand::run(rest);
+    if (command == QLatin1String("inspect"))
+        return InspectCommand::run(rest);
+    if (command == QLatin1String("list"))
+        return ListCommand::run(rest);
+    return runWithoutCommand(arguments);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+#ifdef Q_OS_UNIX
+    // The catalogue holds names decoded as UTF-8, whatever the locale of this shell.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    theLogServer()->setGlobalLogLevel(CriticalMessagesOnly);
+    qInstallMessageHandler(GDebug::redirectQDebug);
+
+    QGuiApplication app(argc, argv);
+    // The names of the program itself: settings and catalogue are shared with it.
+    QCoreApplication::setApplicationName(QStringLiteral("Hoopline Organizer"));
+    QCoreApplication::setOrganizationName(QLatin1String(BuildConfig::Organisation));
+    QCoreApplication::setApplicationVersion(QLatin1String(BuildConfig::Version));
+
+    try {
+        return run(app.arguments());
+    } catch (const Error &error) {
+        Console::reportError(error.toString());
+    } catch (const std::exception &error) {
+        Console::reportError(QString::fromLocal8Bit(error.what()));
+    }
+    return Failure;
+}

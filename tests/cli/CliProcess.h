@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/**
+ * Runs the command-line companion as a process of its own, in a home, a profile
+ * and a folder for sockets that only it sees.
+ */
+class CliProcess
+{
+public:
+    struct Result
+    {
+        int status = -1;
+        QByteArray out;
+        QByteArray error;
+
+        QByteArray lastLine() const { return out.trimmed().split('\n').constLast(); }
+    };
+
+    CliProcess();
+
+    Result run(const QStringList &arguments) const;
+    /** Gives @p process its environment and starts it. */
+    bool start(QProcess &process, const QStringList &arguments) const;
+    static Result finish(QProcess &process);
+
+    /** The folder that the companion runs in. */
+    QString workPath(const QString &name = QString()) const;
+    QString dataPath(const QString &name = QString()) const;
+    QString temporaryPath() const { return m_root.filePath(QStringLiteral("tmp")); }
+
+private:
+    QTemporaryDir m_root;
+};
