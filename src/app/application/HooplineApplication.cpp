@@ -44,7 +44,10 @@ HooplineApplication::HooplineApplication(int &argc, char **argv)
     QTimer::singleShot(0, this, &HooplineApplication::launch);
 }
 
-HooplineApplication::~HooplineApplication() {}
+HooplineApplication::~HooplineApplication()
+{
+    GlobalTracking::aboutToQuit();
+}
 
 HooplineApplication *HooplineApplication::instance()
 {
@@ -142,4 +145,10 @@ void HooplineApplication::launch()
     }
 }
 
-void HooplineApplication::launchAsyncNetworkTasks() {}
+void HooplineApplication::launchAsyncNetworkTasks()
+{
+    if (m_updater->autoUpdatesEnabled())
+        m_updater->checkForUpdates();
+    if (Metrics *metrics = Metrics::instance())
+        metrics->initNetworkAccessManager();
+}
