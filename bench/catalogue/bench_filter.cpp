@@ -1,0 +1,111 @@
+#include "LargeCatalogue.h"
+#include "catalogue/models/FileOrder.h"
+#include "catalogue/models/FilterModel.h"
+#include "catalogue/records/LocaleAwareFunctions.h"
+
+#include <QtTest>
+
+/** What a change of the filter costs over 100,000 designs. */
+class BenchFilter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void pass_data();
+    void pass();
+    void refreshOfAnUnchangedCatalogue();
+    void sortAlone();
+    void orderAgain();
+    void tagOfOneFile();
+
+private:
+    QSharedPointer<Project> m_project = QSharedPointer<Project>::create();
+};
+
+using Change = std::function<void(FilterModel &, bool)>;
+Q_DECLARE_METATYPE(Change)
+
+void BenchFilter::initTestCase()
+{
+    fillCatalogue(m_project.data(), 100000);
+}
+
+void BenchFilter::pass_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
+    row("folder", [](FilterModel &model, bool on) {
+        model.setDirectory(on ? QStringLiteral("/home/user/Designs/Set 1") : QString());
+    });
+    row("tag", [](FilterModel &model, bool on) {
+        model.setTag(on ? QStringLiteral("flowers") : QString());
+    });
+    row("type", [](FilterModel &model, bool on) {
+        model.setFileType(on ? QStringLiteral("dst") : QString());
+    });
+    row("size", [](FilterModel &model, bool on) {
+        model.setMaxDesignSize(on ? QSizeF(100, 100) : QSizeF(-1, -1));
+    });
+    row("search", [](FilterModel &model, bool on) {
+        model.setSearchSubstring(on ? QStringLiteral("flower 77") : QString());
+    });
+    row("favourites", [](FilterModel &model, bool on) { model.setFavoritesOnly(on); });
+}
+
+void BenchFilter::pass()
+{
+    QFETCH(Change, change);
+    FilterModel model(m_project);
+    bool on = false;
+    QBENCHMARK
+    {
+        on = !on;
+        change(model, on);
+    }
+}
+
+void BenchFilter::refreshOfAnUnchangedCatalogue()
+{
+    FilterModel model(m_project);
+    QBENCHMARK
+    {
+        model.refreshFilter();
+    }
+}
+
+void BenchFilter::sortAlone()
+{
+    const QList<QSharedPointer<IFile>> files = m_project->files();
+    QBENCHMARK
+    {
+        auto sorted = files;
+        LocaleAwareFunctions::sort(sorted);
+    }
+}
+
+void BenchFilter::orderAgain()
+{
+    const QList<QSharedPointer<IFile>> files = m_project->files();
+    FileOrder order;
+    order.setFiles(files);
+    QBENCHMARK
+    {
+        order.setFiles(files);
+    }
+}
+
+void BenchFilter::tagOfOneFile()
+{
+    FilterModel model(m_project);
+    model.setTag(QStringLiteral("flowers"));
+    const QSharedPointer<IFile> file = m_project->files().at(5);
+    QBENCHMARK
+    {
+        file->tagsProp()->setValueWithoutUndoAndAnnounceChange({QStringLiteral("flowers")});
+        file->tagsProp()->setValueWithoutUndoAndAnnounceChange({});
+    }
+}
+
+QTEST_MAIN(BenchFilter)
+#include "bench_filter.moc"
