@@ -54,9 +54,6 @@ public:
     void visit(GProject *project) override;
 
 protected:
-    /** Makes the element of @p list that @p element stands for and adds it. */
-    void readListElement(PropertyList *list, const QDomElement &element);
-
     /** Runs @p read and has its failures tell that @p list couldn't be read. */
     void rethrowingForList(const PropertyList *list, const std::function<void()> &read) const;
 
@@ -65,6 +62,7 @@ protected:
 
 private:
     void readListElements(PropertyList *list);
+    void readListElement(PropertyList *list, const QDomElement &element);
     double number(const QString &attribute) const;
 
     QDomElement m_currentElement;

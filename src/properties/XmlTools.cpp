@@ -76,18 +76,6 @@ void XmlTools::readChildren(QXmlStreamReader &reader, QDomDocument &document, QD
     }
 }
 
-void XmlTools::skipChildren(QXmlStreamReader &reader)
-{
-    int depth = 0;
-    while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement && !enter(reader, depth))
-            return;
-        if (token == QXmlStreamReader::EndElement && --depth < 0)
-            return;
-    }
-}
-
 bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
                      QString *errorText, int *errorLine)
 {

@@ -61,7 +61,4 @@ public:
      */
     static void readChildren(QXmlStreamReader &reader, QDomDocument &document, QDomElement parent,
                              BlankText blankText, XmlAttributeOrder *order = nullptr);
-
-    /** The same without building anything. */
-    static void skipChildren(QXmlStreamReader &reader);
 };

@@ -2,30 +2,21 @@
 
 #include "app/base/Error.h"
 #include "catalogue/records/Project.h"
+#include "properties/PropertyFactory.h"
 #include "properties/XmlTools.h"
 
-#include <QIODevice>
 #include <QObject>
 #include <QXmlStreamReader>
 
-static void throwIfMalformed(const QXmlStreamReader &reader)
-{
-    if (reader.hasError())
-        throw Error(QObject::tr("XML parser error: %1 (line %2)")
-                        .arg(reader.errorString())
-                        .arg(reader.lineNumber()));
-}
-
-CatalogueXMLReader::CatalogueXMLReader(Project *project, const PropertyFactory *factory,
-                                       QIODevice *file)
-    : PropertyXMLReader(project, factory), m_project(project), m_file(file)
+CatalogueXMLReader::CatalogueXMLReader(Project *project, const PropertyFactory *factory)
+    : PropertyXMLReader(project, factory), m_project(project), m_factory(factory)
 {
 }
 
-QDomDocument CatalogueXMLReader::parseWithoutRecords()
+QDomDocument CatalogueXMLReader::parse(QIODevice *file)
 {
     QDomDocument document;
-    QXmlStreamReader reader(m_file);
+    QXmlStreamReader reader(file);
     reader.setNamespaceProcessing(false);
     if (reader.readNextStartElement()) {
         QDomElement root = XmlTools::createElement(document, reader);
@@ -37,7 +28,7 @@ QDomDocument CatalogueXMLReader::parseWithoutRecords()
             // Only the first element of a name counts.
             if (!hasRecords && child.tagName() == m_project->filesProp()->propertyName()) {
                 hasRecords = true;
-                XmlTools::skipChildren(reader);
+                makeRecords(reader);
             } else {
                 XmlTools::readChildren(reader, document, child, XmlTools::DropBlankText);
             }
@@ -45,35 +36,50 @@ QDomDocument CatalogueXMLReader::parseWithoutRecords()
     }
     while (!reader.atEnd())
         reader.readNext();
-    throwIfMalformed(reader);
+    if (reader.hasError())
+        throw Error(QObject::tr("XML parser error: %1 (line %2)")
+                        .arg(reader.errorString())
+                        .arg(reader.lineNumber()));
     return document;
 }
 
-void CatalogueXMLReader::visit(PropertyList *list)
+void CatalogueXMLReader::makeRecords(QXmlStreamReader &reader)
 {
-    if (list != m_project->filesProp()) {
-        PropertyXMLReader::visit(list);
-        return;
-    }
-    rethrowingForList(list, [this] { readRecords(); });
-}
-
-void CatalogueXMLReader::readRecords()
-{
-    m_file->seek(0);
-    QXmlStreamReader reader(m_file);
-    reader.setNamespaceProcessing(false);
-    reader.readNextStartElement();
-    const QString tag = m_project->filesProp()->propertyName();
-    while (reader.readNextStartElement() && reader.qualifiedName() != tag)
-        XmlTools::skipChildren(reader);
     while (reader.readNextStartElement()) {
         QDomDocument document;
         const QDomElement element = XmlTools::createElement(document, reader);
         document.appendChild(element);
         XmlTools::readChildren(reader, document, element, XmlTools::DropBlankText);
-        throwIfMalformed(reader);
-        readListElement(m_project->filesProp(), element);
+        if (!m_recordError && !reader.hasError())
+            makeRecord(element);
     }
-    throwIfMalformed(reader);
+}
+
+void CatalogueXMLReader::makeRecord(const QDomElement &element)
+{
+    try {
+        std::unique_ptr<Property> record(
+            m_factory->createProperty(element.tagName(), m_project->filesProp()));
+        readFromXML(record.get(), element, QStringLiteral("/"));
+        m_records.push_back(std::move(record));
+    } catch (const Error &error) {
+        // Told where the records take their place in the catalogue.
+        m_recordError = std::make_unique<QString>(error.toString());
+    }
+}
+
+void CatalogueXMLReader::visit(PropertyList *list)
+{
+    if (list == m_project->filesProp())
+        rethrowingForList(list, [this] { addRecords(); });
+    else
+        PropertyXMLReader::visit(list);
+}
+
+void CatalogueXMLReader::addRecords()
+{
+    for (auto &record : m_records)
+        m_project->filesProp()->addWithoutUndo(record.release());
+    if (m_recordError)
+        throw Error(*m_recordError);
 }

@@ -2,33 +2,45 @@
 
 #include "properties/PropertyXMLReader.h"
 
+#include <memory>
 #include <QDomDocument>
+#include <QString>
+#include <vector>
 
 class Project;
 class QIODevice;
+class QXmlStreamReader;
 
 /**
  * Reads the catalogue with never more than one record of it as a document: a
- * hundred thousand of them would take gigabytes. The first pass judges the whole
- * file, before anything changes; a second one reads the records.
+ * hundred thousand of them would take gigabytes. Records are made aside while the
+ * file is judged, so that the catalogue stays as it is until all of it is known to
+ * be well-formed.
  */
 class CatalogueXMLReader : public PropertyXMLReader
 {
 public:
-    /** None is owned; @p file is open and can be read twice. */
-    CatalogueXMLReader(Project *project, const PropertyFactory *factory, QIODevice *file);
+    /** Neither is owned. */
+    CatalogueXMLReader(Project *project, const PropertyFactory *factory);
 
-    /** The document without its records. Throws Error when any of it is malformed. */
-    QDomDocument parseWithoutRecords();
+    /**
+     * Makes the records and returns the document without them. Throws Error when any
+     * of the file is malformed.
+     */
+    QDomDocument parse(QIODevice *file);
 
     using PropertyXMLReader::visit;
 
-    /** Reads the records from the file instead of the document. */
+    /** Adds the records that were made; throws Error where making them failed. */
     void visit(PropertyList *list) override;
 
 private:
-    void readRecords();
+    void makeRecords(QXmlStreamReader &reader);
+    void makeRecord(const QDomElement &element);
+    void addRecords();
 
     Project *m_project;
-    QIODevice *m_file;
+    const PropertyFactory *m_factory;
+    std::vector<std::unique_ptr<Property>> m_records;
+    std::unique_ptr<QString> m_recordError;
 };

@@ -29,13 +29,13 @@ void DataModelReader::readFromFile(Project *project, const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw ErrorDoesNotExist(QObject::tr("Failed to open file '%1'").arg(path));
-    CatalogueXMLReader reader(project, this, &file);
-    const QDomDocument document = reader.parseWithoutRecords();
+    m_project = project;
+    CatalogueXMLReader reader(project, this);
+    const QDomDocument document = reader.parse(&file);
     if (document.documentElement().tagName() != project->propertyName())
         throw Error(QObject::tr("'%1' is not a Hoopline Organizer project file").arg(path));
     upgradeDom(document);
 
-    m_project = project;
     project->clear();
     ChangeManager &changes = ChangeManager::instance();
     changes.startBulkOperation({});
