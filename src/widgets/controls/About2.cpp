@@ -1,5 +1,6 @@
 #include "widgets/controls/About2.h"
 
+#include "app/base/GTranslationLoader.h"
 #include "widgets/controls/About.h"
 
 #include <QApplication>
@@ -28,7 +29,8 @@ Look &look()
 
 QString readLicences()
 {
-    QFile file(QStringLiteral(":/about.html"));
+    const QString name = QStringLiteral(":/about.html");
+    QFile file(GTranslationLoader::instance()->localizedFilename(name));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 

@@ -1,11 +1,12 @@
 #include "widgets/controls/GMessageBox.h"
 
+#include "widgets/style/WidgetHelper.h"
+
 #include <QApplication>
 #include <QLabel>
 
 namespace {
 
-constexpr int LongestWord = 40;
 constexpr int LeastTextWidth = 320;
 
 QMessageBox::Icon iconOf(GMessageBox::Type type)
@@ -21,22 +22,6 @@ QMessageBox::Icon iconOf(GMessageBox::Type type)
         return QMessageBox::Question;
     }
     return QMessageBox::NoIcon;
-}
-
-/** A label wraps at blanks only; long paths and tags need more places to break at. */
-QString withBreaks(const QString &text)
-{
-    QString result;
-    int run = 0;
-    for (const QChar c : text) {
-        result += c;
-        run = c.isSpace() ? 0 : run + 1;
-        if (run >= LongestWord && !c.isHighSurrogate()) {
-            result += QChar(0x200b);
-            run = 0;
-        }
-    }
-    return result;
 }
 
 } // namespace
@@ -98,7 +83,7 @@ void GMessageBox::showEvent(QShowEvent *event)
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
         label->setMinimumWidth(LeastTextWidth);
-        label->setText(withBreaks(label->text()));
+        label->setText(WidgetHelper::breakable(label->text()));
     }
     QMessageBox::showEvent(event);
 }

@@ -1,6 +1,8 @@
 #include "widgets/controls/GTreeView.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -9,6 +11,7 @@ namespace {
 
 constexpr int PlaceholderIconSize = 64;
 constexpr int PlaceholderGap = 12;
+constexpr int DropFrameWidth = 2;
 
 } // namespace
 
@@ -20,6 +23,12 @@ void GTreeView::setPlaceholder(const QIcon &icon, const QString &richText, const
     m_placeholderText = richText;
     m_placeholderColor = color;
     updateDescription();
+    viewport()->update();
+}
+
+void GTreeView::setDropHighlighted(bool highlighted)
+{
+    m_dropHighlighted = highlighted;
     viewport()->update();
 }
 
@@ -36,11 +45,28 @@ void GTreeView::setModel(QAbstractItemModel *model)
     updateDescription();
 }
 
+void GTreeView::mousePressEvent(QMouseEvent *event)
+{
+    QTreeView::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && !indexAt(event->pos()).isValid())
+        clearSelection();
+}
+
+void GTreeView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && selectionModel() && selectionModel()->hasSelection())
+        clearSelection();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
 void GTreeView::paintEvent(QPaintEvent *event)
 {
     QTreeView::paintEvent(event);
     if (isEmpty())
         paintPlaceholder();
+    if (m_dropHighlighted)
+        paintDropFrame();
 }
 
 bool GTreeView::isEmpty() const
@@ -77,4 +103,12 @@ void GTreeView::paintPlaceholder()
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, m_placeholderColor);
     text.documentLayout()->draw(&painter, context);
+}
+
+void GTreeView::paintDropFrame()
+{
+    constexpr qreal Inset = DropFrameWidth / 2.0;
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), DropFrameWidth));
+    painter.drawRect(QRectF(viewport()->rect()).adjusted(Inset, Inset, -Inset, -Inset));
 }

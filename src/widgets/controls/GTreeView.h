@@ -3,7 +3,10 @@
 #include <QIcon>
 #include <QTreeView>
 
-/** A tree view that shows an icon and a rich text in its middle while it has no rows. */
+/**
+ * A tree view that shows an icon and a rich text in its middle while it has no rows. A click
+ * beside the rows and the Escape key clear the selection.
+ */
 class GTreeView : public QTreeView
 {
     Q_OBJECT
@@ -17,17 +20,24 @@ public:
      */
     void setPlaceholder(const QIcon &icon, const QString &richText, const QColor &color);
 
+    /** Draws a frame around the rows, to show that something may be dropped here. */
+    void setDropHighlighted(bool highlighted);
+
     void setModel(QAbstractItemModel *model) override;
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     bool isEmpty() const;
     void updateDescription();
     void paintPlaceholder();
+    void paintDropFrame();
 
     QIcon m_placeholderIcon;
     QString m_placeholderText;
     QColor m_placeholderColor;
+    bool m_dropHighlighted = false;
 };

@@ -277,6 +277,8 @@ int TnwMacStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWi
 {
     switch (hint) {
     case SH_EtchDisabledText:
+    // The wheel scrolls the panel; it must not choose a tag or a filter on its way.
+    case SH_ComboBox_AllowWheelScrolling:
         return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr int LongestWord = 40;
+
 qreal linear(qreal component)
 {
     return component <= 0.03928 ? component / 12.92 : qPow((component + 0.055) / 1.055, 2.4);
@@ -37,4 +39,24 @@ qreal WidgetHelper::contrast(const QColor &first, const QColor &second)
     const qreal a = luminance(first);
     const qreal b = luminance(second);
     return (qMax(a, b) + 0.05) / (qMin(a, b) + 0.05);
+}
+
+QString WidgetHelper::breakable(const QString &text)
+{
+    QString result;
+    int run = 0;
+    for (const QChar c : text) {
+        result += c;
+        run = c.isSpace() ? 0 : run + 1;
+        if (run >= LongestWord && !c.isHighSurrogate()) {
+            result += QChar(0x200b);
+            run = 0;
+        }
+    }
+    return result;
+}
+
+QString WidgetHelper::toolTipText(const QString &text)
+{
+    return QStringLiteral("<p>%1</p>").arg(breakable(text).toHtmlEscaped());
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QColor>
+#include <QString>
 
-/** Questions that widgets ask about colours. */
+/** Small questions that widgets ask about colours and texts. */
 class WidgetHelper
 {
 public:
@@ -14,4 +15,13 @@ public:
 
     /** The contrast ratio of two opaque colours, 1 to 21, as web accessibility computes it. */
     static qreal contrast(const QColor &first, const QColor &second);
+
+    /**
+     * \a text with places to break at inside words that no line could hold: labels and tool tips
+     * wrap at blanks only. For display, never for storage.
+     */
+    static QString breakable(const QString &text);
+
+    /** \a text as the rich text of a tool tip: markup in it is shown, long words are broken. */
+    static QString toolTipText(const QString &text);
 };

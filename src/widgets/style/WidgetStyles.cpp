@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFontInfo>
 #include <QToolTip>
 
 namespace {
@@ -113,7 +114,7 @@ QString WidgetStyles::createTagLabelStyle(bool allSelected)
     const QString darkBorder = allSelected ? current(QPalette::Button) : disabled(QPalette::Button);
     const QString border = dark ? darkBorder : current(QPalette::Mid);
     const QString fontSize =
-        QString::number(QApplication::font().pointSize()) + QLatin1String("pt");
+        QString::number(QFontInfo(QApplication::font()).pointSize()) + QLatin1String("pt");
     const QString hover = current(!dark && allSelected ? QPalette::Window : QPalette::Button);
     const QString hoverText = current(QPalette::ButtonText);
 
