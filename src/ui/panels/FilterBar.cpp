@@ -1,0 +1,183 @@
+#include "ui/panels/FilterBar.h"
+
+#include "app/application/HooplineApplication.h"
+#include "app/base/GlobalSettings.h"
+#include "catalogue/models/IFilterModel.h"
+#include "embroidery/EmbroideryIO.h"
+#include "ui_FilterBarUI.h"
+#include "widgets/style/GIcon.h"
+#include "widgets/style/WidgetStyles.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+
+namespace {
+
+constexpr double MillimetresPerInch = 25.4;
+
+/** What the search field needs beside the other fields to be of use. */
+constexpr int LeastSearchWidth = 120;
+
+QStringList inchSizes()
+{
+    return {QStringLiteral("3.9"), QStringLiteral("5.1"),  QStringLiteral("5.5"),
+            QStringLiteral("5.7"), QStringLiteral("5.9"),  QStringLiteral("6.2"),
+            QStringLiteral("7"),   QStringLiteral("7.9"),  QStringLiteral("9.4"),
+            QStringLiteral("10"),  QStringLiteral("10.2"), QStringLiteral("11.8"),
+            QStringLiteral("14")};
+}
+
+QStringList millimetreSizes()
+{
+    return {QStringLiteral("90"),  QStringLiteral("100"), QStringLiteral("130"),
+            QStringLiteral("140"), QStringLiteral("145"), QStringLiteral("150"),
+            QStringLiteral("160"), QStringLiteral("180"), QStringLiteral("200"),
+            QStringLiteral("255"), QStringLiteral("300"), QStringLiteral("360")};
+}
+
+} // namespace
+
+FilterBar::FilterBar(QWidget *parent, const QSharedPointer<Project> &, IFilterModel *filter)
+    : QWidget(parent), m_ui(std::make_unique<Ui_FilterBarUI>()), m_filter(filter)
+{
+    m_ui->setupUi(this);
+    initWidgets();
+    connectWidgets();
+    createShortcut();
+    updateFileTypes();
+    updateSizeWidgets();
+}
+
+FilterBar::~FilterBar() = default;
+
+void FilterBar::initWidgets()
+{
+    m_ui->clearTextButton->setIcon(GIcon(QStringLiteral(":/icons/small_clear.svg")));
+    m_ui->favoritesButton->setIcon(GIcon(QStringLiteral(":/icons/small_favorite_off.svg"),
+                                         QStringLiteral(":/icons/small_favorite_on.svg")));
+    m_ui->refreshButton->setIcon(GIcon(QStringLiteral(":/icons/small_refresh.svg")));
+    for (QToolButton *button : {m_ui->clearTextButton, m_ui->favoritesButton, m_ui->refreshButton})
+        button->setStyleSheet(WidgetStyles::ToolButton_FlatStyle());
+    for (QComboBox *box : {m_ui->widthCombobox, m_ui->heightCombobox}) {
+        // Completing what is typed would turn a 10 into the 100 of the list.
+        box->setCompleter(nullptr);
+        box->setInsertPolicy(QComboBox::NoInsert);
+    }
+    m_ui->searchTextLineEdit->installEventFilter(this);
+}
+
+void FilterBar::connectWidgets()
+{
+    connect(m_ui->fileTypeCombobox, &QComboBox::currentTextChanged, this,
+            &FilterBar::setTypeFilter);
+    connect(m_ui->widthCombobox, &QComboBox::currentTextChanged, this, &FilterBar::setSizeFilter);
+    connect(m_ui->heightCombobox, &QComboBox::currentTextChanged, this, &FilterBar::setSizeFilter);
+    connect(m_ui->searchTextLineEdit, &QLineEdit::textChanged, this,
+            &FilterBar::setSearchTextFilter);
+    connect(m_ui->favoritesButton, &QToolButton::clicked, m_filter,
+            &IFilterModel::setFavoritesOnly);
+    connect(m_ui->refreshButton, &QToolButton::clicked, m_filter, &IFilterModel::refreshFilter);
+    connect(m_ui->clearTextButton, &QToolButton::clicked, m_ui->searchTextLineEdit,
+            &QLineEdit::clear);
+    if (HooplineApplication *application = HooplineApplication::instance())
+        connect(application, &HooplineApplication::syncGlobalSettings, this,
+                &FilterBar::updateSizeWidgets);
+}
+
+void FilterBar::createShortcut()
+{
+    auto *find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this, [this] {
+        m_ui->searchTextLineEdit->setFocus(Qt::ShortcutFocusReason);
+        m_ui->searchTextLineEdit->selectAll();
+    });
+}
+
+QSize FilterBar::minimumSizeHint() const
+{
+    const int firstRow = m_ui->horizontalLayout_2->minimumSize().width() +
+                         m_ui->horizontalLayout_4->minimumSize().width();
+    const int secondRow = m_ui->horizontalLayout_3->minimumSize().width();
+    const QMargins margins = layout()->contentsMargins();
+    const int width = qMax(firstRow + m_ui->horizontalLayout_5->spacing(), secondRow);
+    return QSize(width + margins.left() + margins.right(), QWidget::minimumSizeHint().height());
+}
+
+void FilterBar::setTypeFilter(const QString &text)
+{
+    m_filter->setFileType(text == tr("any") ? QString() : text);
+}
+
+void FilterBar::setSizeFilter()
+{
+    const auto millimetres = [this](const QComboBox *box) {
+        bool ok = false;
+        const double value = box->currentText().toDouble(&ok);
+        return ok ? value * m_sizeUnitFactor : -1.0;
+    };
+    m_filter->setMaxDesignSize(
+        QSizeF(millimetres(m_ui->widthCombobox), millimetres(m_ui->heightCombobox)));
+}
+
+void FilterBar::setSearchTextFilter(const QString &text)
+{
+    m_filter->setSearchSubstring(text);
+}
+
+void FilterBar::updateSizeWidgets()
+{
+    m_ui->widthCombobox->clear();
+    m_ui->heightCombobox->clear();
+    const bool imperial = GlobalSettings().imperialUnits();
+    m_sizeUnitFactor = imperial ? MillimetresPerInch : 1.0;
+    m_ui->maxSizeLabel->setText(tr("Max. size (%1):").arg(imperial ? tr("in") : tr("mm")));
+    const QStringList sizes = QStringList(tr("any")) + (imperial ? inchSizes() : millimetreSizes());
+    for (QComboBox *box : {m_ui->widthCombobox, m_ui->heightCombobox})
+        box->insertItems(box->count(), sizes);
+}
+
+void FilterBar::updateFileTypes()
+{
+    QStringList types = Embroidery::EmbroideryIO::supportedFormats();
+    types.replaceInStrings(QStringLiteral("*."), QString());
+    m_ui->fileTypeCombobox->clear();
+    m_ui->fileTypeCombobox->addItem(tr("any"));
+    m_ui->fileTypeCombobox->addItems(types);
+}
+
+void FilterBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    setTwoRows(width() < widthOfOneRow());
+}
+
+bool FilterBar::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (isKey && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        m_ui->searchTextLineEdit->clear();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+int FilterBar::widthOfOneRow() const
+{
+    const int searchWidth = m_ui->horizontalLayout_3->minimumSize().width() + LeastSearchWidth -
+                            m_ui->searchTextLineEdit->minimumSizeHint().width();
+    const QMargins margins = layout()->contentsMargins();
+    return m_ui->horizontalLayout_2->minimumSize().width() +
+           m_ui->horizontalLayout_4->minimumSize().width() + searchWidth +
+           2 * m_ui->horizontalLayout_5->spacing() + margins.left() + margins.right();
+}
+
+void FilterBar::setTwoRows(bool twoRows)
+{
+    if (twoRows == m_twoRows)
+        return;
+    m_twoRows = twoRows;
+    QBoxLayout *from = twoRows ? static_cast<QBoxLayout *>(m_ui->horizontalLayout_5) : m_ui->rows;
+    QBoxLayout *to = twoRows ? static_cast<QBoxLayout *>(m_ui->rows) : m_ui->horizontalLayout_5;
+    from->removeItem(m_ui->horizontalLayout_3);
+    to->addLayout(m_ui->horizontalLayout_3, 1);
+}

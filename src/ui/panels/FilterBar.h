@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <QSharedPointer>
+#include <QWidget>
+
+class IFilterModel;
+class Project;
+class Ui_FilterBarUI;
+
+/**
+ * The strip above the grid: file type, largest design size, search text and favourites. Each
+ * change goes straight to the filter. Too narrow for one row, the search moves to a second one.
+ */
+class FilterBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** \a filter is not owned. */
+    FilterBar(QWidget *parent, const QSharedPointer<Project> &project, IFilterModel *filter);
+    ~FilterBar() override;
+
+    QSize minimumSizeHint() const override;
+
+public slots:
+    void setTypeFilter(const QString &text);
+    void setSizeFilter();
+    void setSearchTextFilter(const QString &text);
+    void updateSizeWidgets();
+    void updateFileTypes();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void initWidgets();
+    void connectWidgets();
+    void createShortcut();
+    int widthOfOneRow() const;
+    void setTwoRows(bool twoRows);
+
+    std::unique_ptr<Ui_FilterBarUI> m_ui;
+    IFilterModel *m_filter;
+    /** Millimetres in one of the units that the user types. */
+    double m_sizeUnitFactor = 1.0;
+    bool m_twoRows = false;
+};

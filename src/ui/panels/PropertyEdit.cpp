@@ -1,0 +1,39 @@
+#include "ui/panels/PropertyEdit.h"
+
+#include "properties/Property.h"
+
+#include <QTimer>
+
+PropertyEdit::PropertyEdit(PropertyDescription *description, GProject *project)
+    : m_project(project), m_description(description), m_multiText(tr("multiple values"))
+{
+}
+
+void PropertyEdit::setProperties(const QList<Property *> &properties)
+{
+    for (const Property *property : qAsConst(m_properties))
+        property->unregister(this);
+    for (const Property *property : properties)
+        property->registerObserver(this);
+    m_properties = properties;
+    updateWidget();
+}
+
+void PropertyEdit::observedObjectChanged(const Observable *)
+{
+    if (m_updatePending)
+        return;
+    m_updatePending = true;
+    QTimer::singleShot(0, this, &PropertyEdit::updateWidget);
+}
+
+void PropertyEdit::updateWidget()
+{
+    if (m_properties.isEmpty())
+        disableWidget();
+    else if (allValuesIdentical())
+        displayValue();
+    else
+        setMultiState();
+    m_updatePending = false;
+}

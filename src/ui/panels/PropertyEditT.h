@@ -1,0 +1,68 @@
+#pragma once
+
+#include "app/base/Error.h"
+#include "properties/GProject.h"
+#include "properties/GUndoStack.h"
+#include "properties/PropertyDescription.h"
+#include "ui/panels/PropertyEdit.h"
+
+#include <algorithm>
+
+/** The part of an editor that knows the type: P is the property class, T its value. */
+template <class P, class T>
+class PropertyEditT : public PropertyEdit
+{
+public:
+    using PropertyEdit::PropertyEdit;
+
+    /** Throws ErrorTypeConflict when one of them is no P. */
+    void setProperties(const QList<Property *> &properties) override
+    {
+        QList<P *> typed;
+        typed.reserve(properties.count());
+        for (Property *property : properties) {
+            auto *match = dynamic_cast<P *>(property);
+            if (!match)
+                throw ErrorTypeConflict(
+                    PropertyEdit::tr("property editor: type conflict in multi-selection'"));
+            typed.append(match);
+        }
+        m_typed = typed;
+        PropertyEdit::setProperties(properties);
+    }
+
+    bool allValuesIdentical() const override
+    {
+        return std::all_of(m_typed.begin(), m_typed.end(), [this](const P *property) {
+            return property->value() == m_typed.first()->value();
+        });
+    }
+
+    /** The value of the first property; there must be one. */
+    T value() const { return m_typed.first()->value(); }
+
+    /** Writes to all properties, as one undo step. */
+    void setValue(const T &newValue)
+    {
+        const QString undoText = PropertyEdit::tr("'%1' change").arg(description()->displayName());
+        if (m_typed.count() == 1)
+            m_typed.first()->setValue(newValue, undoText);
+        else if (m_typed.count() > 1)
+            setAllValues(newValue, undoText + QStringLiteral(" (%1x)").arg(m_typed.count()));
+    }
+
+private:
+    void setAllValues(const T &newValue, const QString &undoText)
+    {
+        GUndoStack *undoStack = project()->undoStack();
+        const QList<const Observable *> observables(m_typed.begin(), m_typed.end());
+        undoStack->beginMacroAndDeferAnnouncements(undoText, observables);
+        for (P *property : qAsConst(m_typed)) {
+            if (!(property->value() == newValue))
+                property->setValue(newValue, undoText);
+        }
+        undoStack->endMacroAndExecuteAnnouncements();
+    }
+
+    QList<P *> m_typed;
+};

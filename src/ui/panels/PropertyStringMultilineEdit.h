@@ -1,0 +1,34 @@
+#pragma once
+
+#include "properties/PropertyDescriptionValues.h"
+#include "properties/PropertyValues.h"
+#include "ui/panels/PropertyEditT.h"
+
+#include <QPointer>
+
+class GResizingTextEdit;
+
+/** A field of several lines for a text that one or many records have. */
+class PropertyStringMultilineEdit : public PropertyEditT<PropertyString, QString>
+{
+    Q_OBJECT
+
+public:
+    /** The field is made as a child of \a parent, which also owns this editor. */
+    PropertyStringMultilineEdit(QWidget *parent, PropertyDescriptionString *description,
+                                GProject *project);
+
+    QWidget *widget() override;
+
+protected:
+    void disableWidget() override;
+    void setMultiState() override;
+    void displayValue() override;
+
+private:
+    void textChanged();
+    void setTextSilently(const QString &text);
+
+    QPointer<GResizingTextEdit> m_edit;
+    bool m_signalsActive = true;
+};

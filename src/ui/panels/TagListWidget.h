@@ -1,0 +1,71 @@
+#pragma once
+
+#include "widgets/style/GIcon.h"
+
+#include <QListView>
+#include <QTimer>
+
+class QStandardItem;
+class QStandardItemModel;
+
+/**
+ * All tags as a list below the entry that stands for no tag. Tags are added and renamed in place;
+ * a fading highlight shows where a new one went.
+ */
+class TagListWidget : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit TagListWidget(QWidget *parent = nullptr);
+
+    /** Shows \a tags in this order; the selection stays on its tag as far as that is there. */
+    void setTags(const QStringList &tags);
+
+    /** Empty when no tag is selected. */
+    QString selectedTag() const;
+
+    /** Selects the tag, or the entry for all files when there is no such tag. */
+    void selectTag(const QString &tag);
+
+    void highlightTag(const QString &tag);
+
+public slots:
+    void startAddingTag();
+    void startRenamingTag();
+
+signals:
+    void tagAdded(const QString &name);
+    void tagRenamed(const QString &oldName, const QString &newName);
+    /** Empty for the entry that stands for all files. */
+    void selectedTagChanged(const QString &tag);
+    /** The user wants the selected tag removed. */
+    void removeTag();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    void onItemSelectionChanged();
+    void onItemChanged(QStandardItem *item);
+    void onEditorClosed();
+    void animateItems();
+    void finishAdding(const QString &text);
+    void finishRenaming(const QString &text);
+    QStandardItem *findItem(const QString &tag) const;
+    QStandardItem *selectedItem() const;
+    QStandardItem *createTagItem(const QString &text) const;
+    void scrollIntoView(const QStandardItem *item);
+    void setItemBackground(QStandardItem *item, const QVariant &background);
+
+    QStandardItemModel *m_model;
+    GIcon m_tagIcon;
+    GIcon m_allIcon;
+    QStandardItem *m_allItem = nullptr;
+    QStandardItem *m_addedItem = nullptr;
+    QString m_editedOldName;
+    QList<QStandardItem *> m_highlightedItems;
+    QTimer m_fadeTimer;
+    bool m_changingItems = false;
+};

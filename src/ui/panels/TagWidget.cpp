@@ -1,0 +1,240 @@
+#include "ui/panels/TagWidget.h"
+
+#include "catalogue/records/LocaleAwareFunctions.h"
+#include "catalogue/records/Project.h"
+#include "ui/panels/FlowLayout.h"
+#include "ui/panels/TagLabel.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int ChipSpacing = 4;
+constexpr int LeastComboChars = 6;
+
+} // namespace
+
+TagWidget::TagWidget(const QSharedPointer<Project> &project, QWidget *parent)
+    : QFrame(parent), m_flowLayout(new FlowLayout(0, ChipSpacing, ChipSpacing)),
+      m_input(new QWidget(this)), m_comboBox(new QComboBox(m_input)),
+      m_addButton(new QPushButton(tr("Add"), m_input)), m_project(project)
+{
+    createInput();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(m_flowLayout);
+    layout->addWidget(m_input);
+}
+
+void TagWidget::createInput()
+{
+    m_comboBox->setEditable(true);
+    m_comboBox->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    m_comboBox->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_comboBox->setMinimumContentsLength(LeastComboChars);
+    m_comboBox->setAccessibleName(tr("New tag"));
+    m_comboBox->setToolTip(tr("<p>Select an existing tag from the drop down list or enter a new "
+                              "tag. The tag is added to all selected files.</p>"));
+    m_comboBox->installEventFilter(this);
+    connect(m_comboBox, &QComboBox::textActivated, this, &TagWidget::addTag);
+    connect(m_comboBox, &QComboBox::editTextChanged, this, &TagWidget::updateAddButtonState);
+
+    m_addButton->setToolTip(tr("<p>Add tag to all selected files.</p>"));
+    m_addButton->setEnabled(false);
+    connect(m_addButton, &QPushButton::clicked, this, &TagWidget::addPressed);
+
+    auto *layout = new QHBoxLayout(m_input);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_comboBox, 1);
+    layout->addWidget(m_addButton);
+    m_input->setEnabled(false);
+}
+
+void TagWidget::setAllTagsList(PropertyStringList *allTagsList)
+{
+    if (m_allTagsList)
+        m_allTagsList->unregister(this);
+    m_allTagsList = allTagsList;
+    if (m_allTagsList)
+        m_allTagsList->registerObserver(this);
+    updateAllTagsListInComboBox();
+}
+
+void TagWidget::setTagLists(const QList<PropertyStringList *> &tagLists)
+{
+    for (const PropertyStringList *list : qAsConst(m_tagLists))
+        list->unregister(this);
+    m_tagLists = tagLists;
+    for (const PropertyStringList *list : qAsConst(m_tagLists))
+        list->registerObserver(this);
+    m_input->setEnabled(!m_tagLists.isEmpty());
+    updateDisplayedTags();
+}
+
+void TagWidget::refreshProperties()
+{
+    updateAllTagsListInComboBox();
+    updateDisplayedTags();
+}
+
+void TagWidget::observedObjectChanged(const Observable *observable)
+{
+    if (m_bulkChangeActive)
+        return;
+    if (observable == m_allTagsList)
+        updateAllTagsListInComboBox();
+    else
+        scheduleDisplayedTags();
+}
+
+void TagWidget::addTag(const QString &text)
+{
+    const QString tag = text.trimmed();
+    if (tag.isEmpty()) {
+        updateAllTagsListInComboBox();
+        return;
+    }
+    startBulkChange(tr("add tag '%1'").arg(tag));
+    addTagToTagLists(tag);
+    addTagToAllTagsList(tag);
+    endBulkChange();
+    refreshProperties();
+    m_comboBox->clearEditText();
+    m_comboBox->setFocus(Qt::OtherFocusReason);
+    emit ensureVisible();
+}
+
+void TagWidget::addPressed()
+{
+    addTag(m_comboBox->currentText());
+}
+
+void TagWidget::updateAddButtonState(const QString &text)
+{
+    m_addButton->setEnabled(!text.isEmpty());
+}
+
+void TagWidget::removeTag(TagLabel *label)
+{
+    const QString tag = label->text();
+    startBulkChange(tr("remove tag '%1'").arg(tag));
+    removeTagFromLists(tag);
+    endBulkChange();
+    refreshProperties();
+}
+
+bool TagWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    // An arrow key would choose, and so add, the next tag at once; let it open the list instead.
+    if (watched == m_comboBox && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            m_comboBox->showPopup();
+            return true;
+        }
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void TagWidget::startBulkChange(const QString &text)
+{
+    m_bulkChangeActive = true;
+    m_project->undoStack()->beginMacroAndDeferAllAnnouncements(text);
+}
+
+void TagWidget::endBulkChange()
+{
+    m_project->undoStack()->endMacroAndExecuteAnnouncements();
+    m_bulkChangeActive = false;
+}
+
+void TagWidget::addTagToTagLists(const QString &tag)
+{
+    for (PropertyStringList *list : qAsConst(m_tagLists)) {
+        QStringList tags = list->value();
+        if (tags.contains(tag))
+            continue;
+        tags.append(tag);
+        list->setValue(tags, tr("add tag '%1'").arg(tag));
+    }
+}
+
+void TagWidget::addTagToAllTagsList(const QString &tag)
+{
+    m_project->addTag(tag);
+}
+
+void TagWidget::removeTagFromLists(const QString &tag)
+{
+    for (PropertyStringList *list : qAsConst(m_tagLists)) {
+        QStringList tags = list->value();
+        if (tags.removeAll(tag) > 0)
+            list->setValue(tags, tr("remove tag '%1'").arg(tag));
+    }
+}
+
+void TagWidget::updateAllTagsListInComboBox()
+{
+    m_comboBox->clear();
+    if (m_allTagsList)
+        m_comboBox->insertItems(0, m_allTagsList->value());
+    m_comboBox->clearEditText();
+}
+
+void TagWidget::scheduleDisplayedTags()
+{
+    // A change of many files announces each of them; the chips are counted once for all.
+    if (m_displayPending)
+        return;
+    m_displayPending = true;
+    QTimer::singleShot(0, this, &TagWidget::updateDisplayedTags);
+}
+
+void TagWidget::updateDisplayedTags()
+{
+    m_displayPending = false;
+    const QHash<QString, int> histogram = createTagHistogram();
+    QStringList tags = histogram.keys();
+    LocaleAwareFunctions::sort(tags);
+
+    QList<TagLabel *> pool = m_tagLabels;
+    m_tagLabels.clear();
+    for (const QString &tag : qAsConst(tags)) {
+        const bool onAll = histogram.value(tag) == m_tagLists.count();
+        TagLabel *label = pool.isEmpty() ? createNewTagLabel() : pool.takeFirst();
+        label->setText(tag);
+        label->setMultiSelect(onAll ? TagLabel::SetOnAll : TagLabel::SetOnSome);
+        m_tagLabels.append(label);
+    }
+    for (TagLabel *label : qAsConst(pool)) {
+        label->hide();
+        label->deleteLater();
+    }
+}
+
+QHash<QString, int> TagWidget::createTagHistogram() const
+{
+    QHash<QString, int> histogram;
+    for (const PropertyStringList *list : m_tagLists) {
+        for (const QString &tag : list->value())
+            ++histogram[tag];
+    }
+    return histogram;
+}
+
+TagLabel *TagWidget::createNewTagLabel()
+{
+    auto *label = new TagLabel(QString(), TagLabel::SetOnAll, this);
+    m_flowLayout->addWidget(label);
+    connect(label, &TagLabel::removeTag, this, &TagWidget::removeTag);
+    // Chips are made one after another; keep the field for a new tag behind the last of them.
+    setTabOrder(label, m_comboBox);
+    return label;
+}

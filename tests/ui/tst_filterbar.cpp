@@ -1,0 +1,185 @@
+#include "PanelFixture.h"
+
+#include "app/base/GlobalSettings.h"
+#include "catalogue/models/FilterModel.h"
+#include "ui/panels/FilterBar.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QtTest>
+#include <QVBoxLayout>
+
+class tst_filterbar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void typeChoice();
+    void sizeInMillimetres();
+    void sizeInInches();
+    void switchingUnitsResets();
+    void searchByShortcutAndEscape();
+    void clearButton();
+    void favoritesByKeyboard();
+    void twoRowsWhenNarrow();
+    void everyControlHasAName();
+
+private:
+    template <class T>
+    T *child(const char *name) const
+    {
+        return m_window->findChild<T *>(QLatin1String(name));
+    }
+    int shown() const { return m_filter->filteredFiles().count(); }
+    void setImperial(bool imperial) { GlobalSettings().setImperialUnits(imperial); }
+
+    QTemporaryDir m_dir;
+    QSharedPointer<Project> m_project;
+    std::unique_ptr<FilterModel> m_filter;
+    std::unique_ptr<QWidget> m_window;
+    FilterBar *m_bar = nullptr;
+};
+
+void tst_filterbar::initTestCase()
+{
+    GSettings::setIniFile(m_dir.filePath(QStringLiteral("settings.ini")));
+}
+
+void tst_filterbar::init()
+{
+    setImperial(false);
+    m_window.reset();
+    m_project = projectWithFiles({QStringLiteral("/d/rose.pes"), QStringLiteral("/d/Tulip.PES"),
+                                  QStringLiteral("/d/rose.dst")});
+    m_project->files().at(0)->setDesignSize(QSizeF(110, 50));
+    m_project->files().at(1)->setDesignSize(QSizeF(50, 200));
+    m_filter = std::make_unique<FilterModel>(m_project);
+    m_window = std::make_unique<QWidget>();
+    auto *layout = new QVBoxLayout(m_window.get());
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_bar = new FilterBar(m_window.get(), m_project, m_filter.get());
+    layout->addWidget(m_bar);
+    layout->addStretch();
+    m_window->resize(1000, 200);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void tst_filterbar::typeChoice()
+{
+    auto *box = child<QComboBox>("fileTypeCombobox");
+    QCOMPARE(box->itemText(0), QStringLiteral("any"));
+    QCOMPARE(box->itemText(1), QStringLiteral("pes"));
+    box->setCurrentText(QStringLiteral("pes"));
+    QCOMPARE(shown(), 2);
+    box->setCurrentText(QStringLiteral("any"));
+    QCOMPARE(shown(), 3);
+}
+
+void tst_filterbar::sizeInMillimetres()
+{
+    QCOMPARE(child<QLabel>("maxSizeLabel")->text(), QStringLiteral("Max. size (mm):"));
+    auto *width = child<QComboBox>("widthCombobox");
+    QCOMPARE(width->count(), 13);
+    width->setFocus();
+    width->lineEdit()->selectAll();
+    QTest::keyClicks(width->lineEdit(), QStringLiteral("10"));
+    QCOMPARE(width->currentText(), QStringLiteral("10"));
+    QCOMPARE(shown(), 1);
+    QTest::keyClicks(width->lineEdit(), QStringLiteral("0"));
+    QCOMPARE(shown(), 2);
+    width->setEditText(QStringLiteral("wide"));
+    QCOMPARE(shown(), 3);
+    child<QComboBox>("heightCombobox")->setCurrentText(QStringLiteral("100"));
+    QCOMPARE(shown(), 2);
+}
+
+void tst_filterbar::sizeInInches()
+{
+    setImperial(true);
+    m_bar->updateSizeWidgets();
+    QCOMPARE(child<QLabel>("maxSizeLabel")->text(), QStringLiteral("Max. size (in):"));
+    child<QComboBox>("widthCombobox")->setEditText(QStringLiteral("4"));
+    QCOMPARE(shown(), 2);
+    child<QComboBox>("widthCombobox")->setEditText(QStringLiteral("4.4"));
+    QCOMPARE(shown(), 3);
+}
+
+void tst_filterbar::switchingUnitsResets()
+{
+    child<QComboBox>("widthCombobox")->setCurrentText(QStringLiteral("90"));
+    QCOMPARE(shown(), 2);
+    setImperial(true);
+    m_bar->updateSizeWidgets();
+    QCOMPARE(child<QComboBox>("widthCombobox")->currentText(), QStringLiteral("any"));
+    QCOMPARE(shown(), 3);
+}
+
+void tst_filterbar::searchByShortcutAndEscape()
+{
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    search->setText(QStringLiteral("rose"));
+    QCOMPARE(shown(), 2);
+    child<QComboBox>("fileTypeCombobox")->setFocus();
+    QTest::keySequence(m_window.get(), QKeySequence::Find);
+    QVERIFY(search->hasFocus());
+    QCOMPARE(search->selectedText(), QStringLiteral("rose"));
+    QTest::keyClick(search, Qt::Key_Escape);
+    QVERIFY(search->text().isEmpty());
+    QCOMPARE(shown(), 3);
+}
+
+void tst_filterbar::clearButton()
+{
+    child<QLineEdit>("searchTextLineEdit")->setText(QStringLiteral("tulip"));
+    QCOMPARE(shown(), 1);
+    QTest::mouseClick(child<QToolButton>("clearTextButton"), Qt::LeftButton);
+    QCOMPARE(shown(), 3);
+}
+
+void tst_filterbar::favoritesByKeyboard()
+{
+    m_project->files().at(1)->setFavorite(true);
+    auto *button = child<QToolButton>("favoritesButton");
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+    QCOMPARE(shown(), 1);
+    m_project->files().at(0)->setFavorite(true);
+    QCOMPARE(shown(), 1);
+    QTest::mouseClick(child<QToolButton>("refreshButton"), Qt::LeftButton);
+    QCOMPARE(shown(), 2);
+}
+
+void tst_filterbar::twoRowsWhenNarrow()
+{
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    auto *type = child<QComboBox>("fileTypeCombobox");
+    const auto top = [this](QWidget *widget) { return widget->mapTo(m_bar, QPoint()).y(); };
+    QVERIFY(qAbs(top(search) - top(type)) < 10);
+    m_window->resize(500, 200);
+    QTRY_VERIFY(top(search) > top(type) + 15);
+    QVERIFY(m_bar->minimumSizeHint().width() <= 500);
+    const auto children = m_bar->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget *widget : children)
+        QVERIFY(widget->geometry().right() < m_bar->width());
+    QVERIFY(search->isVisible());
+    m_window->resize(1000, 200);
+    QTRY_VERIFY(qAbs(top(search) - top(type)) < 10);
+}
+
+void tst_filterbar::everyControlHasAName()
+{
+    const auto widgets = m_bar->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget *widget : widgets) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
+    }
+}
+
+QTEST_MAIN(tst_filterbar)
+#include "tst_filterbar.moc"
