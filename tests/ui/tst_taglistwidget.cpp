@@ -65,7 +65,7 @@ void tst_taglistwidget::addingInPlace()
     QCOMPARE(rows().at(2), QStringLiteral("<enter tag name>"));
     QTest::keyClicks(editor(), QStringLiteral("  lily "));
     QTest::keyClick(editor(), Qt::Key_Return);
-    QCOMPARE(added.count(), 1);
+    QTRY_COMPARE(added.count(), 1);
     QCOMPARE(added.first().first().toString(), QStringLiteral("lily"));
     QCOMPARE(m_list->selectedTag(), QStringLiteral("rose"));
     QTRY_VERIFY(m_list->hasFocus());
@@ -88,7 +88,7 @@ void tst_taglistwidget::renamingInPlace()
     QTest::keyClick(m_list.get(), Qt::Key_F2);
     QTest::keyClicks(editor(), QStringLiteral("Tulip"));
     QTest::keyClick(editor(), Qt::Key_Return);
-    QCOMPARE(renamed.count(), 1);
+    QTRY_COMPARE(renamed.count(), 1);
     QCOMPARE(renamed.first().at(0).toString(), QStringLiteral("tulip"));
     QCOMPARE(renamed.first().at(1).toString(), QStringLiteral("Tulip"));
 }
@@ -131,7 +131,7 @@ void tst_taglistwidget::listRebuiltWhileEditing()
     m_list->startAddingTag();
     QTest::keyClicks(editor(), QStringLiteral("lily"));
     QTest::keyClick(editor(), Qt::Key_Return);
-    QCOMPARE(rows().mid(1), QStringList({QStringLiteral("lily"), QStringLiteral("rose")}));
+    QTRY_COMPARE(rows().mid(1), QStringList({QStringLiteral("lily"), QStringLiteral("rose")}));
     QVERIFY(m_list->model()->index(1, 0).data(Qt::BackgroundRole).isValid());
     m_list->startAddingTag();
     m_list->setTags({QStringLiteral("rose")});

@@ -214,12 +214,13 @@ void tst_tagwidget::hostileTags_data()
 void tst_tagwidget::hostileTags()
 {
     QFETCH(QString, tag);
+    const int widthBefore = m_widget->minimumSizeHint().width();
     file(0)->setTags({tag});
     select(1);
     TagLabel *label = labels().first();
     QVERIFY(!m_widget->grab().isNull());
     QVERIFY(label->geometry().right() <= m_widget->width());
-    QVERIFY(m_widget->minimumSizeHint().width() < 200);
+    QCOMPARE(m_widget->minimumSizeHint().width(), widthBefore);
     QVERIFY(!label->toolTip().contains(QLatin1String("<img")));
     label->findChild<QToolButton *>()->click();
     QVERIFY(file(0)->tags().isEmpty());

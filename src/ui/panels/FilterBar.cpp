@@ -95,12 +95,10 @@ void FilterBar::createShortcut()
 
 QSize FilterBar::minimumSizeHint() const
 {
-    const int firstRow = m_ui->horizontalLayout_2->minimumSize().width() +
-                         m_ui->horizontalLayout_4->minimumSize().width();
-    const int secondRow = m_ui->horizontalLayout_3->minimumSize().width();
+    const int size = m_ui->horizontalLayout_4->minimumSize().width();
     const QMargins margins = layout()->contentsMargins();
-    const int width = qMax(firstRow + m_ui->horizontalLayout_5->spacing(), secondRow);
-    return QSize(width + margins.left() + margins.right(), QWidget::minimumSizeHint().height());
+    return QSize(qMax(minimumWidthOfSearchRow(), size) + margins.left() + margins.right(),
+                 QWidget::minimumSizeHint().height());
 }
 
 void FilterBar::setTypeFilter(const QString &text)
@@ -161,14 +159,26 @@ bool FilterBar::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+int FilterBar::minimumWidthOfSearchRow() const
+{
+    int width = m_ui->horizontalLayout_2->minimumSize().width() +
+                m_ui->horizontalLayout_5->spacing() +
+                m_ui->searchTextLineEdit->minimumSizeHint().width();
+    for (const QToolButton *button :
+         {m_ui->clearTextButton, m_ui->favoritesButton, m_ui->refreshButton})
+        width += button->sizeHint().expandedTo(button->minimumSize()).width() +
+                 m_ui->horizontalLayout_3->spacing();
+    return width;
+}
+
 int FilterBar::widthOfOneRow() const
 {
-    const int searchWidth = m_ui->horizontalLayout_3->minimumSize().width() + LeastSearchWidth -
-                            m_ui->searchTextLineEdit->minimumSizeHint().width();
-    const QMargins margins = layout()->contentsMargins();
-    return m_ui->horizontalLayout_2->minimumSize().width() +
-           m_ui->horizontalLayout_4->minimumSize().width() + searchWidth +
-           2 * m_ui->horizontalLayout_5->spacing() + margins.left() + margins.right();
+    const int caption = m_ui->label_4->sizeHint().width() + m_ui->horizontalLayout_3->spacing();
+    const int fields = m_ui->horizontalLayout_4->minimumSize().width() + LeastSearchWidth -
+                       m_ui->searchTextLineEdit->minimumSizeHint().width();
+    const int margins = layout()->contentsMargins().left() + layout()->contentsMargins().right();
+    return minimumWidthOfSearchRow() + caption + fields + m_ui->horizontalLayout_5->spacing() +
+           margins;
 }
 
 void FilterBar::setTwoRows(bool twoRows)
@@ -176,8 +186,15 @@ void FilterBar::setTwoRows(bool twoRows)
     if (twoRows == m_twoRows)
         return;
     m_twoRows = twoRows;
-    QBoxLayout *from = twoRows ? static_cast<QBoxLayout *>(m_ui->horizontalLayout_5) : m_ui->rows;
-    QBoxLayout *to = twoRows ? static_cast<QBoxLayout *>(m_ui->rows) : m_ui->horizontalLayout_5;
-    from->removeItem(m_ui->horizontalLayout_3);
-    to->addLayout(m_ui->horizontalLayout_3, 1);
+    QHBoxLayout *size = m_ui->horizontalLayout_4;
+    if (twoRows) {
+        m_ui->horizontalLayout_5->removeItem(size);
+        m_ui->rows->addLayout(size);
+    } else {
+        m_ui->rows->removeItem(size);
+        m_ui->horizontalLayout_5->insertLayout(1, size);
+    }
+    m_ui->label_4->setVisible(!twoRows);
+    m_ui->searchTextLineEdit->setPlaceholderText(
+        twoRows ? m_ui->searchTextLineEdit->accessibleName() : QString());
 }

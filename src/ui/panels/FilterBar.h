@@ -10,7 +10,7 @@ class Ui_FilterBarUI;
 
 /**
  * The strip above the grid: file type, largest design size, search text and favourites. Each
- * change goes straight to the filter. Too narrow for one row, the search moves to a second one.
+ * change goes straight to the filter. Too narrow for one row, the size fields move to a second one.
  */
 class FilterBar : public QWidget
 {
@@ -38,6 +38,7 @@ private:
     void initWidgets();
     void connectWidgets();
     void createShortcut();
+    int minimumWidthOfSearchRow() const;
     int widthOfOneRow() const;
     void setTwoRows(bool twoRows);
 

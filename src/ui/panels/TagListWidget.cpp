@@ -2,12 +2,12 @@
 
 #include "widgets/style/WidgetHelper.h"
 
-#include <QAbstractItemDelegate>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 
 namespace {
 
@@ -24,6 +24,18 @@ QString menuText(QString tag)
         .replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
+/** Rows as wide as the list, so that long tags are elided instead of scrolled. */
+class TagDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QSize(0, QStyledItemDelegate::sizeHint(option, index).height());
+    }
+};
+
 } // namespace
 
 TagListWidget::TagListWidget(QWidget *parent)
@@ -32,8 +44,8 @@ TagListWidget::TagListWidget(QWidget *parent)
       m_allIcon(QStringLiteral(":/icons/small_all.svg"))
 {
     setModel(m_model);
+    setItemDelegate(new TagDelegate(this));
     setEditTriggers(NoEditTriggers);
-    setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
