@@ -3,13 +3,13 @@
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridFavoriteItem.h"
+#include "preview/grid/GridPreviewScene.h"
 #include "properties/PropertyValues.h"
 #include "widgets/controls/DesktopInteraction.h"
 #include "widgets/style/WidgetStyles.h"
 #include <QFileInfo>
 #include <QFont>
 #include <QFontMetrics>
-#include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QMenu>
 #include <QPainter>
@@ -28,6 +28,19 @@ int cardWidth(const GridEmbroideryItem::ItemLayout *layout)
     return layout->previewSize + 2 * layout->padding;
 }
 
+// Asked for every card at every step of the zoom, while the font hardly ever changes.
+int lineSpacing()
+{
+    static QFont font;
+    static int spacing = QFontMetrics(font).lineSpacing();
+    const QFont current;
+    if (!current.isCopyOf(font)) {
+        font = current;
+        spacing = QFontMetrics(font).lineSpacing();
+    }
+    return spacing;
+}
+
 // A file name may hold line breaks and tabs; a label has one line.
 QString singleLine(QString text)
 {
@@ -42,9 +55,9 @@ QString singleLine(QString text)
 
 } // namespace
 
-GridEmbroideryItem::GridEmbroideryItem(const QSharedPointer<IFile> &file, QGraphicsScene *scene,
+GridEmbroideryItem::GridEmbroideryItem(const QSharedPointer<IFile> &file, GridPreviewScene *scene,
                                        bool imperial)
-    : m_file(file), m_imperial(imperial)
+    : m_file(file), m_scene(scene), m_imperial(imperial)
 {
     static const QBrush whiteBrush(Qt::white);
     setFlag(ItemIsSelectable);
@@ -76,7 +89,7 @@ void GridEmbroideryItem::setViewScaleFactor(double s)
 void GridEmbroideryItem::layoutItem(const ItemLayout *layout, double s)
 {
     const int width = cardWidth(layout);
-    const double lineHeight = QFontMetrics(QFont()).lineSpacing() / s;
+    const double lineHeight = lineSpacing() / s;
     const double margin = layout->textMargin / s;
     const double labelHeight = lineHeight * layout->lines + 2 * margin;
     m_maxLabelWidth = int(width * s) - 2 * layout->textMargin;
@@ -170,8 +183,20 @@ void GridEmbroideryItem::paintPreview(QPainter *painter)
     const int height = int(image.height() * f);
     const int left = m_layout->padding + (previewSize - width) / 2;
     const int top = m_layout->padding + (previewSize - height) / 2;
-    painter->setRenderHint(QPainter::SmoothPixmapTransform);
-    painter->drawPixmap(QRect(left, top, width, height), image);
+    const QTransform toScreen = painter->worldTransform();
+    const qreal ratio = painter->device()->devicePixelRatioF();
+    const QSize size(qRound(width * toScreen.m11() * ratio),
+                     qRound(height * toScreen.m22() * ratio));
+    if (size.width() >= image.width() || size.isEmpty()) {
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
+        painter->drawPixmap(QRect(left, top, width, height), image);
+        return;
+    }
+    // On whole pixels, so that the thumbnail stays as sharp as it is.
+    const QPoint corner = toScreen.map(QPointF(left, top)).toPoint();
+    painter->setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()));
+    painter->drawPixmap(QPoint(0, 0), m_scene->thumbnails().thumbnail(image, size, ratio));
+    painter->setWorldTransform(toScreen);
 }
 
 void GridEmbroideryItem::paintLabels(QPainter *painter)

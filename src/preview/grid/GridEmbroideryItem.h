@@ -10,6 +10,7 @@
 #include <QString>
 
 class GridFavoriteItem;
+class GridPreviewScene;
 
 /**
  * One card of the grid: the preview of a file, below it the file's name and the
@@ -34,7 +35,7 @@ public:
     static const ItemLayout SmallGrid;
 
     /** Adds itself to `scene`, which owns it. `imperial`: sizes in inches. */
-    GridEmbroideryItem(const QSharedPointer<IFile> &file, QGraphicsScene *scene, bool imperial);
+    GridEmbroideryItem(const QSharedPointer<IFile> &file, GridPreviewScene *scene, bool imperial);
     ~GridEmbroideryItem() override;
 
     const QSharedPointer<IFile> &file() const { return m_file; }
@@ -69,6 +70,7 @@ private:
     void paintLabels(QPainter *painter);
 
     QSharedPointer<IFile> m_file;
+    GridPreviewScene *m_scene;
     // What the labels tell, as of the last refresh.
     QString m_path;
     QSizeF m_designSize;

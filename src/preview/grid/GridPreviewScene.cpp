@@ -3,6 +3,7 @@
 #include "app/application/HooplineApplication.h"
 #include "app/base/GlobalSettings.h"
 #include "preview/grid/GridEmbroideryItem.h"
+#include "preview/grid/SceneIndexPause.h"
 #include <algorithm>
 #include <QHash>
 #include <QScopedValueRollback>
@@ -12,34 +13,8 @@ namespace {
 constexpr double MarginPixels = 10.0;
 constexpr double SpacingPixels = 20.0;
 
-// Takes all items out of the scene's index, which takes them in again at the
-// next look-up. Moving them one by one in the index costs many times as much.
-class IndexPause
-{
-public:
-    explicit IndexPause(QGraphicsScene *scene) : m_scene(scene) {}
-    ~IndexPause()
-    {
-        if (m_begun) {
-            m_scene->setBspTreeDepth(0);
-        }
-    }
-    IndexPause(const IndexPause &) = delete;
-    IndexPause &operator=(const IndexPause &) = delete;
-
-    void begin()
-    {
-        // Any change of the tree's depth drops the tree.
-        if (m_scene->bspTreeDepth() == 0) {
-            m_scene->setBspTreeDepth(1);
-            m_begun = true;
-        }
-    }
-
-private:
-    QGraphicsScene *m_scene;
-    bool m_begun = false;
-};
+// From as many on, deleting cards one by one is slower than what deleteCards() does first.
+constexpr int ManyCards = 1000;
 
 } // namespace
 
@@ -73,7 +48,6 @@ void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
     for (int i = 0; i < m_files.size(); ++i) {
         spare.insert(m_files.at(i), m_items.at(i));
     }
-    const QList<GridEmbroideryItem *> oldItems = m_items;
     const bool imperial = GlobalSettings().imperialUnits();
 
     m_files = files;
@@ -87,14 +61,27 @@ void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
         card->setViewScaleFactor(m_scaleFactor);
         m_items.append(card);
     }
-    // In the order of their making: the scene finds the oldest of its items first.
-    for (GridEmbroideryItem *card : oldItems) {
-        if (spare.contains(card->file())) {
-            m_exposedItems.remove(card);
-            delete card;
-        }
-    }
+    deleteCards(spare.values());
     placeSprites(m_preferredSceneWidth);
+}
+
+void GridPreviewScene::deleteCards(const QList<GridEmbroideryItem *> &cards)
+{
+    SceneIndexPause pause(this);
+    if (cards.size() >= ManyCards) {
+        // The scene looks for an item that leaves it among all others, from the
+        // lowest on. So they go to the bottom, the first of them lowest; the
+        // look-up makes the scene sort.
+        pause.begin();
+        for (int i = 0; i < cards.size(); ++i) {
+            cards.at(i)->setZValue(i - cards.size());
+        }
+        items(QPointF());
+    }
+    for (GridEmbroideryItem *card : cards) {
+        m_exposedItems.remove(card);
+        delete card;
+    }
 }
 
 void GridPreviewScene::setPreferredSceneWidth(int width)
@@ -105,7 +92,7 @@ void GridPreviewScene::setPreferredSceneWidth(int width)
 
 void GridPreviewScene::setScaleFactor(double newScale)
 {
-    IndexPause pause(this);
+    SceneIndexPause pause(this);
     if (newScale != m_scaleFactor) {
         pause.begin();
     }
@@ -119,7 +106,7 @@ void GridPreviewScene::setScaleFactor(double newScale)
 
 void GridPreviewScene::placeSprites(int width)
 {
-    IndexPause pause(this);
+    SceneIndexPause pause(this);
     const int margin = int(MarginPixels / m_scaleFactor);
     const int spacing = int(SpacingPixels / m_scaleFactor);
     int x = margin;

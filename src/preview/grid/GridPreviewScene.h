@@ -2,6 +2,7 @@
 
 #include "catalogue/records/IFile.h"
 #include "preview/grid/EditorScene.h"
+#include "preview/grid/ThumbnailCache.h"
 #include <QList>
 #include <QSet>
 #include <QSharedPointer>
@@ -22,6 +23,9 @@ public:
 
     void areaExposed(const QRectF &area) override;
 
+    /** What the cards draw their previews from. */
+    ThumbnailCache &thumbnails() { return m_thumbnails; }
+
 public slots:
     /** Places the cards in rows on a sheet of `width` scene units. */
     void placeSprites(int width);
@@ -40,11 +44,13 @@ signals:
 
 private:
     void replaceCards(const QList<QSharedPointer<IFile>> &files);
+    void deleteCards(const QList<GridEmbroideryItem *> &cards);
 
     QList<QSharedPointer<IFile>> m_files;
     // Parallel to m_files.
     QList<GridEmbroideryItem *> m_items;
     QSet<GridEmbroideryItem *> m_exposedItems;
+    ThumbnailCache m_thumbnails;
     int m_preferredSceneWidth = 1024;
     double m_scaleFactor = 1.0;
     bool m_inSelectionChange = false;
