@@ -197,6 +197,7 @@ void tst_PreviewBrowser::columnsFollowTheWindow()
     addFiles(8);
     show(QSize(800, 1200));
     QCOMPARE(card(3)->y() > card(2)->y(), true);
+    QCOMPARE(cardRect(0).top(), 10);
     m_browser->resize(1100, 1200);
     QTRY_COMPARE(card(3)->y(), card(2)->y());
     QVERIFY(card(4)->y() > card(3)->y());

@@ -8,6 +8,8 @@
 GridGraphicsView::GridGraphicsView(QWidget *parent) : EditorGraphicsView(parent)
 {
     setFrameShape(QFrame::NoFrame);
+    // A few cards stand at the top, where the first of many would.
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setAccessibleName(tr("Designs"));
     updateBackground();
 }
