@@ -36,7 +36,27 @@ void PropertyXMLReader::visit(PropertyBool *property)
 
 void PropertyXMLReader::visit(PropertyString *property)
 {
-    property->setValueWithoutUndoAndAnnounceChange(m_currentElement.text());
+    property->setValueWithoutUndoAndAnnounceChange(
+        sharedText(property->propertyName(), m_currentElement.text()));
+}
+
+/**
+ * A text like @p text that other properties of this name hold as well: records by the
+ * hundred thousand have the same few words in them. Where all texts differ, it gives up.
+ */
+QString PropertyXMLReader::sharedText(const QString &name, const QString &text)
+{
+    constexpr int maximumLength = 64;
+    constexpr int maximumCount = 500;
+    if (text.length() > maximumLength)
+        return text;
+    QSet<QString> &known = m_sharedTexts[name];
+    const auto it = known.constFind(text);
+    if (it != known.cend())
+        return *it;
+    if (known.count() < maximumCount)
+        known.insert(text);
+    return text;
 }
 
 void PropertyXMLReader::visit(PropertyInt *property)

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QDomElement>
+#include <QHash>
+#include <QSet>
 #include <QStringList>
 
 class Property;
@@ -64,10 +66,12 @@ private:
     void readListElements(PropertyList *list);
     void readListElement(PropertyList *list, const QDomElement &element);
     double number(const QString &attribute) const;
+    QString sharedText(const QString &name, const QString &text);
 
     QDomElement m_currentElement;
     GProject *m_project;
     const PropertyFactory *m_factory;
     Property *m_rootProperty = nullptr;
     QDir m_baseDir;
+    QHash<QString, QSet<QString>> m_sharedTexts;
 };
