@@ -22,6 +22,8 @@
 
 namespace {
 
+constexpr QSize FormSize(700, 580);
+
 bool isFilled(const QTextEdit *edit)
 {
     return !edit->toPlainText().trimmed().isEmpty();
@@ -56,6 +58,7 @@ FeedbackDialog::FeedbackDialog(QWidget *parent, const QMap<QString, QVariant> &a
     }
     addButtons(layout);
     updateSendButton();
+    resize(FormSize);
 }
 
 void FeedbackDialog::presentDialogIfCrashed()
@@ -97,6 +100,7 @@ void FeedbackDialog::addCrashForm(QVBoxLayout *layout, const QString &message)
 void FeedbackDialog::addTabs(QVBoxLayout *layout)
 {
     m_tabWidget = new QTabWidget;
+    m_tabWidget->setUsesScrollButtons(false);
 
     QVBoxLayout *fields = addTab(tr("Quick Feedback"), QStringLiteral("feedback.svg"))->fields();
     Tab feedback{FeedbackReport::Feedback};

@@ -33,21 +33,26 @@ UpdateDialog::UpdateDialog(const AvailableUpdate &update, QWidget *parent)
     : QDialog(parent, Qt::Sheet), m_update(update)
 {
     setWindowTitle(tr("Software Update"));
-    auto *picture = new QLabel;
-    if (const GApplicationAddons *addons = GApplicationAddons::addons()) {
-        const QPixmap pixmap = addons->updaterPixmap();
-        if (!pixmap.isNull())
-            picture->setPixmap(pixmap.scaled(PictureSize, PictureSize, Qt::KeepAspectRatio,
-                                             Qt::SmoothTransformation));
-    }
     auto *texts = new QVBoxLayout;
     addTexts(texts);
     auto *top = new QHBoxLayout;
-    top->addWidget(picture, 0, Qt::AlignTop);
+    addPicture(top);
     top->addLayout(texts);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top);
     addButtons(layout);
+}
+
+void UpdateDialog::addPicture(QHBoxLayout *layout)
+{
+    const GApplicationAddons *addons = GApplicationAddons::addons();
+    const QPixmap pixmap = addons ? addons->updaterPixmap() : QPixmap();
+    if (pixmap.isNull())
+        return;
+    auto *picture = new QLabel;
+    picture->setPixmap(
+        pixmap.scaled(PictureSize, PictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    layout->addWidget(picture, 0, Qt::AlignTop);
 }
 
 void UpdateDialog::addTexts(QVBoxLayout *layout)

@@ -4,7 +4,8 @@
 
 #include <QDialog>
 
-class QPushButton;
+class QHBoxLayout;
+class QVBoxLayout;
 
 /**
  * Offers a newer release: install opens its download in the browser, skip never
@@ -23,8 +24,9 @@ private slots:
     void skip();
 
 private:
-    void addTexts(class QVBoxLayout *layout);
-    void addButtons(class QVBoxLayout *layout);
+    void addPicture(QHBoxLayout *layout);
+    void addTexts(QVBoxLayout *layout);
+    void addButtons(QVBoxLayout *layout);
 
     AvailableUpdate m_update;
 };

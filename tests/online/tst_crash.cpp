@@ -5,6 +5,7 @@
 
 #include <climits>
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <QCoreApplication>
@@ -35,8 +36,9 @@ int overflow(int depth)
     theLogServer()->logMessage("Test", LogLevel::Warning,
                                QStringLiteral("reading /home/jo/secret rose.dst"));
     if (how == "segv") {
-        volatile int *nothing = nullptr;
-        sink = *nothing;
+        // Not null, which a sanitizer would catch before the processor does.
+        volatile std::uintptr_t nowhere = 64;
+        sink = *reinterpret_cast<volatile int *>(nowhere);
     } else if (how == "overflow") {
         sink = overflow(0);
     } else if (how == "throw") {
