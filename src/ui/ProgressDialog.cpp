@@ -77,4 +77,5 @@ int ProgressDialog::abortState() const
 void ProgressDialog::reject()
 {
     m_aborted = true;
+    emit cancelRequested();
 }

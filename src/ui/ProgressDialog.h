@@ -35,6 +35,10 @@ public:
 public slots:
     void reject() override;
 
+signals:
+    /** The user has asked for the end; it is the owner who hides the window. */
+    void cancelRequested();
+
 private:
     void pumpEvents();
 

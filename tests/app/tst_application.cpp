@@ -104,11 +104,8 @@ void tst_application::init()
 
 void tst_application::cleanup()
 {
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (qobject_cast<GMainWindow *>(widget))
-            delete widget;
-    }
+    while (GMainWindow *window = theWindow())
+        delete window;
     GSettings().flushSettings({QStringLiteral("autoUpdatesEnabled")});
 }
 

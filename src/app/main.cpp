@@ -1,0 +1,79 @@
+#include "app/application/SingleApplication.h"
+#include "app/base/DependencyRegistry.h"
+#include "app/base/GLogServer.h"
+#include "app/base/GSettings.h"
+#include "app/base/GTranslationLoader.h"
+#include "online/metrics/Metrics.h"
+#include "ui/MainWindow.h"
+#include "ui/PreferencesDialog.h"
+#include "widgets/controls/About2.h"
+#include "widgets/style/WidgetStyles.h"
+
+#include <cstdio>
+
+namespace {
+
+constexpr int InstanceTimeout = 1000; // milliseconds
+constexpr int AboutBannerWidth = 300; // pixels
+constexpr int LogEverything = 0x7fffffff;
+
+} // namespace
+
+// Q_INIT_RESOURCE declares what it calls in the namespace around it, so these are outside of one.
+static void initializeFrame()
+{
+    GApplicationAddons::basicInitialization();
+    Q_INIT_RESOURCE(tnw_resources);
+    theDependencyRegistry()->setConstructorWith1ParameterForRole<QDialog, About2, QWidget *>(
+        GApplication::di_AboutDialog);
+    About2::configure(WidgetStyles::Primary800, AboutBannerWidth);
+}
+
+static void initializeProduct()
+{
+    theLogServer()->setGlobalLogLevel(LogEverything);
+    Q_INIT_RESOURCE(hoopline_resources);
+
+    HooplineApplication::setWindowFactory([] { return new MainWindow; });
+    HooplineApplication::setPreferencesPresenter(
+        [](QWidget *parent) { PreferencesDialog(parent).exec(); });
+}
+
+namespace {
+
+void flushSettings()
+{
+    std::puts("Flushing all settings");
+    GSettings().flushSettings({});
+}
+
+// The application object must be gone before the metrics client is.
+int runApplication(int argc, char **argv)
+{
+    using Mode = SingleApplication::Mode;
+    SingleApplication app(argc, argv, false,
+                          Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath,
+                          InstanceTimeout);
+    GTranslationLoader::instance()->setTranslations(&app);
+    QObject::connect(&app, &SingleApplication::instanceStarted, &app, &GApplication::onClickOnDock);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.contains(QStringLiteral("--flushsettings"))) {
+        flushSettings();
+        return 0;
+    }
+    Metrics::createInstance(QStringLiteral("40817263"));
+    if (arguments.contains(QStringLiteral("--do-not-track")))
+        Metrics::instance()->setDoNotTrack(true);
+    return app.exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    initializeFrame();
+    initializeProduct();
+    const int result = runApplication(argc, argv);
+    Metrics::deleteInstance();
+    return result;
+}

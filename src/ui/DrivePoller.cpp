@@ -1,0 +1,42 @@
+#include "ui/DrivePoller.h"
+
+#include <mutex>
+#include <thread>
+
+/** Where the thread finds the poller, as long as there is one. */
+struct DrivePoller::Mailbox
+{
+    std::mutex mutex;
+    DrivePoller *poller = nullptr;
+};
+
+DrivePoller::DrivePoller(QObject *parent) : QObject(parent), m_mailbox(std::make_shared<Mailbox>())
+{
+    m_mailbox->poller = this;
+}
+
+DrivePoller::~DrivePoller()
+{
+    const std::lock_guard<std::mutex> lock(m_mailbox->mutex);
+    m_mailbox->poller = nullptr;
+}
+
+void DrivePoller::poll()
+{
+    if (m_polling)
+        return;
+    m_polling = true;
+    std::thread([mailbox = m_mailbox] {
+        const QList<QStorageInfo> volumes = QStorageInfo::mountedVolumes();
+        const std::lock_guard<std::mutex> lock(mailbox->mutex);
+        if (DrivePoller *poller = mailbox->poller)
+            QMetaObject::invokeMethod(
+                poller, [poller, volumes] { poller->takeAnswer(volumes); }, Qt::QueuedConnection);
+    }).detach();
+}
+
+void DrivePoller::takeAnswer(const QList<QStorageInfo> &volumes)
+{
+    m_polling = false;
+    emit volumesListed(volumes);
+}

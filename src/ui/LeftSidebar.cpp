@@ -1,0 +1,23 @@
+#include "ui/LeftSidebar.h"
+
+#include "catalogue/models/IFilterModel.h"
+#include "catalogue/records/Project.h"
+#include "ui/panels/DirectoriesBox.h"
+#include "ui/panels/TagsBox.h"
+#include "widgets/style/WidgetStyles.h"
+
+LeftSidebar::LeftSidebar(QWidget *parent, const QSharedPointer<Project> &project,
+                         IFilterModel *filter)
+    : GSideBar(parent)
+{
+    setObjectName(QStringLiteral("leftSidebar"));
+    setStyleSheet(WidgetStyles::LeftSideBar());
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto *directories = new DirectoriesBox(this, project, filter);
+    connect(directories, &DirectoriesBox::filesDropped, this, &LeftSidebar::filesDropped);
+    connect(directories, &DirectoriesBox::removeSelectedDirectory, this,
+            &LeftSidebar::removeSelectedDirectory);
+    addBox(directories);
+    addBox(new TagsBox(this, project, filter));
+}

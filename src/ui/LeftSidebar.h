@@ -1,0 +1,23 @@
+#pragma once
+
+#include "widgets/controls/GSideBar.h"
+
+#include <QSharedPointer>
+#include <QStringList>
+
+class IFilterModel;
+class Project;
+
+/** The side bar of what the grid is narrowed by: folders and tags. */
+class LeftSidebar : public GSideBar
+{
+    Q_OBJECT
+
+public:
+    /** @param filter not owned, must outlive the side bar */
+    LeftSidebar(QWidget *parent, const QSharedPointer<Project> &project, IFilterModel *filter);
+
+signals:
+    void filesDropped(const QStringList &paths);
+    void removeSelectedDirectory();
+};

@@ -1,0 +1,260 @@
+#include "ui/MainWindow.h"
+
+#include "app/base/Error.h"
+#include "app/base/GlobalSettings.h"
+#include "app/frame/GAction.h"
+#include "app/frame/GFileDialog.h"
+#include "catalogue/models/FilterSelectionModel.h"
+#include "catalogue/models/IFilterModel.h"
+#include "catalogue/models/ISelectionModel.h"
+#include "catalogue/records/Project.h"
+#include "catalogue/sync/ProjectController.h"
+#include "preview/cache/PreviewCache.h"
+#include "ui/CenterView.h"
+#include "ui/ExportDialog.h"
+#include "ui/LeftSidebar.h"
+#include "ui/ProgressDialog.h"
+#include "ui/RightSidebar.h"
+#include "widgets/controls/GMessageBox.h"
+#include "widgets/style/GWidgetStyles.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QScopedValueRollback>
+#include <QSplashScreen>
+#include <QSplitter>
+
+namespace {
+
+constexpr int InitialWidth = 1024;
+constexpr int InitialHeight = 700;
+constexpr int SideBarMargin = 30;
+
+QString splitterKey()
+{
+    return QStringLiteral("mainWindowSplitter");
+}
+
+} // namespace
+
+MainWindow::MainWindow() : GMainWindow(nullptr, false)
+{
+    QSplashScreen splash(QPixmap(QStringLiteral(":/SplashScreen@2x.png")));
+    splash.show();
+    splash.showMessage(tr("Loading ..."), Qt::AlignBottom | Qt::AlignHCenter, Qt::black);
+    QCoreApplication::processEvents();
+
+    setWindowTitle(QGuiApplication::applicationDisplayName());
+    m_controller = std::make_unique<ProjectController>();
+    m_controller->loadOrCreateProject();
+    m_project = m_controller->project();
+    m_progressDialog = new ProgressDialog(this);
+    connect(m_progressDialog, &ProgressDialog::cancelRequested, this,
+            &MainWindow::hideStaleProgress);
+    m_controller->setProgressAbortListener(m_progressDialog);
+    createPanes();
+    createActions();
+    createMenus();
+    createToolbars();
+    setupInitialLayout();
+    restoreWindowState(QString());
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            &MainWindow::applicationStateChanged);
+    connect(filter(), &IFilterModel::directoryFilterChanged, this, &MainWindow::updateUI);
+    const QStringList folders = m_project->smartFolders();
+    if (folders.isEmpty())
+        updateUI();
+    else
+        filter()->setDirectory(folders.first());
+}
+
+MainWindow::~MainWindow()
+{
+    PreviewCache::instance().clear();
+    saveAtEnd();
+    // The panes use the models, which go with the controller.
+    delete m_splitter;
+}
+
+void MainWindow::saveAtEnd()
+{
+    try {
+        m_controller->saveProjectIfModified();
+    } catch (const Error &error) {
+        QMessageBox::critical(nullptr, tr("Error"), error.toString());
+    }
+}
+
+IFilterModel *MainWindow::filter() const
+{
+    return m_controller->selectionModel()->filter();
+}
+
+void MainWindow::createPanes()
+{
+    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter->setStyleSheet(GWidgetStyles::MainWindow_SplitterStyle());
+    setCentralWidget(m_splitter);
+    FilterSelectionModel *model = m_controller->selectionModel();
+    m_left = new LeftSidebar(this, m_project, model->filter());
+    m_center = new CenterView(this, m_project, model);
+    m_right = new RightSidebar(this, m_project, model->selection());
+    m_splitter->addWidget(m_left);
+    m_splitter->addWidget(m_center);
+    m_splitter->addWidget(m_right);
+    m_splitter->setChildrenCollapsible(false);
+    connect(m_left, &LeftSidebar::filesDropped, this, &MainWindow::filesDropped);
+    connect(m_left, &LeftSidebar::removeSelectedDirectory, this,
+            &MainWindow::removeSelectedDirectory);
+}
+
+void MainWindow::setupInitialLayout()
+{
+    // The line of the properties that must never wrap.
+    const QString widest = tr("Number of stitches: 99 mm x 99 mm");
+    const int width = QFontMetrics(QApplication::font()).boundingRect(widest).width();
+    m_left->setMinimumWidth(width + SideBarMargin);
+    m_right->setMinimumWidth(width + SideBarMargin);
+    resize(InitialWidth, InitialHeight);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 100);
+    m_splitter->setStretchFactor(2, 0);
+    m_splitter->setSizes({1, 1000, 1});
+}
+
+void MainWindow::writeSettings(GSettings &settings)
+{
+    settings.setValue(splitterKey(), m_splitter->saveState());
+    m_left->saveWidgetState(settings);
+    m_right->saveWidgetState(settings);
+}
+
+void MainWindow::readSettings(GSettings &settings)
+{
+    m_splitter->restoreState(settings.value(splitterKey()).toByteArray());
+    m_left->restoreWidgetState(settings);
+    m_right->restoreWidgetState(settings);
+}
+
+void MainWindow::shutdownWindow()
+{
+    // An edit that is under way is finished by the loss of the focus.
+    if (QWidget *widget = focusWidget())
+        widget->clearFocus();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    GMainWindow::changeEvent(event);
+    // A style sheet keeps the palette's colours that it was read with.
+    if (event->type() == QEvent::PaletteChange && m_splitter)
+        m_splitter->setStyleSheet(GWidgetStyles::MainWindow_SplitterStyle());
+}
+
+bool MainWindow::loadFile(const QString &)
+{
+    return false;
+}
+
+bool MainWindow::saveFile(const QString &)
+{
+    return false;
+}
+
+bool MainWindow::isModified() const
+{
+    return false;
+}
+
+void MainWindow::runWithProgress(const std::function<void()> &operation)
+{
+    const QScopedValueRollback<bool> running(m_operationRunning, true);
+    m_progressDialog->show();
+    operation();
+    m_progressDialog->hide();
+}
+
+void MainWindow::hideStaleProgress()
+{
+    // An operation that failed has left the dialog up, and with it the way to the window barred.
+    if (!m_operationRunning)
+        m_progressDialog->hide();
+}
+
+void MainWindow::addDirectories(const QStringList &directories)
+{
+    runWithProgress([&] { m_controller->addDirectories(directories); });
+    GlobalSettings().setLastImportPath(directories.first());
+    filter()->setDirectory(directories.first());
+}
+
+void MainWindow::addDirectory()
+{
+    const QString lastPath = GlobalSettings().lastImportPath();
+    const QString folder = GFileDialog::getExistingDirectory(
+        this, tr("Select folder to add"), lastPath.left(lastPath.lastIndexOf(QLatin1Char('/'))),
+        QFileDialog::ShowDirsOnly);
+    if (!folder.isEmpty())
+        addDirectories({folder});
+}
+
+void MainWindow::filesDropped(const QStringList &paths)
+{
+    QStringList folders;
+    for (QString path : paths) {
+        if (!QFileInfo(path).isDir())
+            continue;
+        if (path.endsWith(QLatin1Char('/')))
+            path.chop(1);
+        folders.append(path);
+    }
+    if (!folders.isEmpty())
+        addDirectories(folders);
+}
+
+void MainWindow::removeSelectedDirectory()
+{
+    const QString folder = filter()->directoryFilter();
+    if (folder.isEmpty())
+        return;
+    GMessageBox question(GMessageBox::Question, this, tr("Remove selected folder from list?"),
+                         folder);
+    if (question.exec() == QMessageBox::No)
+        return;
+    runWithProgress([this] { m_controller->removeSelectedDirectory(); });
+    filter()->setDirectory(m_project->smartFolders().value(0));
+}
+
+void MainWindow::rescanDirectories()
+{
+    runWithProgress([this] { m_controller->scanSmartFolders(); });
+}
+
+void MainWindow::exportSelectedFiles()
+{
+    const auto files = m_controller->selectionModel()->selection()->selectedFiles();
+    if (files.isEmpty()) {
+        GMessageBox(GMessageBox::Information, this, tr("No embroidery files selected!"),
+                    tr("Please select the files you want to transfer to your embroidery machine."))
+            .exec();
+        return;
+    }
+    ExportDialog(this, files).exec();
+}
+
+void MainWindow::updateUI()
+{
+    const QString folder = filter()->directoryFilter();
+    m_removeFolderAction->setEnabled(!folder.isEmpty() &&
+                                     m_project->smartFolders().contains(folder));
+}
+
+void MainWindow::applicationStateChanged(Qt::ApplicationState state)
+{
+    if (state == Qt::ApplicationActive)
+        m_controller->reloadProjectIfNewerOnDisk();
+    else
+        m_controller->saveProjectIfModified();
+}

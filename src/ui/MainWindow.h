@@ -1,0 +1,81 @@
+#pragma once
+
+#include "app/application/GMainWindow.h"
+
+#include <functional>
+#include <memory>
+#include <QSharedPointer>
+
+class CenterView;
+class GToolBar;
+class IFilterModel;
+class LeftSidebar;
+class ProgressDialog;
+class Project;
+class ProjectController;
+class RightSidebar;
+
+/** The one window of the product: owns the catalogue's controller and turns commands into calls. */
+class MainWindow : public GMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** Loads or creates the catalogue. @throws Error when that is not possible */
+    MainWindow();
+    /** Saves the catalogue. */
+    ~MainWindow() override;
+
+    /** The catalogue saves itself and is never opened as a document. */
+    bool loadFile(const QString &name) override;
+    bool saveFile(const QString &name) override;
+    bool isModified() const override;
+
+public slots:
+    /** Adds the folders among @p paths. */
+    void filesDropped(const QStringList &paths);
+    void removeSelectedDirectory();
+    void applicationStateChanged(Qt::ApplicationState state);
+    void updateUI();
+    void addDirectory();
+    void rescanDirectories();
+    void exportSelectedFiles();
+
+protected:
+    void writeSettings(GSettings &settings) override;
+    void readSettings(GSettings &settings) override;
+    void shutdownWindow() override;
+    void installApplicationMenuItems(QMenu *fileMenu, QMenu *helpMenu) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void createPanes();
+    void createActions();
+    void createMenus();
+    void createToolbars();
+    void setupInitialLayout();
+    void addDirectories(const QStringList &directories);
+    void runWithProgress(const std::function<void()> &operation);
+    void hideStaleProgress();
+    void saveAtEnd();
+    IFilterModel *filter() const;
+
+    GAction *m_addFolderAction = nullptr;
+    GAction *m_removeFolderAction = nullptr;
+    GAction *m_rescanAction = nullptr;
+    GAction *m_selectAllAction = nullptr;
+    GAction *m_zoomInAction = nullptr;
+    GAction *m_zoomOutAction = nullptr;
+    GAction *m_transferAction = nullptr;
+    QMenu *m_fileMenu = nullptr;
+    QMenu *m_helpMenu = nullptr;
+    GToolBar *m_toolbar = nullptr;
+    ProgressDialog *m_progressDialog = nullptr;
+    QSplitter *m_splitter = nullptr;
+    LeftSidebar *m_left = nullptr;
+    CenterView *m_center = nullptr;
+    RightSidebar *m_right = nullptr;
+    QSharedPointer<Project> m_project;
+    std::unique_ptr<ProjectController> m_controller;
+    bool m_operationRunning = false;
+};

@@ -1,0 +1,61 @@
+#include "ui/PreferencesDialog.h"
+
+#include "app/application/HooplineApplication.h"
+#include "app/base/BuildConfig.h"
+#include "app/base/GlobalSettings.h"
+#include "online/AutoUpdater.h"
+#include "online/metrics/Metrics.h"
+#include "ui_PreferencesDialog.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+PreferencesDialog::PreferencesDialog(QWidget *parent)
+    : QDialog(parent, Qt::Sheet), m_ui(std::make_unique<Ui::PreferencesDialog>())
+{
+    m_ui->setupUi(this);
+    GlobalSettings settings;
+    m_ui->appDataDirectory->setText(settings.applicationDataPath());
+    m_ui->useImperialUnits->setChecked(settings.imperialUnits());
+    updatePrivacyTab();
+}
+
+PreferencesDialog::~PreferencesDialog() = default;
+
+void PreferencesDialog::updatePrivacyTab()
+{
+    m_ui->trackingDescriptionLabel->setText(
+        m_ui->trackingDescriptionLabel->text().arg(GSettings().statisticsUUID().toHtmlEscaped(),
+                                                   QString::fromLatin1(BuildConfig::PrivacyUrl)));
+    const AutoUpdater *updater = theAutoUpdater();
+    m_ui->autoUpdatesCheckBox->setChecked(updater->autoUpdatesEnabled());
+    m_ui->includeBetaUpdatesCheckBox->setChecked(updater->betaUpdatesEnabled());
+    m_ui->sendStatisticsCheckBox->setChecked(!Metrics::instance()->doNotTrack());
+}
+
+void PreferencesDialog::on_useImperialUnits_clicked(bool checked)
+{
+    GlobalSettings().setImperialUnits(checked);
+    if (auto *application = HooplineApplication::instance())
+        application->emitSyncGlobalSettings();
+}
+
+void PreferencesDialog::on_openAppDataDirectory_clicked()
+{
+    QDesktopServices::openUrl(QUrl(QStringLiteral("file:///") + m_ui->appDataDirectory->text()));
+}
+
+void PreferencesDialog::on_autoUpdatesCheckBox_clicked(bool checked)
+{
+    theAutoUpdater()->setAutoUpdates(checked);
+}
+
+void PreferencesDialog::on_includeBetaUpdatesCheckBox_clicked(bool checked)
+{
+    theAutoUpdater()->setBetaUpdatesEnabled(checked);
+}
+
+void PreferencesDialog::on_sendStatisticsCheckBox_clicked(bool checked)
+{
+    Metrics::instance()->setDoNotTrack(!checked);
+}

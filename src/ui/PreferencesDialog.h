@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <QDialog>
+
+namespace Ui {
+class PreferencesDialog;
+}
+
+/** The settings of the program. Every change applies at once; there is no way back but to change
+ * it again. */
+class PreferencesDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit PreferencesDialog(QWidget *parent);
+    ~PreferencesDialog() override;
+
+private slots:
+    void on_useImperialUnits_clicked(bool checked);
+    void on_openAppDataDirectory_clicked();
+    void on_autoUpdatesCheckBox_clicked(bool checked);
+    void on_includeBetaUpdatesCheckBox_clicked(bool checked);
+    void on_sendStatisticsCheckBox_clicked(bool checked);
+
+private:
+    void updatePrivacyTab();
+
+    const std::unique_ptr<Ui::PreferencesDialog> m_ui;
+};

@@ -1,0 +1,291 @@
+#include "DriveFixture.h"
+#include "PanelFixture.h"
+
+#include "catalogue/records/File.h"
+#include "ui/DriveInfo.h"
+#include "ui/DrivePoller.h"
+#include "ui/DriveTransfer.h"
+#include "ui/ExportDialog.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+class tst_exportdialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void choosesDrives_data();
+    void choosesDrives();
+    void showsDrives_data();
+    void showsDrives();
+    void pollsInTheBackground();
+    void refusesToCopyWithoutDrive();
+    void listsAMountedStick();
+    void copiesAndReplaces();
+    void laterFileOfOneNameWins();
+    void stopsAtTheFirstFailure();
+    void tellsOfAFullDrive();
+    void tellsOfAWriteProtectedDrive();
+    void noticesAPulledDrive();
+    void leavesDesignsOnTheDriveAlone();
+    void emptyListCopiesNothing();
+
+private:
+    QString createDesign(const QString &name, const QByteArray &content);
+    QString transfer(const QStringList &sources, const QString &target);
+    static QByteArray contentOf(const QString &path);
+
+    std::unique_ptr<QTemporaryDir> m_designs;
+};
+
+void tst_exportdialog::init()
+{
+    m_designs = std::make_unique<QTemporaryDir>();
+}
+
+QString tst_exportdialog::createDesign(const QString &name, const QByteArray &content)
+{
+    QFile file(m_designs->filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    return file.fileName();
+}
+
+QByteArray tst_exportdialog::contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+/** Runs the dialog as the user does; returns the texts of the message it ended with, if any. */
+QString tst_exportdialog::transfer(const QStringList &sources, const QString &target)
+{
+    const auto project = projectWithFiles(sources);
+    ExportDialog dialog(nullptr, project->files());
+    // The drives of this machine are listed first, and then not again.
+    QSignalSpy listed(dialog.findChild<DrivePoller *>(), &DrivePoller::volumesListed);
+    listed.wait();
+    auto *drives = dialog.findChild<QComboBox *>(QStringLiteral("disksComboBox"));
+    drives->clear();
+    drives->addItem(QStringLiteral("stick"), target);
+    auto *copy = dialog.findChild<QPushButton *>(QStringLiteral("copyButton"));
+    copy->setEnabled(true);
+    QString message;
+    QTimer answer;
+    connect(&answer, &QTimer::timeout, &answer, [&] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            message = box->text() + QLatin1Char('|') + box->informativeText();
+            box->button(QMessageBox::Ok)->click();
+        }
+    });
+    answer.start(10);
+    QTimer::singleShot(0, copy, &QPushButton::click);
+    const int result = dialog.exec();
+    return result == QDialog::Accepted ? message : QStringLiteral("not accepted");
+}
+
+void tst_exportdialog::choosesDrives_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<bool>("chosen");
+    QTest::newRow("vfat") << "vfat"
+                          << "" << true;
+    QTest::newRow("exFAT") << "exfat"
+                           << "" << true;
+    QTest::newRow("FAT32") << "FAT32"
+                           << "" << true;
+    QTest::newRow("msdos") << "MSDOS"
+                           << "" << true;
+    QTest::newRow("ext4") << "ext4"
+                          << "" << false;
+    QTest::newRow("root") << "vfat"
+                          << "root" << false;
+    QTest::newRow("invalid") << "vfat"
+                             << "invalid" << false;
+    QTest::newRow("not ready") << "vfat"
+                               << "not ready" << false;
+    QTest::newRow("read-only") << "vfat"
+                               << "read-only" << false;
+}
+
+void tst_exportdialog::choosesDrives()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, fault);
+    DriveInfo drive;
+    drive.fileSystemType = type;
+    drive.root = fault == QLatin1String("root");
+    drive.valid = fault != QLatin1String("invalid");
+    drive.ready = fault != QLatin1String("not ready");
+    drive.readOnly = fault == QLatin1String("read-only");
+    QTEST(drive.mightBeUsbDrive(), "chosen");
+}
+
+void tst_exportdialog::showsDrives_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+    constexpr qint64 megabyte = 1048576;
+    QTest::newRow("1023 MB") << "STICK" << 1023 * megabyte << "STICK (1023 MB)";
+    QTest::newRow("a byte less") << "STICK" << 1024 * megabyte - 1 << "STICK (1023 MB)";
+    QTest::newRow("1024 MB") << "STICK" << 1024 * megabyte << "STICK (1 GB)";
+    QTest::newRow("1536 MB") << "STICK" << 1536 * megabyte << "STICK (1 GB)";
+    QTest::newRow("nameless") << "" << 8 * megabyte << "/media/stick (8 MB)";
+    QTest::newRow("percent") << "%2 %1" << 8 * megabyte << "%2 %1 (8 MB)";
+}
+
+void tst_exportdialog::showsDrives()
+{
+    QFETCH(QString, name);
+    QFETCH(qint64, bytes);
+    DriveInfo drive;
+    drive.name = name;
+    drive.rootPath = QStringLiteral("/media/stick");
+    drive.bytesTotal = bytes;
+    QTEST(drive.displayText(), "text");
+}
+
+void tst_exportdialog::pollsInTheBackground()
+{
+    DrivePoller poller;
+    QSignalSpy listed(&poller, &DrivePoller::volumesListed);
+    poller.poll();
+    poller.poll();
+    QCOMPARE(listed.count(), 0);
+    QVERIFY(listed.wait());
+    QTest::qWait(20);
+    QCOMPARE(listed.count(), 1);
+    for (int i = 0; i < 50; ++i)
+        DrivePoller().poll();
+}
+
+void tst_exportdialog::refusesToCopyWithoutDrive()
+{
+    const auto project = projectWithFiles({createDesign(QStringLiteral("rose.dst"), "rose")});
+    ExportDialog dialog(nullptr, project->files());
+    const auto *drives = dialog.findChild<QComboBox *>();
+    QCOMPARE(drives->currentText(), QStringLiteral("No removable USB drive found"));
+    QVERIFY(!drives->isEnabled());
+    QVERIFY(!dialog.findChild<QPushButton *>(QStringLiteral("copyButton"))->isEnabled());
+    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("label"))->text(),
+             QStringLiteral("1 file(s) will be copied."));
+    auto *cancel = dialog.findChild<QPushButton *>(QStringLiteral("cancelButton"));
+    QTimer::singleShot(0, cancel, &QPushButton::click);
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+}
+
+void tst_exportdialog::listsAMountedStick()
+{
+    const auto project = projectWithFiles({createDesign(QStringLiteral("rose.dst"), "rose")});
+    ExportDialog dialog(nullptr, project->files());
+    auto *drives = dialog.findChild<QComboBox *>();
+    auto stick = std::make_unique<DriveFixture>(QString());
+    if (!stick->isFat())
+        QSKIP("No FAT image can be mounted here.");
+    QTRY_VERIFY(drives->findData(stick->path()) >= 0);
+    QVERIFY(dialog.findChild<QPushButton *>(QStringLiteral("copyButton"))->isEnabled());
+    QVERIFY(stick->remount(QStringLiteral("ro")));
+    stick->pull();
+    QTRY_VERIFY(drives->findData(stick->path()) < 0);
+}
+
+void tst_exportdialog::copiesAndReplaces()
+{
+    DriveFixture drive;
+    qInfo("%s", drive.description());
+    const QString rose = createDesign(QStringLiteral("rose.dst"), "rose");
+    const QString leaf = createDesign(QStringLiteral("leaf.pes"), "leaf");
+    QVERIFY(QFile::copy(leaf, drive.filePath(QStringLiteral("rose.dst"))));
+    QCOMPARE(transfer({rose, leaf}, drive.path()), QString());
+    QCOMPARE(contentOf(drive.filePath(QStringLiteral("rose.dst"))), QByteArray("rose"));
+    QCOMPARE(contentOf(drive.filePath(QStringLiteral("leaf.pes"))), QByteArray("leaf"));
+    QCOMPARE(QDir(drive.path()).entryList(QDir::Files).size(), 2);
+}
+
+void tst_exportdialog::laterFileOfOneNameWins()
+{
+    DriveFixture drive;
+    const QStringList sources{createDesign(QStringLiteral("a/rose.dst"), "first"),
+                              createDesign(QStringLiteral("b/rose.dst"), "second")};
+    QCOMPARE(transfer(sources, drive.path()), QString());
+    QCOMPARE(contentOf(drive.filePath(QStringLiteral("rose.dst"))), QByteArray("second"));
+}
+
+void tst_exportdialog::stopsAtTheFirstFailure()
+{
+    DriveFixture drive;
+    const QStringList sources{createDesign(QStringLiteral("a.dst"), "a"),
+                              m_designs->filePath(QStringLiteral("vanished.dst")),
+                              createDesign(QStringLiteral("z.dst"), "z")};
+    QCOMPARE(transfer(sources, drive.path()),
+             QStringLiteral("Failed to copy file vanished.dst|Cannot copy file to %1")
+                 .arg(drive.path()));
+    QVERIFY(QFile::exists(drive.filePath(QStringLiteral("a.dst"))));
+    QVERIFY(!QFile::exists(drive.filePath(QStringLiteral("z.dst"))));
+}
+
+void tst_exportdialog::tellsOfAFullDrive()
+{
+    DriveFixture drive;
+    if (!drive.isMounted())
+        QSKIP("Nothing can be mounted here.");
+    const QString big = createDesign(QStringLiteral("big.dst"), QByteArray(3 * 1024 * 1024, 'x'));
+    QVERIFY(
+        transfer({big}, drive.path()).startsWith(QStringLiteral("Failed to copy file big.dst")));
+    QVERIFY(QDir(drive.path()).entryList(QDir::Files).isEmpty());
+}
+
+void tst_exportdialog::tellsOfAWriteProtectedDrive()
+{
+    DriveFixture drive;
+    if (!drive.remount(QStringLiteral("ro")))
+        QSKIP("Nothing can be mounted here.");
+    const QString rose = createDesign(QStringLiteral("rose.dst"), "rose");
+    QVERIFY(!transfer({rose}, drive.path()).isEmpty());
+}
+
+void tst_exportdialog::noticesAPulledDrive()
+{
+    DriveFixture drive;
+    if (!drive.isMounted())
+        QSKIP("Nothing can be mounted here.");
+    const QString rose = createDesign(QStringLiteral("rose.dst"), "rose");
+    const QString leaf = createDesign(QStringLiteral("leaf.dst"), "leaf");
+    const DriveTransfer transfer(drive.path());
+    QVERIFY(transfer.copy(rose));
+    QVERIFY(drive.pull());
+    QVERIFY(!transfer.copy(leaf));
+    QVERIFY(!transfer.flush());
+    QVERIFY(QDir(drive.path()).isEmpty());
+}
+
+void tst_exportdialog::leavesDesignsOnTheDriveAlone()
+{
+    DriveFixture drive;
+    QFile design(drive.filePath(QStringLiteral("rose.dst")));
+    QVERIFY(design.open(QIODevice::WriteOnly));
+    design.write("the only copy");
+    design.close();
+    QCOMPARE(transfer({design.fileName()}, drive.path()), QString());
+    QCOMPARE(contentOf(design.fileName()), QByteArray("the only copy"));
+}
+
+void tst_exportdialog::emptyListCopiesNothing()
+{
+    DriveFixture drive;
+    QCOMPARE(transfer({}, drive.path()), QString());
+    QVERIFY(QDir(drive.path()).isEmpty());
+}
+
+QTEST_MAIN(tst_exportdialog)
+#include "tst_exportdialog.moc"
