@@ -27,6 +27,19 @@ static QStringList entryNames(const QDir &dir)
 #endif
 }
 
+/**
+ * The composed form of a name, which is how the catalogue compares names. Where the file
+ * system tells the two forms apart, only the name as it is stored opens the file.
+ */
+static QString composedName(const QDir &dir, const QString &name, const QStringList &names)
+{
+    const QString composed = name.normalized(QString::NormalizationForm_C);
+    if (composed == name)
+        return name;
+    const bool reachesTheFile = dir.exists(composed) && !names.contains(composed);
+    return reachesTheFile ? composed : name;
+}
+
 static QString shortenedForDisplay(const QString &path)
 {
     constexpr int maximumLength = 40;
@@ -123,8 +136,7 @@ QList<QFileInfo> DirectoryScanner::allEntries(const QDir &dir) const
     QList<QFileInfo> entries;
     const QStringList names = entryNames(dir);
     for (const QString &name : names) {
-        // The catalogue compares its stored paths with these names as plain strings.
-        const QFileInfo entry(dir, name.normalized(QString::NormalizationForm_C));
+        const QFileInfo entry(dir, composedName(dir, name, names));
         if (m_returnHidden || !entry.isHidden())
             entries.append(entry);
     }
