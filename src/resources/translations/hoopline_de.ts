@@ -1,0 +1,601 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CatalogueReport</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>Stiche</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n Stickmuster</numerusform>
+            <numerusform>%n Stickmuster</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ColorsBox</name>
+    <message>
+        <source>Colors</source>
+        <translation>Garnfarben</translation>
+    </message>
+    <message>
+        <source>Color name</source>
+        <translation>Farbname</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Farbkarte</translation>
+    </message>
+    <message>
+        <source>undefined</source>
+        <translation>unbestimmt</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesignFile</name>
+    <message>
+        <source>Not a regular file: %1</source>
+        <translation>Keine gewöhnliche Datei: %1</translation>
+    </message>
+    <message>
+        <source>File too large: %1</source>
+        <translation>Datei zu groß: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesignReport</name>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>Stiche</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>MD5</source>
+        <translation>MD5</translation>
+    </message>
+    <message>
+        <source>Thread %1</source>
+        <translation>Garn %1</translation>
+    </message>
+</context>
+<context>
+    <name>DirectoriesBox</name>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Drag &amp; drop&lt;br/&gt;the folder&lt;br/&gt;containing your&lt;br/&gt;embroidery files&lt;br/&gt;here.&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Ziehen Sie&lt;br/&gt;den Ordner&lt;br/&gt;mit Ihren&lt;br/&gt;Stickdateien&lt;br/&gt;hierher.&lt;/center&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>DirectoryModel</name>
+    <message>
+        <source>Directories</source>
+        <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>DirectoryScanner</name>
+    <message>
+        <source>Scanning directory &apos;%1&apos;</source>
+        <translation>Ordner „%1“ wird durchsucht</translation>
+    </message>
+</context>
+<context>
+    <name>FileTools</name>
+    <message>
+        <source>Failed to load %1: %2</source>
+        <translation>%1 konnte nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>%1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>any</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
+        <source>Max. size (%1):</source>
+        <translation>Max. Größe (%1):</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBarUI</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>File type:</source>
+        <translation>Dateityp:</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>Max. size (%1):</source>
+        <translation>Max. Größe (%1):</translation>
+    </message>
+    <message>
+        <source>Maximum width</source>
+        <translation>Größte Breite</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>Maximum height</source>
+        <translation>Größte Höhe</translation>
+    </message>
+    <message>
+        <source>Search text:</source>
+        <translation>Suchtext:</translation>
+    </message>
+    <message>
+        <source>Search text</source>
+        <translation>Suchtext</translation>
+    </message>
+    <message>
+        <source>Clear the search text</source>
+        <translation>Suchtext löschen</translation>
+    </message>
+    <message>
+        <source>Show favorites only</source>
+        <translation>Nur Favoriten zeigen</translation>
+    </message>
+    <message>
+        <source>Apply the filter again</source>
+        <translation>Filter erneut anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>GridGraphicsView</name>
+    <message>
+        <source>Designs</source>
+        <translation>Stickmuster</translation>
+    </message>
+</context>
+<context>
+    <name>InspectCommand</name>
+    <message>
+        <source>Reads designs and tells about them.</source>
+        <translation>Liest Stickmuster und gibt Auskunft über sie.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object per file, a line each.</source>
+        <translation>Ein JSON-Objekt je Datei ausgeben, jedes in einer Zeile.</translation>
+    </message>
+    <message>
+        <source>With --json, list every point.</source>
+        <translation>Mit --json jeden Punkt aufführen.</translation>
+    </message>
+    <message>
+        <source>Write the preview of the one file as PNG.</source>
+        <translation>Die Vorschau der einen Datei als PNG schreiben.</translation>
+    </message>
+    <message>
+        <source>Longer side of the preview in pixels.</source>
+        <translation>Längere Seite der Vorschau in Pixeln.</translation>
+    </message>
+    <message>
+        <source>No file given.</source>
+        <translation>Keine Datei angegeben.</translation>
+    </message>
+    <message>
+        <source>The size must be a number from 1 to %1.</source>
+        <translation>Die Größe muss eine Zahl von 1 bis %1 sein.</translation>
+    </message>
+    <message>
+        <source>Only one file can be rendered at a time.</source>
+        <translation>Es kann nur eine Datei auf einmal gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>%1: The design has no extent to show.</source>
+        <translation>%1: Das Stickmuster hat keine darstellbare Ausdehnung.</translation>
+    </message>
+    <message>
+        <source>Failed to write %1</source>
+        <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>ListCommand</name>
+    <message>
+        <source>Prints the designs of the catalogue, narrowed as in the organiser.</source>
+        <translation>Gibt die Stickmuster des Katalogs aus, gefiltert wie im Programm.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>Unerwartetes Argument „%1“.</translation>
+    </message>
+    <message>
+        <source>Choose one of --json and --csv.</source>
+        <translation>Wählen Sie entweder --json oder --csv.</translation>
+    </message>
+    <message>
+        <source>The folder must not be empty.</source>
+        <translation>Der Ordner darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>The size must look like 100x130.</source>
+        <translation>Die Größe muss die Form 100x130 haben.</translation>
+    </message>
+    <message>
+        <source>Only designs below this folder.</source>
+        <translation>Nur Stickmuster unterhalb dieses Ordners.</translation>
+    </message>
+    <message>
+        <source>Only designs with this tag.</source>
+        <translation>Nur Stickmuster mit diesem Schlagwort.</translation>
+    </message>
+    <message>
+        <source>Only designs of this format, for instance dst.</source>
+        <translation>Nur Stickmuster dieses Formats, zum Beispiel dst.</translation>
+    </message>
+    <message>
+        <source>Only designs that fit into this many millimetres.</source>
+        <translation>Nur Stickmuster, die in so viele Millimeter passen.</translation>
+    </message>
+    <message>
+        <source>Only designs whose file name or notes hold the text.</source>
+        <translation>Nur Stickmuster, deren Dateiname oder Notizen den Text enthalten.</translation>
+    </message>
+    <message>
+        <source>Only favourites.</source>
+        <translation>Nur Favoriten.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object per design, a line each.</source>
+        <translation>Ein JSON-Objekt je Stickmuster ausgeben, jedes in einer Zeile.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Kommagetrennte Werte ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectController</name>
+    <message>
+        <source>add directory</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>remove directory</source>
+        <translation>Ordner entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesBox</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Design size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Number of stitches</source>
+        <translation>Stichzahl</translation>
+    </message>
+    <message>
+        <source>Number of colors</source>
+        <translation>Anzahl Farben</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files selected</source>
+        <translation>
+            <numerusform>%n Datei ausgewählt</numerusform>
+            <numerusform>%n Dateien ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no file selected</source>
+        <translation>keine Datei ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEdit</name>
+    <message>
+        <source>multiple values</source>
+        <translation>mehrere Werte</translation>
+    </message>
+    <message>
+        <source>property editor: type conflict in multi-selection&apos;</source>
+        <translation>Eigenschaften: Typkonflikt in der Mehrfachauswahl</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; change</source>
+        <translation>„%1“ ändern</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>XML parser error: %1 (line %2)</source>
+        <translation>XML-Fehler: %1 (Zeile %2)</translation>
+    </message>
+    <message>
+        <source>Unknown list element &apos;%1&apos;</source>
+        <translation>Unbekanntes Listenelement „%1“</translation>
+    </message>
+    <message>
+        <source>Failed to open file &apos;%1&apos;</source>
+        <translation>Datei „%1“ konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a Hoopline Organizer project file</source>
+        <translation>„%1“ ist keine Projektdatei von Hoopline Organizer</translation>
+    </message>
+</context>
+<context>
+    <name>ScanCommand</name>
+    <message>
+        <source>Adds the folders to the catalogue and brings it into line with the disk. Without a folder it rescans the folders that are there.</source>
+        <translation>Nimmt die Ordner in den Katalog auf und gleicht ihn mit der Festplatte ab. Ohne Angabe eines Ordners werden die vorhandenen neu eingelesen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a folder</source>
+        <translation>„%1“ ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>Another scan is running.</source>
+        <translation>Es läuft bereits ein Einlesevorgang.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanController</name>
+    <message>
+        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
+        <translation>Hoopline Organizer läuft. Schließen Sie es zuerst oder lesen Sie die Ordner in seinem Fenster neu ein.</translation>
+    </message>
+    <message>
+        <source>Hoopline Organizer was started during the scan. Nothing was saved.</source>
+        <translation>Hoopline Organizer wurde während des Einlesens gestartet. Es wurde nichts gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>TagController</name>
+    <message>
+        <source>rename tag</source>
+        <translation>Schlagwort umbenennen</translation>
+    </message>
+    <message>
+        <source>remove tag</source>
+        <translation>Schlagwort entfernen</translation>
+    </message>
+    <message>
+        <source>auto-create tags</source>
+        <translation>Schlagwörter automatisch anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>TagLabel</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>The tag &lt;b&gt;%1&lt;/b&gt; is set on all selected files.</source>
+        <translation>Das Schlagwort &lt;b&gt;%1&lt;/b&gt; ist bei allen ausgewählten Dateien gesetzt.</translation>
+    </message>
+    <message>
+        <source>The tag &lt;b&gt;%1&lt;/b&gt; is set on some of the selected files.</source>
+        <translation>Das Schlagwort &lt;b&gt;%1&lt;/b&gt; ist bei einigen der ausgewählten Dateien gesetzt.</translation>
+    </message>
+    <message>
+        <source>Remove tag &lt;b&gt;%1&lt;/b&gt; from all selected files</source>
+        <translation>Schlagwort &lt;b&gt;%1&lt;/b&gt; von allen ausgewählten Dateien entfernen</translation>
+    </message>
+    <message>
+        <source>Remove tag %1</source>
+        <translation>Schlagwort %1 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>TagListWidget</name>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>- show all files -</source>
+        <translation>- alle Dateien zeigen -</translation>
+    </message>
+    <message>
+        <source>&lt;enter tag name&gt;</source>
+        <translation>&lt;Schlagwort eingeben&gt;</translation>
+    </message>
+    <message>
+        <source>Remove &apos;%1&apos;</source>
+        <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>Rename &apos;%1&apos;</source>
+        <translation>„%1“ umbenennen</translation>
+    </message>
+</context>
+<context>
+    <name>TagWidget</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>New tag</source>
+        <translation>Neues Schlagwort</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Select an existing tag from the drop down list or enter a new tag. The tag is added to all selected files.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Wählen Sie ein vorhandenes Schlagwort aus der Liste oder geben Sie ein neues ein. Es wird allen ausgewählten Dateien hinzugefügt.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Add tag to all selected files.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Schlagwort allen ausgewählten Dateien hinzufügen.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>add tag &apos;%1&apos;</source>
+        <translation>Schlagwort „%1“ hinzufügen</translation>
+    </message>
+    <message>
+        <source>remove tag &apos;%1&apos;</source>
+        <translation>Schlagwort „%1“ entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>TagsBox</name>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>Add tag</source>
+        <translation>Schlagwort hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove tag</source>
+        <translation>Schlagwort entfernen</translation>
+    </message>
+    <message>
+        <source>Rename tag</source>
+        <translation>Schlagwort umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove all unused tags</source>
+        <translation>Alle unbenutzten Schlagwörter entfernen</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>rename tag</source>
+        <translation>Schlagwort umbenennen</translation>
+    </message>
+    <message numerus="yes">
+        <source>This tag is attached to %n files</source>
+        <translation>
+            <numerusform>Dieses Schlagwort ist %n Datei zugeordnet</numerusform>
+            <numerusform>Dieses Schlagwort ist %n Dateien zugeordnet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleting the tag will also remove it from these files. Continue?</source>
+        <translation>Beim Löschen wird das Schlagwort auch von diesen Dateien entfernt. Fortfahren?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n unused tags?</source>
+        <translation>
+            <numerusform>%n unbenutztes Schlagwort löschen?</numerusform>
+            <numerusform>%n unbenutzte Schlagwörter löschen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Empty tag name not allowed!</source>
+        <translation>Der Name des Schlagworts darf nicht leer sein!</translation>
+    </message>
+    <message>
+        <source>Tag with this name already exists!</source>
+        <translation>Es gibt bereits ein Schlagwort mit diesem Namen!</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,41 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>CatalogueReport</name>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n design</numerusform>
+            <numerusform>%n designs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesBox</name>
+    <message numerus="yes">
+        <source>%n files selected</source>
+        <translation>
+            <numerusform>%n file selected</numerusform>
+            <numerusform>%n files selected</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TagsBox</name>
+    <message numerus="yes">
+        <source>This tag is attached to %n files</source>
+        <translation>
+            <numerusform>This tag is attached to %n file</numerusform>
+            <numerusform>This tag is attached to %n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n unused tags?</source>
+        <translation>
+            <numerusform>Delete %n unused tag?</numerusform>
+            <numerusform>Delete %n unused tags?</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

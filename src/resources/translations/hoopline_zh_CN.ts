@@ -1,0 +1,597 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CatalogueReport</name>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>颜色数</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n 个花样</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ColorsBox</name>
+    <message>
+        <source>Colors</source>
+        <translation>线色</translation>
+    </message>
+    <message>
+        <source>Color name</source>
+        <translation>颜色名称</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>色卡</translation>
+    </message>
+    <message>
+        <source>undefined</source>
+        <translation>未定义</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DesignFile</name>
+    <message>
+        <source>Not a regular file: %1</source>
+        <translation>不是普通文件：%1</translation>
+    </message>
+    <message>
+        <source>File too large: %1</source>
+        <translation>文件过大：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DesignReport</name>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>颜色数</translation>
+    </message>
+    <message>
+        <source>MD5</source>
+        <translation>MD5</translation>
+    </message>
+    <message>
+        <source>Thread %1</source>
+        <translation>绣线 %1</translation>
+    </message>
+</context>
+<context>
+    <name>DirectoriesBox</name>
+    <message>
+        <source>Folders</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Drag &amp; drop&lt;br/&gt;the folder&lt;br/&gt;containing your&lt;br/&gt;embroidery files&lt;br/&gt;here.&lt;/center&gt;</source>
+        <translation>&lt;center&gt;将存放&lt;br/&gt;绣花文件的&lt;br/&gt;文件夹&lt;br/&gt;拖放到此处。&lt;/center&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>DirectoryModel</name>
+    <message>
+        <source>Directories</source>
+        <translation>文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>DirectoryScanner</name>
+    <message>
+        <source>Scanning directory &apos;%1&apos;</source>
+        <translation>正在扫描文件夹“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>FileTools</name>
+    <message>
+        <source>Failed to load %1: %2</source>
+        <translation>无法载入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>any</source>
+        <translation>不限</translation>
+    </message>
+    <message>
+        <source>Max. size (%1):</source>
+        <translation>最大尺寸（%1）：</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>毫米</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBarUI</name>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>File type:</source>
+        <translation>文件类型：</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>文件类型</translation>
+    </message>
+    <message>
+        <source>Max. size (%1):</source>
+        <translation>最大尺寸（%1）：</translation>
+    </message>
+    <message>
+        <source>Maximum width</source>
+        <translation>最大宽度</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Maximum height</source>
+        <translation>最大高度</translation>
+    </message>
+    <message>
+        <source>Search text:</source>
+        <translation>搜索文字：</translation>
+    </message>
+    <message>
+        <source>Search text</source>
+        <translation>搜索文字</translation>
+    </message>
+    <message>
+        <source>Clear the search text</source>
+        <translation>清除搜索文字</translation>
+    </message>
+    <message>
+        <source>Show favorites only</source>
+        <translation>仅显示收藏</translation>
+    </message>
+    <message>
+        <source>Apply the filter again</source>
+        <translation>重新应用筛选</translation>
+    </message>
+</context>
+<context>
+    <name>GridGraphicsView</name>
+    <message>
+        <source>Designs</source>
+        <translation>花样</translation>
+    </message>
+</context>
+<context>
+    <name>InspectCommand</name>
+    <message>
+        <source>Reads designs and tells about them.</source>
+        <translation>读取花样并显示其信息。</translation>
+    </message>
+    <message>
+        <source>Print one JSON object per file, a line each.</source>
+        <translation>每个文件输出一个 JSON 对象，每个占一行。</translation>
+    </message>
+    <message>
+        <source>With --json, list every point.</source>
+        <translation>与 --json 一起使用，列出每个点。</translation>
+    </message>
+    <message>
+        <source>Write the preview of the one file as PNG.</source>
+        <translation>将该文件的预览写为 PNG。</translation>
+    </message>
+    <message>
+        <source>Longer side of the preview in pixels.</source>
+        <translation>预览较长边的像素数。</translation>
+    </message>
+    <message>
+        <source>No file given.</source>
+        <translation>未指定文件。</translation>
+    </message>
+    <message>
+        <source>The size must be a number from 1 to %1.</source>
+        <translation>尺寸必须是 1 到 %1 之间的数字。</translation>
+    </message>
+    <message>
+        <source>Only one file can be rendered at a time.</source>
+        <translation>一次只能渲染一个文件。</translation>
+    </message>
+    <message>
+        <source>%1: The design has no extent to show.</source>
+        <translation>%1：该花样没有可显示的范围。</translation>
+    </message>
+    <message>
+        <source>Failed to write %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ListCommand</name>
+    <message>
+        <source>Prints the designs of the catalogue, narrowed as in the organiser.</source>
+        <translation>输出目录中的花样，筛选方式与程序相同。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>意外的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>Choose one of --json and --csv.</source>
+        <translation>请在 --json 和 --csv 中选择一个。</translation>
+    </message>
+    <message>
+        <source>The folder must not be empty.</source>
+        <translation>文件夹不能为空。</translation>
+    </message>
+    <message>
+        <source>The size must look like 100x130.</source>
+        <translation>尺寸的格式应为 100x130。</translation>
+    </message>
+    <message>
+        <source>Only designs below this folder.</source>
+        <translation>仅此文件夹下的花样。</translation>
+    </message>
+    <message>
+        <source>Only designs with this tag.</source>
+        <translation>仅带此标签的花样。</translation>
+    </message>
+    <message>
+        <source>Only designs of this format, for instance dst.</source>
+        <translation>仅此格式的花样，例如 dst。</translation>
+    </message>
+    <message>
+        <source>Only designs that fit into this many millimetres.</source>
+        <translation>仅不超过此毫米尺寸的花样。</translation>
+    </message>
+    <message>
+        <source>Only designs whose file name or notes hold the text.</source>
+        <translation>仅文件名或备注包含该文字的花样。</translation>
+    </message>
+    <message>
+        <source>Only favourites.</source>
+        <translation>仅收藏的花样。</translation>
+    </message>
+    <message>
+        <source>Print one JSON object per design, a line each.</source>
+        <translation>每个花样输出一个 JSON 对象，每个占一行。</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>输出逗号分隔的值。</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectController</name>
+    <message>
+        <source>add directory</source>
+        <translation>添加文件夹</translation>
+    </message>
+    <message>
+        <source>remove directory</source>
+        <translation>移除文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>PropertiesBox</name>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Design size</source>
+        <translation>花样尺寸</translation>
+    </message>
+    <message>
+        <source>Number of stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Number of colors</source>
+        <translation>颜色数</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files selected</source>
+        <translation>
+            <numerusform>已选择 %n 个文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no file selected</source>
+        <translation>未选择文件</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyEdit</name>
+    <message>
+        <source>multiple values</source>
+        <translation>多个值</translation>
+    </message>
+    <message>
+        <source>property editor: type conflict in multi-selection&apos;</source>
+        <translation>属性编辑器：多选中的类型冲突</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; change</source>
+        <translation>更改“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>XML parser error: %1 (line %2)</source>
+        <translation>XML 解析错误：%1（第 %2 行）</translation>
+    </message>
+    <message>
+        <source>Unknown list element &apos;%1&apos;</source>
+        <translation>未知的列表元素“%1”</translation>
+    </message>
+    <message>
+        <source>Failed to open file &apos;%1&apos;</source>
+        <translation>无法打开文件“%1”</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a Hoopline Organizer project file</source>
+        <translation>“%1”不是 Hoopline Organizer 项目文件</translation>
+    </message>
+</context>
+<context>
+    <name>ScanCommand</name>
+    <message>
+        <source>Adds the folders to the catalogue and brings it into line with the disk. Without a folder it rescans the folders that are there.</source>
+        <translation>将文件夹加入目录，并使目录与磁盘保持一致。不指定文件夹时，重新扫描已有的文件夹。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a folder</source>
+        <translation>“%1”不是文件夹</translation>
+    </message>
+    <message>
+        <source>Another scan is running.</source>
+        <translation>另一个扫描正在进行。</translation>
+    </message>
+</context>
+<context>
+    <name>ScanController</name>
+    <message>
+        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
+        <translation>Hoopline Organizer 正在运行。请先关闭它，或在其窗口中重新扫描。</translation>
+    </message>
+    <message>
+        <source>Hoopline Organizer was started during the scan. Nothing was saved.</source>
+        <translation>扫描期间启动了 Hoopline Organizer。未保存任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>TagController</name>
+    <message>
+        <source>rename tag</source>
+        <translation>重命名标签</translation>
+    </message>
+    <message>
+        <source>remove tag</source>
+        <translation>移除标签</translation>
+    </message>
+    <message>
+        <source>auto-create tags</source>
+        <translation>自动创建标签</translation>
+    </message>
+</context>
+<context>
+    <name>TagLabel</name>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>The tag &lt;b&gt;%1&lt;/b&gt; is set on all selected files.</source>
+        <translation>所有选中的文件都带有标签 &lt;b&gt;%1&lt;/b&gt;。</translation>
+    </message>
+    <message>
+        <source>The tag &lt;b&gt;%1&lt;/b&gt; is set on some of the selected files.</source>
+        <translation>部分选中的文件带有标签 &lt;b&gt;%1&lt;/b&gt;。</translation>
+    </message>
+    <message>
+        <source>Remove tag &lt;b&gt;%1&lt;/b&gt; from all selected files</source>
+        <translation>从所有选中的文件移除标签 &lt;b&gt;%1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Remove tag %1</source>
+        <translation>移除标签 %1</translation>
+    </message>
+</context>
+<context>
+    <name>TagListWidget</name>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>- show all files -</source>
+        <translation>- 显示所有文件 -</translation>
+    </message>
+    <message>
+        <source>&lt;enter tag name&gt;</source>
+        <translation>&lt;输入标签名&gt;</translation>
+    </message>
+    <message>
+        <source>Remove &apos;%1&apos;</source>
+        <translation>移除“%1”</translation>
+    </message>
+    <message>
+        <source>Rename &apos;%1&apos;</source>
+        <translation>重命名“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>TagWidget</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>New tag</source>
+        <translation>新标签</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Select an existing tag from the drop down list or enter a new tag. The tag is added to all selected files.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;从下拉列表中选择已有标签，或输入新标签。该标签将添加到所有选中的文件。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Add tag to all selected files.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;为所有选中的文件添加标签。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>add tag &apos;%1&apos;</source>
+        <translation>添加标签“%1”</translation>
+    </message>
+    <message>
+        <source>remove tag &apos;%1&apos;</source>
+        <translation>移除标签“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>TagsBox</name>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Add tag</source>
+        <translation>添加标签</translation>
+    </message>
+    <message>
+        <source>Remove tag</source>
+        <translation>移除标签</translation>
+    </message>
+    <message>
+        <source>Rename tag</source>
+        <translation>重命名标签</translation>
+    </message>
+    <message>
+        <source>Remove all unused tags</source>
+        <translation>移除所有未使用的标签</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>显示全部</translation>
+    </message>
+    <message>
+        <source>rename tag</source>
+        <translation>重命名标签</translation>
+    </message>
+    <message numerus="yes">
+        <source>This tag is attached to %n files</source>
+        <translation>
+            <numerusform>此标签已用于 %n 个文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleting the tag will also remove it from these files. Continue?</source>
+        <translation>删除该标签会同时将其从这些文件中移除。是否继续？</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n unused tags?</source>
+        <translation>
+            <numerusform>删除 %n 个未使用的标签？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Empty tag name not allowed!</source>
+        <translation>标签名不能为空！</translation>
+    </message>
+    <message>
+        <source>Tag with this name already exists!</source>
+        <translation>已存在同名标签！</translation>
+    </message>
+</context>
+</TS>
