@@ -3,8 +3,10 @@
 #include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
 
+#include <memory>
 #include <QApplication>
 #include <QPainter>
+#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -27,6 +29,7 @@ private slots:
     void init();
     void textContrast_data();
     void textContrast();
+    void ownPaletteWhereTheDesktopHasNone();
     void tagLabelContrast();
     void iconFollowsPalette();
     void iconStates();
@@ -96,6 +99,20 @@ void tst_style::textContrast()
                                                   .arg(ratio)));
         }
     }
+}
+
+void tst_style::ownPaletteWhereTheDesktopHasNone()
+{
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette = fusion->standardPalette();
+    QApplication::style()->polish(palette);
+    QCOMPARE(palette.color(QPalette::Highlight),
+             TnwMacStyle::lightPalette().color(QPalette::Highlight));
+
+    QPalette desktops = fusion->standardPalette();
+    desktops.setColor(QPalette::Highlight, Qt::darkMagenta);
+    QApplication::style()->polish(desktops);
+    QCOMPARE(desktops.color(QPalette::Highlight), QColor(Qt::darkMagenta));
 }
 
 void tst_style::tagLabelContrast()

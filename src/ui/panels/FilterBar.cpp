@@ -190,8 +190,10 @@ void FilterBar::setTwoRows(bool twoRows)
     if (twoRows) {
         m_ui->horizontalLayout_5->removeItem(size);
         m_ui->rows->addLayout(size);
+        m_ui->rows->setAlignment(size, Qt::AlignLeft);
     } else {
         m_ui->rows->removeItem(size);
+        size->setAlignment(Qt::Alignment());
         m_ui->horizontalLayout_5->insertLayout(1, size);
     }
     m_ui->label_4->setVisible(!twoRows);

@@ -21,7 +21,10 @@ namespace {
 
 constexpr int GroupSpacing = 3;
 constexpr int GroupTopMargin = 15;
-constexpr int PanelMargin = 10;
+constexpr int PanelMargin = 8;
+constexpr int CaptionSpacing = 6;
+constexpr int RowSpacing = 2;
+constexpr int ShareOfSideBar = 3;
 constexpr int ScrollDelayMs = 100;
 
 QLabel *createCaption(const QString &text)
@@ -61,6 +64,9 @@ PropertiesBox::PropertiesBox(QWidget *parent, const QSharedPointer<Project> &pro
 
 void PropertiesBox::initPanel()
 {
+    QSizePolicy policy = sizePolicy();
+    policy.setVerticalStretch(ShareOfSideBar);
+    setSizePolicy(policy);
     m_scrollArea->setObjectName(QStringLiteral("PropertiesBoxScrollArea"));
     m_scrollWidget->setObjectName(QStringLiteral("PropertiesBoxScrollWidget"));
     m_scrollArea->setWidgetResizable(true);
@@ -71,6 +77,8 @@ void PropertiesBox::initPanel()
     m_mainLayout->setContentsMargins(PanelMargin, GroupSpacing, PanelMargin, PanelMargin);
     m_mainLayout->setSpacing(0);
     m_mainLayout->addLayout(m_grid);
+    m_grid->setHorizontalSpacing(CaptionSpacing);
+    m_grid->setVerticalSpacing(RowSpacing);
     m_grid->setColumnStretch(0, 0);
     m_grid->setColumnStretch(1, 100);
     contentLayout()->addWidget(m_scrollArea);

@@ -11,6 +11,7 @@
 
 namespace {
 
+constexpr int IconExtent = 16;
 constexpr int FadeIntervalMs = 50;
 constexpr qreal FadeStep = 0.05;
 constexpr int LongestMenuText = 40;
@@ -46,6 +47,7 @@ TagListWidget::TagListWidget(QWidget *parent)
     setModel(m_model);
     setItemDelegate(new TagDelegate(this));
     setEditTriggers(NoEditTriggers);
+    setIconSize(QSize(IconExtent, IconExtent));
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);

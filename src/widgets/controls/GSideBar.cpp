@@ -31,7 +31,8 @@ GSideBar::GSideBar(QWidget *parent) : QScrollArea(parent), m_splitter(new QSplit
 void GSideBar::addBox(GSideBarBox *box)
 {
     m_splitter->addWidget(box);
-    m_splitter->setStretchFactor(m_splitter->count() - 1, 1);
+    if (box->sizePolicy().verticalStretch() == 0)
+        m_splitter->setStretchFactor(m_splitter->count() - 1, 1);
 }
 
 void GSideBar::saveWidgetState(GSettings &settings) const

@@ -19,7 +19,10 @@ class GSideBar : public QScrollArea
 public:
     explicit GSideBar(QWidget *parent = nullptr);
 
-    /** Appends \a box below the others and takes ownership; the boxes share the height. */
+    /**
+     * Appends \a box below the others and takes ownership. The boxes share the height by the
+     * vertical stretch of their size policies, with 1 for those that have none.
+     */
     void addBox(GSideBarBox *box);
 
     /**

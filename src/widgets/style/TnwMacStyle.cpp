@@ -11,6 +11,7 @@ namespace {
 
 constexpr qreal LeastContrast = 4.5;
 constexpr qreal Radius = 4.0;
+constexpr int RowPadding = 8;
 
 /** The names of colours as a palette needs them, apart from those that it can derive. */
 struct Shades
@@ -100,6 +101,17 @@ QPalette paletteOf(const Shades &shades)
     return palette;
 }
 
+/** Where the desktop has no palette, Qt hands out the one of the base style in its stead. */
+bool haveSameColors(const QPalette &first, const QPalette &second)
+{
+    for (QPalette::ColorRole role : {QPalette::Window, QPalette::WindowText, QPalette::Base,
+                                     QPalette::Button, QPalette::Highlight}) {
+        if (first.color(QPalette::Active, role) != second.color(QPalette::Active, role))
+            return false;
+    }
+    return true;
+}
+
 void drawRoundedBox(QPainter *painter, const QRect &rect, const QBrush &fill, const QPen &pen)
 {
     painter->save();
@@ -148,6 +160,16 @@ void drawPushButtonPanel(const QStyleOptionButton *option, QPainter *painter)
     else if (!enabled)
         pen.setColor(palette.color(QPalette::Mid));
     drawRoundedBox(painter, option->rect, fill, pen);
+}
+
+/** The outline of a field that is written or chosen in. */
+void drawFieldFrame(const QStyleOption *option, QPainter *painter)
+{
+    const bool enabled = option->state & QStyle::State_Enabled;
+    QPen pen(option->palette.color(enabled ? QPalette::Dark : QPalette::Mid), 1.0);
+    if (enabled && (option->state & QStyle::State_HasFocus))
+        pen = focusPen();
+    drawRoundedBox(painter, option->rect, Qt::NoBrush, pen);
 }
 
 void drawFocusFrame(const QStyleOption *option, QPainter *painter)
@@ -212,6 +234,8 @@ QPalette TnwMacStyle::standardPalette() const
 
 void TnwMacStyle::polish(QPalette &palette)
 {
+    if (haveSameColors(palette, baseStyle()->standardPalette()))
+        palette = lightPalette();
     makeReadable(palette);
 }
 
@@ -233,6 +257,10 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
         break;
     case PE_FrameDefaultButton:
         return;
+    case PE_Frame:
+    case PE_FrameLineEdit:
+        drawFieldFrame(option, painter);
+        return;
     default:
         break;
     }
@@ -250,6 +278,15 @@ void TnwMacStyle::drawControl(ControlElement element, const QStyleOption *option
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+QSize TnwMacStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
+                                    const QSize &size, const QWidget *widget) const
+{
+    QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_ItemViewItem)
+        result.setHeight(qMax(result.height(), option->fontMetrics.height() + RowPadding));
+    return result;
 }
 
 int TnwMacStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
