@@ -1,5 +1,6 @@
 #include "app/application/SingleApplication.h"
 #include "app/base/DependencyRegistry.h"
+#include "app/base/ExitDeadline.h"
 #include "app/base/GLogServer.h"
 #include "app/base/GSettings.h"
 #include "app/base/GTranslationLoader.h"
@@ -14,6 +15,8 @@
 namespace {
 
 constexpr int InstanceTimeout = 1000; // milliseconds
+// As long as the metrics may wait; all that is worth keeping is stored by then.
+constexpr std::chrono::milliseconds ExitLimit(2000);
 constexpr int AboutBannerWidth = 300; // pixels
 constexpr int LogEverything = 0x7fffffff;
 
@@ -64,7 +67,9 @@ int runApplication(int argc, char **argv)
     Metrics::createInstance(QStringLiteral("40817263"));
     if (arguments.contains(QStringLiteral("--do-not-track")))
         Metrics::instance()->setDoNotTrack(true);
-    return app.exec();
+    const int result = app.exec();
+    ExitDeadline::start(ExitLimit, result);
+    return result;
 }
 
 } // namespace
