@@ -66,7 +66,10 @@ void MainWindow::installApplicationMenuItems(QMenu *fileMenu, QMenu *helpMenu)
 #ifndef Q_OS_MACOS
     HooplineApplication *application = HooplineApplication::instance();
     auto *quitAction = new GAction(tr("Quit"), this);
+    // Not every desktop has a standard key for it.
     quitAction->setShortcuts(QKeySequence::Quit);
+    if (quitAction->shortcut().isEmpty())
+        quitAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Q));
     connect(quitAction, &QAction::triggered, application, &GApplication::closeAllWindowsAndQuit);
     fileMenu->addAction(application->preferencesAction());
     fileMenu->addAction(quitAction);

@@ -25,6 +25,7 @@ int main(int argc, char **argv)
     SingleApplication app(argc, argv, secondary,
                           Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000);
     GSettings().setAutoUpdatesEnabled(false);
+    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
     if (app.isSecondary()) {
         say(app.sendMessage("hello", 1000) ? "sent" : "not sent");
         return 0;

@@ -320,6 +320,7 @@ int main(int argc, char **argv)
 {
     HooplineApplication application(argc, argv);
     GSettings().setAutoUpdatesEnabled(false);
+    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
     tst_application test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -108,6 +108,7 @@ int main(int argc, char **argv)
     HooplineApplication application(argc, argv);
     GSettings().flushSettings({});
     GSettings().setAutoUpdatesEnabled(false);
+    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
     Metrics::setEndpoint(QUrl(QStringLiteral("http://127.0.0.1:9")));
     Metrics::createInstance(QStringLiteral("40817263"));
     tst_preferences test;

@@ -1,0 +1,331 @@
+#include "app/application/HooplineApplication.h"
+#include "app/base/Error.h"
+#include "app/base/GlobalSettings.h"
+#include "app/frame/GAction.h"
+#include "preview/grid/PreviewBrowser.h"
+#include "ui/LeftSidebar.h"
+#include "ui/MainWindow.h"
+#include "ui/panels/DirectoriesBox.h"
+#include "ui/ProgressDialog.h"
+#include "ui/RightSidebar.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTreeView>
+#include <QtTest>
+
+namespace {
+
+/** Presses a button of the next message box. */
+class BoxAnswer : public QObject
+{
+public:
+    explicit BoxAnswer(QMessageBox::StandardButton button)
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this, button] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                text = box->text();
+                box->button(button)->click();
+            }
+        });
+        m_timer.start(10);
+    }
+
+    QString text;
+
+private:
+    QTimer m_timer;
+};
+
+QStringList texts(const QList<QAction *> &actions)
+{
+    QStringList list;
+    for (const QAction *action : actions)
+        list.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+    return list;
+}
+
+} // namespace
+
+class tst_mainwindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void startsEmpty();
+    void offersItsCommands();
+    void addsDroppedFoldersOnly();
+    void removesFolders();
+    void disablesRemovalInSubfolders();
+    void keepsCatalogueAndLayout();
+    void selectsWhatTheFilterShows();
+    void transferAsksForASelection();
+    void closesByKeyAndComesBack();
+    void staysUsableAfterAFailedScan();
+    void tellsWhenTheCatalogueCannotBeWritten();
+
+private:
+    void open();
+    QString createFolder(const QString &name, const QStringList &designs);
+    QAction *action(const QString &text) const;
+    QGraphicsScene *scene() const;
+    QString catalogue() const;
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+    QPointer<MainWindow> m_window;
+};
+
+void tst_mainwindow::init()
+{
+    m_directory = std::make_unique<QTemporaryDir>();
+    GSettings().flushSettings({});
+    GSettings().setAutoUpdatesEnabled(false);
+    GlobalSettings().setApplicationDataPath(m_directory->filePath(QStringLiteral("data")));
+    QDir().mkpath(m_directory->filePath(QStringLiteral("data")));
+}
+
+void tst_mainwindow::cleanup()
+{
+    delete m_window;
+}
+
+void tst_mainwindow::open()
+{
+    m_window = new MainWindow;
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+}
+
+QString tst_mainwindow::createFolder(const QString &name, const QStringList &designs)
+{
+    const QString path = m_directory->filePath(name);
+    QDir().mkpath(path);
+    // Any stitches will do: a header, two stitches that differ by file, an end.
+    for (const QString &design : designs) {
+        QFile file(path + QLatin1Char('/') + design);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        const QByteArray label = ("LA:" + design.leftJustified(16).left(16) + "\r").toLatin1();
+        file.write(label.leftJustified(512, ' '));
+        file.write(QByteArray::fromHex("810003"
+                                       "400003"
+                                       "818003"
+                                       "0000f3"));
+    }
+    return path;
+}
+
+QAction *tst_mainwindow::action(const QString &text) const
+{
+    const auto actions = m_window->findChildren<GAction *>();
+    for (GAction *candidate : actions) {
+        if (candidate->text() == text)
+            return candidate;
+    }
+    qFatal("no action %s", qPrintable(text));
+}
+
+QGraphicsScene *tst_mainwindow::scene() const
+{
+    return m_window->findChild<PreviewBrowser *>()->findChild<QGraphicsView *>()->scene();
+}
+
+QString tst_mainwindow::catalogue() const
+{
+    QFile file(m_directory->filePath(QStringLiteral("data/hoopline-organizer.xml")));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void tst_mainwindow::startsEmpty()
+{
+    open();
+    // The side bars are as wide as a text, in whatever font there is.
+    QCOMPARE(m_window->size(), QSize(1024, 700).expandedTo(m_window->minimumSizeHint()));
+    QVERIFY(!action(QStringLiteral("&Remove folder"))->isEnabled());
+    QVERIFY(!catalogue().isEmpty());
+    QVERIFY(!m_window->isModified());
+    QVERIFY(!m_window->loadFile(QStringLiteral("x")));
+    action(QStringLiteral("&Zoom in"))->trigger();
+    action(QStringLiteral("&Zoom out"))->trigger();
+    action(QStringLiteral("Select all"))->trigger();
+}
+
+void tst_mainwindow::offersItsCommands()
+{
+    open();
+    QStringList menus;
+    const auto menuActions = m_window->menuBar()->actions();
+    for (const QAction *menu : menuActions)
+        menus.append(texts(menu->menu()->actions()).join(QLatin1Char('|')));
+    QCOMPARE(
+        menus,
+        (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|Preferences...|Quit"),
+                     QStringLiteral("Select all"),
+                     QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
+                                    "&About Hoopline Organizer")}));
+    QCOMPARE(action(QStringLiteral("Quit"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+    QCOMPARE(m_window->findChild<LeftSidebar *>()->objectName(), QStringLiteral("leftSidebar"));
+    QCOMPARE(m_window->findChild<RightSidebar *>()->objectName(), QStringLiteral("RightSideBar"));
+}
+
+void tst_mainwindow::addsDroppedFoldersOnly()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    const QString leaves = createFolder(QStringLiteral("leaves"), {QStringLiteral("leaf.dst")});
+    open();
+    m_window->filesDropped({roses + QLatin1Char('/'), leaves, roses + QStringLiteral("/rose.dst"),
+                            QStringLiteral("/no/such/folder")});
+    QVERIFY(action(QStringLiteral("&Remove folder"))->isEnabled());
+    QCOMPARE(GlobalSettings().lastImportPath(), roses);
+    QCOMPARE(scene()->selectedItems().size(), 0);
+    QVERIFY(catalogue().contains(leaves));
+    QVERIFY(catalogue().contains(roses));
+    QVERIFY(!catalogue().contains(roses + QStringLiteral("/</")));
+    QVERIFY(!m_window->findChild<ProgressDialog *>()->isVisible());
+
+    const QString before = catalogue();
+    m_window->filesDropped({roses + QStringLiteral("/rose.dst")});
+    QCOMPARE(catalogue(), before);
+}
+
+void tst_mainwindow::removesFolders()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    open();
+    m_window->filesDropped({roses});
+    {
+        BoxAnswer no(QMessageBox::No);
+        action(QStringLiteral("&Remove folder"))->trigger();
+        QCOMPARE(no.text, QStringLiteral("Remove selected folder from list?"));
+    }
+    QVERIFY(catalogue().contains(roses));
+    BoxAnswer yes(QMessageBox::Yes);
+    action(QStringLiteral("&Remove folder"))->trigger();
+    QVERIFY(!catalogue().contains(roses));
+    QVERIFY(!action(QStringLiteral("&Remove folder"))->isEnabled());
+    QVERIFY(QFile::exists(roses + QStringLiteral("/rose.dst")));
+}
+
+void tst_mainwindow::disablesRemovalInSubfolders()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {});
+    const QString wild =
+        createFolder(QStringLiteral("roses/wild"), {QStringLiteral("wild rose.dst")});
+    open();
+    m_window->filesDropped({roses});
+    auto *tree = m_window->findChild<DirectoriesBox *>()->findChild<QTreeView *>();
+    const QModelIndex folder = tree->model()->index(0, 0);
+    tree->setCurrentIndex(tree->model()->index(0, 0, folder));
+    QVERIFY(!action(QStringLiteral("&Remove folder"))->isEnabled());
+    tree->setCurrentIndex(folder);
+    QVERIFY(action(QStringLiteral("&Remove folder"))->isEnabled());
+}
+
+void tst_mainwindow::keepsCatalogueAndLayout()
+{
+    const QString roses = createFolder(
+        QStringLiteral("roses"), {QStringLiteral("rose.dst"), QStringLiteral("red rose.dst")});
+    open();
+    m_window->filesDropped({roses});
+    m_window->resize(1100, 720);
+    const QString stored = catalogue();
+    QVERIFY(m_window->closeWindow());
+    QTRY_VERIFY(!m_window);
+    QCOMPARE(catalogue(), stored);
+
+    open();
+    QCOMPARE(m_window->size(), QSize(1100, 720));
+    QVERIFY(action(QStringLiteral("&Remove folder"))->isEnabled());
+    action(QStringLiteral("Select all"))->trigger();
+    QCOMPARE(scene()->selectedItems().size(), 2);
+    QVERIFY(GSettings().contains(QStringLiteral("windowSettings/mainWindowSplitter")));
+    QVERIFY(GSettings().contains(QStringLiteral("windowSettings/leftSidebarSplitter")));
+    QVERIFY(GSettings().contains(QStringLiteral("windowSettings/RightSideBarSplitter")));
+}
+
+void tst_mainwindow::selectsWhatTheFilterShows()
+{
+    const QString roses = createFolder(
+        QStringLiteral("roses"),
+        {QStringLiteral("rose.dst"), QStringLiteral("leaf.dst"), QStringLiteral("primrose.dst")});
+    open();
+    m_window->filesDropped({roses});
+    auto *search = m_window->findChild<QLineEdit *>(QStringLiteral("searchTextLineEdit"));
+    QTest::keyClicks(search, QStringLiteral("rose"));
+    action(QStringLiteral("Select all"))->trigger();
+    QCOMPARE(scene()->selectedItems().size(), 2);
+}
+
+void tst_mainwindow::transferAsksForASelection()
+{
+    open();
+    BoxAnswer answer(QMessageBox::Ok);
+    action(QStringLiteral("Transfer to machine"))->trigger();
+    QCOMPARE(answer.text, QStringLiteral("No embroidery files selected!"));
+}
+
+void tst_mainwindow::closesByKeyAndComesBack()
+{
+    open();
+    QTest::keySequence(m_window, QKeySequence(QKeySequence::Close));
+    QTRY_VERIFY(!m_window);
+    HooplineApplication::setWindowFactory([this] { return m_window = new MainWindow; });
+    HooplineApplication::instance()->onClickOnDock();
+    QVERIFY(m_window && m_window->isVisible());
+}
+
+// The dialog stays up when a scan fails; "Cancel" is then the way back to the window.
+void tst_mainwindow::staysUsableAfterAFailedScan()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    open();
+    // The catalogue cannot be written where a folder has its name.
+    const QString file = m_directory->filePath(QStringLiteral("data/hoopline-organizer.xml"));
+    QVERIFY(QFile::remove(file) && QDir().mkpath(file + QStringLiteral("/x")));
+    BoxAnswer answer(QMessageBox::Ok);
+    QTimer::singleShot(0, m_window, [&] { m_window->filesDropped({roses}); });
+    QTRY_VERIFY(!answer.text.isEmpty());
+    auto *progress = m_window->findChild<ProgressDialog *>();
+    QTRY_COMPARE(QApplication::activeModalWidget(), progress);
+    QTest::keyClick(progress, Qt::Key_Escape);
+    QVERIFY(!progress->isVisible());
+    QVERIFY(QDir(file).removeRecursively());
+    action(QStringLiteral("&Rescan"))->trigger();
+    QVERIFY(catalogue().contains(roses));
+}
+
+void tst_mainwindow::tellsWhenTheCatalogueCannotBeWritten()
+{
+    const QString file = m_directory->filePath(QStringLiteral("data/hoopline-organizer.xml"));
+    QVERIFY(QDir().mkpath(file + QStringLiteral("/x")));
+    QVERIFY_EXCEPTION_THROWN(MainWindow window, Error);
+    QCOMPARE(HooplineApplication::instance()->mainWindowCount(), 0);
+}
+
+int main(int argc, char **argv)
+{
+    Q_INIT_RESOURCE(tnw_resources);
+    Q_INIT_RESOURCE(hoopline_resources);
+    HooplineApplication application(argc, argv);
+    // The window of the start is one of the program's own; it is not what is tested.
+    QPointer<MainWindow> first;
+    HooplineApplication::setWindowFactory([&first] { return first = new MainWindow; });
+    GSettings().setAutoUpdatesEnabled(false);
+    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
+    QCoreApplication::processEvents();
+    delete first;
+    tst_mainwindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_mainwindow.moc"
