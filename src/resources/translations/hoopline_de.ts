@@ -125,6 +125,51 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n file(s) will be copied.</source>
+        <translation>
+            <numerusform>%n Datei wird kopiert.</numerusform>
+            <numerusform>%n Dateien werden kopiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No removable USB drive found</source>
+        <translation>Kein USB-Wechseldatenträger gefunden</translation>
+    </message>
+    <message>
+        <source>Failed to copy file %1</source>
+        <translation>Datei %1 konnte nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>Cannot copy file to %1</source>
+        <translation>Die Datei kann nicht nach %1 kopiert werden</translation>
+    </message>
+    <message>
+        <source>Copying file %1...</source>
+        <translation>%1 wird kopiert ...</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialogUI</name>
+    <message>
+        <source>Transfer embroidery files to machine</source>
+        <translation>Stickdateien auf die Maschine übertragen</translation>
+    </message>
+    <message>
+        <source>Select target:</source>
+        <translation>Ziel auswählen:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
     <name>FileTools</name>
     <message>
         <source>Failed to load %1: %2</source>
@@ -312,6 +357,132 @@
     <message>
         <source>Print comma-separated values.</source>
         <translation>Kommagetrennte Werte ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Loading ...</source>
+        <translation>Wird geladen ...</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Number of stitches: 99 mm x 99 mm</source>
+        <translation>Stichzahl: 99 mm x 99 mm</translation>
+    </message>
+    <message>
+        <source>Select folder to add</source>
+        <translation>Ordner zum Hinzufügen auswählen</translation>
+    </message>
+    <message>
+        <source>Remove selected folder from list?</source>
+        <translation>Ausgewählten Ordner aus der Liste entfernen?</translation>
+    </message>
+    <message>
+        <source>No embroidery files selected!</source>
+        <translation>Keine Stickdateien ausgewählt!</translation>
+    </message>
+    <message>
+        <source>Please select the files you want to transfer to your embroidery machine.</source>
+        <translation>Bitte wählen Sie die Dateien aus, die auf Ihre Stickmaschine übertragen werden sollen.</translation>
+    </message>
+    <message>
+        <source>&amp;Add folder...</source>
+        <translation>Ordner hin&amp;zufügen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove folder</source>
+        <translation>Ordner &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Transfer to machine</source>
+        <translation>Auf die Maschine übertragen</translation>
+    </message>
+    <message>
+        <source>&amp;Rescan</source>
+        <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>use imperial units (inch)</source>
+        <translation>Maße in Zoll</translation>
+    </message>
+    <message>
+        <source>Tags, notes and design previews are stored in this directory:</source>
+        <translation>Schlagwörter, Notizen und Vorschaubilder liegen in diesem Ordner:</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Öffnen ...</translation>
+    </message>
+    <message>
+        <source>Updates &amp;&amp; Privacy</source>
+        <translation>Aktualisierungen &amp;&amp; Datenschutz</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Hoopline Organizer updates&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Aktualisierungen von Hoopline Organizer&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates</source>
+        <translation>Automatisch nach Aktualisierungen suchen</translation>
+    </message>
+    <message>
+        <source>Include beta updates (always enabled for beta versions)</source>
+        <translation>Betaversionen einschließen (bei Betaversionen immer eingeschaltet)</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;&lt;b&gt;Please help us to improve Hoopline Organizer!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;We&apos;d like to improve Hoopline Organizer - making it a better tool for you. To do this we need some more information about how people are using our tools.&lt;/p&gt;&lt;p&gt;By enabling this option you agree to transmit the following data. As you see no private or personal data is transferred:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Number of CPU cores, memory, display size&lt;/li&gt;&lt;li&gt;Operating system (type, version)&lt;/li&gt;&lt;li&gt;Application: Version, timings&lt;/li&gt;&lt;li&gt;Random user indentifier (%1)&lt;/li&gt;&lt;li&gt;Days since application was installed&lt;/li&gt;&lt;li&gt;File information (format, num. stitches)&lt;/li&gt;&lt;li&gt;Do not track status&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Please check our &lt;a href=&quot;%2&quot;&gt;privacy policy&lt;/a&gt; for details.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Bitte helfen Sie uns, Hoopline Organizer zu verbessern!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Wir möchten Hoopline Organizer verbessern und für Sie nützlicher machen. Dazu müssen wir mehr darüber wissen, wie unsere Programme verwendet werden.&lt;/p&gt;&lt;p&gt;Wenn Sie diese Option einschalten, stimmen Sie der Übertragung der folgenden Daten zu. Wie Sie sehen, werden keine privaten oder persönlichen Daten übertragen:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Anzahl der Prozessorkerne, Arbeitsspeicher, Bildschirmgröße&lt;/li&gt;&lt;li&gt;Betriebssystem (Art, Version)&lt;/li&gt;&lt;li&gt;Anwendung: Version, Laufzeiten&lt;/li&gt;&lt;li&gt;Zufällige Benutzerkennung (%1)&lt;/li&gt;&lt;li&gt;Tage seit der Installation&lt;/li&gt;&lt;li&gt;Dateiangaben (Format, Stichzahl)&lt;/li&gt;&lt;li&gt;Einstellung zur Nachverfolgung&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Näheres finden Sie in unserer &lt;a href=&quot;%2&quot;&gt;Datenschutzerklärung&lt;/a&gt;.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Enable data collection</source>
+        <translation>Datenerfassung einschalten</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

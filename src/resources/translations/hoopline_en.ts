@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n file(s) will be copied.</source>
+        <translation>
+            <numerusform>%n file will be copied.</numerusform>
+            <numerusform>%n files will be copied.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PropertiesBox</name>
     <message numerus="yes">
         <source>%n files selected</source>

@@ -124,6 +124,50 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n file(s) will be copied.</source>
+        <translation>
+            <numerusform>将复制 %n 个文件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No removable USB drive found</source>
+        <translation>未找到可移动 USB 驱动器</translation>
+    </message>
+    <message>
+        <source>Failed to copy file %1</source>
+        <translation>无法复制文件 %1</translation>
+    </message>
+    <message>
+        <source>Cannot copy file to %1</source>
+        <translation>无法将文件复制到 %1</translation>
+    </message>
+    <message>
+        <source>Copying file %1...</source>
+        <translation>正在复制 %1…</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialogUI</name>
+    <message>
+        <source>Transfer embroidery files to machine</source>
+        <translation>将绣花文件传送到绣花机</translation>
+    </message>
+    <message>
+        <source>Select target:</source>
+        <translation>选择目标：</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+</context>
+<context>
     <name>FileTools</name>
     <message>
         <source>Failed to load %1: %2</source>
@@ -311,6 +355,132 @@
     <message>
         <source>Print comma-separated values.</source>
         <translation>输出逗号分隔的值。</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Loading ...</source>
+        <translation>正在载入…</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Number of stitches: 99 mm x 99 mm</source>
+        <translation>针数：99 毫米 x 99 毫米</translation>
+    </message>
+    <message>
+        <source>Select folder to add</source>
+        <translation>选择要添加的文件夹</translation>
+    </message>
+    <message>
+        <source>Remove selected folder from list?</source>
+        <translation>从列表中移除所选文件夹？</translation>
+    </message>
+    <message>
+        <source>No embroidery files selected!</source>
+        <translation>未选择绣花文件！</translation>
+    </message>
+    <message>
+        <source>Please select the files you want to transfer to your embroidery machine.</source>
+        <translation>请选择要传送到绣花机的文件。</translation>
+    </message>
+    <message>
+        <source>&amp;Add folder...</source>
+        <translation>添加文件夹(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove folder</source>
+        <translation>移除文件夹(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom in</source>
+        <translation>放大(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom out</source>
+        <translation>缩小(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Transfer to machine</source>
+        <translation>传送到绣花机</translation>
+    </message>
+    <message>
+        <source>&amp;Rescan</source>
+        <translation>重新扫描(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>use imperial units (inch)</source>
+        <translation>使用英制单位（英寸）</translation>
+    </message>
+    <message>
+        <source>Tags, notes and design previews are stored in this directory:</source>
+        <translation>标签、备注和花样预览保存在此文件夹中：</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Updates &amp;&amp; Privacy</source>
+        <translation>更新与隐私</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Hoopline Organizer updates&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Hoopline Organizer 更新&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates</source>
+        <translation>自动检查更新</translation>
+    </message>
+    <message>
+        <source>Include beta updates (always enabled for beta versions)</source>
+        <translation>包括测试版更新（测试版始终启用）</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;&lt;b&gt;Please help us to improve Hoopline Organizer!&lt;/b&gt;&lt;/p&gt;&lt;p&gt;We&apos;d like to improve Hoopline Organizer - making it a better tool for you. To do this we need some more information about how people are using our tools.&lt;/p&gt;&lt;p&gt;By enabling this option you agree to transmit the following data. As you see no private or personal data is transferred:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Number of CPU cores, memory, display size&lt;/li&gt;&lt;li&gt;Operating system (type, version)&lt;/li&gt;&lt;li&gt;Application: Version, timings&lt;/li&gt;&lt;li&gt;Random user indentifier (%1)&lt;/li&gt;&lt;li&gt;Days since application was installed&lt;/li&gt;&lt;li&gt;File information (format, num. stitches)&lt;/li&gt;&lt;li&gt;Do not track status&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Please check our &lt;a href=&quot;%2&quot;&gt;privacy policy&lt;/a&gt; for details.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;请帮助我们改进 Hoopline Organizer！&lt;/b&gt;&lt;/p&gt;&lt;p&gt;我们希望改进 Hoopline Organizer，让它更适合您使用。为此，我们需要更多地了解用户如何使用我们的工具。&lt;/p&gt;&lt;p&gt;启用此选项即表示您同意传输以下数据。如您所见，不会传输任何隐私或个人数据：&lt;/p&gt;&lt;ul&gt;&lt;li&gt;处理器核心数、内存、显示器尺寸&lt;/li&gt;&lt;li&gt;操作系统（类型、版本）&lt;/li&gt;&lt;li&gt;应用程序：版本、耗时&lt;/li&gt;&lt;li&gt;随机用户标识（%1）&lt;/li&gt;&lt;li&gt;安装后的天数&lt;/li&gt;&lt;li&gt;文件信息（格式、针数）&lt;/li&gt;&lt;li&gt;“请勿跟踪”状态&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;详情请参阅我们的&lt;a href=&quot;%2&quot;&gt;隐私政策&lt;/a&gt;。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Enable data collection</source>
+        <translation>启用数据收集</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
     </message>
 </context>
 <context>
