@@ -5,9 +5,11 @@
 
 #include <memory>
 #include <QApplication>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -30,6 +32,7 @@ private slots:
     void textContrast_data();
     void textContrast();
     void ownPaletteWhereTheDesktopHasNone();
+    void styleSheetsFollowThePalette();
     void tagLabelContrast();
     void iconFollowsPalette();
     void iconStates();
@@ -113,6 +116,24 @@ void tst_style::ownPaletteWhereTheDesktopHasNone()
     desktops.setColor(QPalette::Highlight, Qt::darkMagenta);
     QApplication::style()->polish(desktops);
     QCOMPARE(desktops.color(QPalette::Highlight), QColor(Qt::darkMagenta));
+}
+
+void tst_style::styleSheetsFollowThePalette()
+{
+    WidgetStyles::init();
+    QWidget window;
+    auto *bar = new QFrame(&window);
+    bar->setObjectName(QStringLiteral("leftSidebar"));
+    bar->setStyleSheet(WidgetStyles::LeftSideBar());
+    auto *label = new QLabel(QStringLiteral("text"), bar);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QPalette dark = TnwMacStyle::darkPalette();
+    QApplication::setPalette(dark);
+    QCOMPARE(label->palette().color(QPalette::WindowText), dark.color(QPalette::WindowText));
+    QTRY_COMPARE(bar->grab().toImage().pixelColor(1, bar->height() - 2),
+                 dark.color(QPalette::Window));
+    QCOMPARE(QToolTip::palette().color(QPalette::WindowText), dark.color(QPalette::ToolTipText));
 }
 
 void tst_style::tagLabelContrast()

@@ -97,7 +97,7 @@ QWidget *About2::createTextPane()
     text->setFrameShape(QFrame::NoFrame);
     text->document()->setDocumentMargin(16);
     text->setAccessibleName(tr("Licences"));
-    text->setHtml(readLicences());
+    text->setHtml(readLicences() + qtNotice());
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -111,4 +111,12 @@ QWidget *About2::createTextPane()
     footer->addWidget(buttons);
     layout->addLayout(footer);
     return pane;
+}
+
+QString About2::qtNotice()
+{
+    const QString notice = tr("This program uses Qt %1, which is licensed under the GNU Lesser "
+                              "General Public License, version 3, and is a library of its own: "
+                              "it may be replaced by another build of it.");
+    return QStringLiteral("<p>%1</p>").arg(notice.arg(QLatin1String(qVersion())).toHtmlEscaped());
 }

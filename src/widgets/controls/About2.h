@@ -24,4 +24,5 @@ public:
 private:
     QWidget *createBanner();
     QWidget *createTextPane();
+    static QString qtNotice();
 };

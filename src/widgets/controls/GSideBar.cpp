@@ -4,8 +4,6 @@
 #include "widgets/controls/GSideBarBox.h"
 #include "widgets/controls/GSideBarBoxAdvanced.h"
 
-#include <QEvent>
-#include <QScopedValueRollback>
 #include <QSplitter>
 
 namespace {
@@ -63,16 +61,6 @@ QSize GSideBar::minimumSizeHint() const
 QSize GSideBar::sizeHint() const
 {
     return m_splitter->sizeHint();
-}
-
-void GSideBar::changeEvent(QEvent *event)
-{
-    QScrollArea::changeEvent(event);
-    // A style sheet keeps the palette's colours that it was read with.
-    if (event->type() == QEvent::PaletteChange && !m_refreshingStyle && !styleSheet().isEmpty()) {
-        const QScopedValueRollback<bool> guard(m_refreshingStyle, true);
-        setStyleSheet(QString(styleSheet()));
-    }
 }
 
 QString GSideBar::splitterKey() const

@@ -36,12 +36,8 @@ public:
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     QString splitterKey() const;
 
     QSplitter *m_splitter;
-    bool m_refreshingStyle = false;
 };

@@ -314,6 +314,7 @@ int TnwMacStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWi
 {
     switch (hint) {
     case SH_EtchDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     // The wheel scrolls the panel; it must not choose a tag or a filter on its way.
     case SH_ComboBox_AllowWheelScrolling:
         return 0;

@@ -5,30 +5,45 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFontInfo>
+#include <QTimer>
 #include <QToolTip>
+#include <QWidget>
 
 namespace {
 
-/** Keeps the palette of the tool tips, which Qt holds apart, in step with the application's. */
-class ToolTipPaletteKeeper : public QObject
+/** Carries a change of the palette to where Qt does not carry it by itself. */
+class PaletteFollower : public QObject
 {
 public:
-    explicit ToolTipPaletteKeeper(QObject *parent) : QObject(parent) { update(); }
+    explicit PaletteFollower(QObject *parent) : QObject(parent) { updateToolTips(); }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (watched == parent() && event->type() == QEvent::ApplicationPaletteChange)
-            update();
+        if (watched == parent() && event->type() == QEvent::ApplicationPaletteChange) {
+            updateToolTips();
+            // The widgets get their new palettes after this event.
+            QTimer::singleShot(0, this, &PaletteFollower::readStyleSheetsAgain);
+        }
         return false;
     }
 
 private:
-    static void update()
+    static void updateToolTips()
     {
         QPalette palette = QGuiApplication::palette();
         palette.setColor(QPalette::Window, palette.color(QPalette::ToolTipBase));
         palette.setColor(QPalette::WindowText, palette.color(QPalette::ToolTipText));
         QToolTip::setPalette(palette);
+    }
+
+    /** A style sheet keeps the palette's colours that it was read with. */
+    static void readStyleSheetsAgain()
+    {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            if (!widget->styleSheet().isEmpty())
+                widget->setStyleSheet(QString(widget->styleSheet()));
+        }
     }
 };
 
@@ -36,7 +51,9 @@ private:
 
 void WidgetStyles::init()
 {
-    qApp->installEventFilter(new ToolTipPaletteKeeper(qApp));
+    // Without it, widgets with a style sheet would keep the palette that they began with.
+    QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
+    qApp->installEventFilter(new PaletteFollower(qApp));
 }
 
 QColor WidgetStyles::Accent()

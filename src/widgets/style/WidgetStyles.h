@@ -27,8 +27,8 @@ public:
     static constexpr QColor Primary900{0x15, 0x3a, 0x3f};
 
     /**
-     * Gives the tool tips the palette of the program and keeps them in step with it. Called once,
-     * when the application object exists.
+     * Lets tool tips and widgets with style sheets follow the palette and its changes. Called
+     * once, when the application object exists and before the first widget is made.
      */
     static void init();
 
