@@ -25,10 +25,10 @@ public:
 
     /**
      * The most blocks that may begin behind the end of the input. What is read
-     * there is one byte over and over, so what does not end in a few blocks
-     * never does.
+     * there is one byte over and over, so a block is met again after at most
+     * eight, and what has not ended by then never does.
      */
-    static constexpr int MaximumStaleBlocks = 32;
+    static constexpr int MaximumStaleBlocks = 8;
 
     /**
      * `size` is the length of `input` in bytes and `bits` the binary logarithm

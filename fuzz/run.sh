@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Builds the fuzz targets and runs each for a number of seconds on its seeds.
+# Usage: fuzz/run.sh [SECONDS [FORMAT...]]     (5 seconds and all formats)
+#
+# What a run learns stays in build/fuzz/corpus, so that the next one goes on from
+# there. A crash ends with status 1; its input lies in build/fuzz/crashes and
+# belongs into tests/data/damaged once the fault is mended.
+set -euo pipefail
+
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+seconds="${1:-5}"
+shift || true
+formats=("$@")
+[ "${#formats[@]}" -gt 0 ] || formats=(pes pec dst xxx exp sew jef hus)
+
+cd "$root"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz --target fuzz_targets
+
+run_target() {
+    local format="$1" work="$root/build/fuzz"
+    local log="$work/logs/$format.log"
+    mkdir -p "$work/corpus/$format" "$work/crashes" "$work/logs"
+    if "$work/bin/fuzz_$format" -max_total_time="$2" -timeout=10 -rss_limit_mb=1024 \
+        -max_len=65536 -print_final_stats=1 -artifact_prefix="$work/crashes/$format-" \
+        "$work/corpus/$format" "$root/fuzz/seeds/$format" >"$log" 2>&1; then
+        echo "fuzz $format: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") runs, no crash"
+    else
+        echo "fuzz $format: FAILED" >&2
+        tail -n 60 "$log" >&2
+        return 1
+    fi
+}
+export -f run_target
+export root
+
+# The status of xargs is that of the worst target.
+printf '%s\n' "${formats[@]}" |
+    xargs -P "$(nproc)" -I FORMAT bash -c 'run_target "$1" "$2"' _ FORMAT "$seconds"
