@@ -21,7 +21,7 @@ run_target() {
     local format="$1" work="$root/build/fuzz"
     local log="$work/logs/$format.log"
     mkdir -p "$work/corpus/$format" "$work/crashes" "$work/logs"
-    if "$work/bin/fuzz_$format" -max_total_time="$2" -timeout=10 -rss_limit_mb=1024 \
+    if "$work/bin/fuzz_$format" -max_total_time="$2" -timeout=30 -rss_limit_mb=1024 \
         -max_len=65536 -print_final_stats=1 -artifact_prefix="$work/crashes/$format-" \
         "$work/corpus/$format" "$root/fuzz/seeds/$format" >"$log" 2>&1; then
         echo "fuzz $format: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") runs, no crash"

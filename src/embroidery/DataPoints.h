@@ -19,6 +19,9 @@ public:
     /** Overwrites the command of point `i`. */
     void setData(int i, int data);
 
+    /** The commands of all points, for a walk over them. */
+    const QVector<int> &commands() const { return m_data; }
+
     /** Sets memory for `pointCount` points aside. */
     void reserve(int pointCount);
 

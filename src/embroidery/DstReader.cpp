@@ -16,6 +16,45 @@ constexpr int HeaderSize = 512;
 constexpr int RecordSize = 3;
 constexpr int NameLength = 16;
 
+/** A digit of the balanced ternary displacements: its byte, and the bits of its two senses. */
+struct Digit
+{
+    int weight;
+    std::size_t byte;
+    int plus;
+    int minus;
+};
+
+constexpr Digit XDigits[] = {
+    {1, 0, 0, 1}, {3, 1, 0, 1}, {9, 0, 2, 3}, {27, 1, 2, 3}, {81, 2, 2, 3}};
+constexpr Digit YDigits[] = {
+    {1, 0, 6, 7}, {3, 1, 6, 7}, {9, 0, 4, 5}, {27, 1, 4, 5}, {81, 2, 4, 5}};
+
+/** What each value of each byte of a record adds to the displacement. */
+using Parts = std::array<std::array<int, 256>, RecordSize>;
+
+constexpr Parts partsOf(const Digit (&digits)[5])
+{
+    Parts parts{};
+    for (const Digit &digit : digits) {
+        for (std::size_t value = 0; value < 256; ++value) {
+            const char byte = static_cast<char>(value);
+            const int sense =
+                DstReader::getbit(byte, digit.plus) - DstReader::getbit(byte, digit.minus);
+            parts[digit.byte][value] += sense * digit.weight;
+        }
+    }
+    return parts;
+}
+
+constexpr Parts XParts = partsOf(XDigits);
+constexpr Parts YParts = partsOf(YDigits);
+
+int partOf(const Parts &parts, std::size_t index, char byte)
+{
+    return parts[index][static_cast<unsigned char>(byte)];
+}
+
 } // namespace
 
 DstReader::DstReader() : EmbReader(QStringLiteral("dst")) {}
@@ -64,23 +103,14 @@ void DstReader::addThreadRecord(const QString &value)
                                                           QString(), QString()));
 }
 
-int DstReader::getbit(char byte, int n)
-{
-    return (static_cast<unsigned char>(byte) >> n) & 1;
-}
-
 int DstReader::decodedx(char b0, char b1, char b2)
 {
-    return (getbit(b0, 0) - getbit(b0, 1)) + 3 * (getbit(b1, 0) - getbit(b1, 1)) +
-           9 * (getbit(b0, 2) - getbit(b0, 3)) + 27 * (getbit(b1, 2) - getbit(b1, 3)) +
-           81 * (getbit(b2, 2) - getbit(b2, 3));
+    return partOf(XParts, 0, b0) + partOf(XParts, 1, b1) + partOf(XParts, 2, b2);
 }
 
 int DstReader::decodedy(char b0, char b1, char b2)
 {
-    return (getbit(b0, 6) - getbit(b0, 7)) + 3 * (getbit(b1, 6) - getbit(b1, 7)) +
-           9 * (getbit(b0, 4) - getbit(b0, 5)) + 27 * (getbit(b1, 4) - getbit(b1, 5)) +
-           81 * (getbit(b2, 4) - getbit(b2, 5));
+    return partOf(YParts, 0, b0) + partOf(YParts, 1, b1) + partOf(YParts, 2, b2);
 }
 
 void DstReader::dstReadStitches()

@@ -15,7 +15,10 @@ public:
     DstReader();
 
     /** Bit `n` of `byte`, 0 or 1. */
-    static int getbit(char byte, int n);
+    static constexpr int getbit(char byte, int n)
+    {
+        return (static_cast<unsigned char>(byte) >> n) & 1;
+    }
 
     /** The displacements of a record, -121 to 121 tenths of a millimetre. */
     static int decodedx(char b0, char b1, char b2);

@@ -12,6 +12,13 @@ QSharedPointer<EmbThread> grayThread(int gray, const QString &description)
                                              QString(), QString(), QString());
 }
 
+bool isColorChange(int data)
+{
+    const int command = data & 0xFF;
+    return command == StitchCommandColorChange || command == StitchCommandColorChange9 ||
+           command == StitchCommandColorChange226;
+}
+
 } // namespace
 
 QSharedPointer<EmbPattern> EmbPattern::create()
@@ -49,26 +56,17 @@ QSharedPointer<EmbThread> EmbPattern::getRandomThread() const
     return grayThread(QRandomGenerator64::global()->bounded(31, 223), QStringLiteral("Random"));
 }
 
-bool EmbPattern::isColorChange(int i) const
-{
-    const int c = command(i);
-    return c == StitchCommandColorChange || c == StitchCommandColorChange9 ||
-           c == StitchCommandColorChange226;
-}
-
 int EmbPattern::lastColorIndex() const
 {
-    const int n = size();
     int color = -1;
-    for (int i = 0; i < n;) {
-        for (; i < n && command(i) != StitchCommandStitch; ++i) {
-            if (isColorChange(i))
-                ++color;
-        }
-        if (i < n && color == -1)
+    bool stitching = false;
+    for (const int data : m_points->commands()) {
+        const bool stitch = (data & 0xFF) == StitchCommandStitch;
+        if (stitch && !stitching && color == -1)
             color = 0;
-        while (i < n && command(i) == StitchCommandStitch)
-            ++i;
+        else if (isColorChange(data))
+            ++color;
+        stitching = stitch;
     }
     return color;
 }
@@ -94,20 +92,24 @@ QList<StitchBlock> EmbPattern::asStitchBlock()
     QList<StitchBlock> blocks;
     QVector<QPointF> run;
     QPointF position(0, 0);
+    const QVector<int> &commands = m_points->commands();
+    const auto isStitch = [&commands](int i) {
+        return (commands.at(i) & 0xFF) == StitchCommandStitch;
+    };
     const int n = size();
     int color = -1;
     for (int i = 0; i < n;) {
-        for (; i < n && command(i) != StitchCommandStitch; ++i) {
-            if (command(i) == StitchCommandMove)
+        for (; i < n && !isStitch(i); ++i) {
+            if ((commands.at(i) & 0xFF) == StitchCommandMove)
                 position = m_points->pos(i);
-            else if (isColorChange(i))
+            else if (isColorChange(commands.at(i)))
                 ++color;
         }
         if (color == -1)
             color = 0;
         run.clear();
         run.append(position);
-        for (; i < n && command(i) == StitchCommandStitch; ++i) {
+        for (; i < n && isStitch(i); ++i) {
             position = m_points->pos(i);
             run.append(position);
         }
@@ -128,18 +130,6 @@ void EmbPattern::setMetadata(const QString &key, const QString &value)
 QString EmbPattern::metadata(const QString &key, const QString &defaultValue) const
 {
     return m_metadata.value(key, defaultValue);
-}
-
-void EmbPattern::addStitchAbs(float x, float y, int flags)
-{
-    m_points->add(x, y, flags);
-    m_lastX = x;
-    m_lastY = y;
-}
-
-void EmbPattern::addStitchRel(float dx, float dy, int flags)
-{
-    addStitchAbs(m_lastX + dx, m_lastY + dy, flags);
 }
 
 } // namespace Embroidery

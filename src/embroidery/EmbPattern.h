@@ -116,10 +116,18 @@ public:
     void moveAbs(float x, float y) { addStitchAbs(x, y, StitchCommandMove); }
 
     /** Adds a point with any command at (x, y). */
-    void addStitchAbs(float x, float y, int flags);
+    void addStitchAbs(float x, float y, int flags)
+    {
+        m_points->add(x, y, flags);
+        m_lastX = x;
+        m_lastY = y;
+    }
 
     /** Adds a point with any command at (dx, dy) from the last one. */
-    void addStitchRel(float dx, float dy, int flags);
+    void addStitchRel(float dx, float dy, int flags)
+    {
+        addStitchAbs(m_lastX + dx, m_lastY + dy, flags);
+    }
 
     void stitch(float dx, float dy) { addStitchRel(dx, dy, StitchCommandStitch); }
     void move(float dx, float dy) { addStitchRel(dx, dy, StitchCommandMove); }
@@ -139,8 +147,6 @@ public:
 private:
     EmbPattern();
 
-    int command(int i) const { return m_points->getData(i) & 0xFF; }
-    bool isColorChange(int i) const;
     int lastColorIndex() const;
 
     float m_lastX = 0;

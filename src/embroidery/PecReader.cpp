@@ -156,14 +156,16 @@ void PecReader::readPecGraphics(int size, int stride, int count)
 
 QString PecReader::get_graphic_as_string(const QByteArray &bytes, int stride, char on, char off)
 {
-    QString text;
+    QByteArray text;
     for (int i = 0; i < bytes.size(); ++i) {
         if ((i + 1) % stride == 0)
-            text.append(QLatin1Char('\n'));
+            text.append('\n');
+        char pixels[8];
         for (int bit = 0; bit < 8; ++bit)
-            text.append(QLatin1Char(bytes.at(i) >> bit & 1 ? on : off));
+            pixels[bit] = bytes.at(i) >> bit & 1 ? on : off;
+        text.append(pixels, 8);
     }
-    return text;
+    return QString::fromLatin1(text);
 }
 
 } // namespace Embroidery

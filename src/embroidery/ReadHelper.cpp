@@ -5,8 +5,6 @@
 #include <QBuffer>
 #include <QtEndian>
 
-#include <cstring>
-
 namespace Embroidery {
 
 namespace {
@@ -78,12 +76,12 @@ void ReadHelper::seek(int n)
         m_cursor = n;
 }
 
-int ReadHelper::readFully(char *buffer, int n)
+int ReadHelper::readRest(char *buffer)
 {
     if (atEnd())
         return -1;
-    const int length = qMin(n, m_bytes.size() - m_cursor);
-    std::memcpy(buffer, m_bytes.constData() + m_cursor, static_cast<size_t>(length));
+    const int length = m_bytes.size() - m_cursor;
+    std::memcpy(buffer, m_bytes.constData() + m_cursor, static_cast<std::size_t>(length));
     m_cursor += length;
     m_position += length;
     return length;

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstring>
+
 class QIODevice;
 
 namespace Embroidery {
@@ -52,7 +54,15 @@ public:
     void seek(int n);
 
     /** Reads up to `n` bytes; returns how many came, -1 at the end. Never throws. */
-    int readFully(char *buffer, int n);
+    int readFully(char *buffer, int n)
+    {
+        if (m_bytes.size() - m_cursor < n || atEnd())
+            return readRest(buffer);
+        std::memcpy(buffer, m_bytes.constData() + m_cursor, static_cast<std::size_t>(n));
+        m_cursor += n;
+        m_position += n;
+        return n;
+    }
 
     /** The fixed-width reads throw IOException if the bytes don't suffice. */
     int readInt8() { return *take(1); }
@@ -91,6 +101,9 @@ private:
         m_position += n;
         return reinterpret_cast<const uchar *>(bytes);
     }
+
+    /** Reads what is left and returns how much that was; -1 if nothing. */
+    int readRest(char *buffer);
 
     [[noreturn]] void failAtEnd();
 

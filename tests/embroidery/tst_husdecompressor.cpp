@@ -7,6 +7,8 @@
 
 using namespace TestSupport;
 
+Q_DECLARE_METATYPE(HusToken)
+
 namespace {
 
 constexpr int End = 510;
@@ -219,8 +221,6 @@ void TestHusDecompressor::boundOnOutput()
     tokens.prepend(HusToken{'x'});
     QCOMPARE(errorOf(husEncode(tokens, {65536})), corrupt);
 }
-
-Q_DECLARE_METATYPE(HusToken)
 
 QTEST_APPLESS_MAIN(TestHusDecompressor)
 #include "tst_husdecompressor.moc"
