@@ -5,6 +5,8 @@
 #include "app/application/SingleApplication.h"
 
 #include <cstdio>
+#include <QEventLoop>
+#include <QTimer>
 
 namespace {
 
@@ -14,13 +16,36 @@ void say(const QByteArray &line)
     std::fflush(stdout);
 }
 
+void letEventsIn()
+{
+    QEventLoop loop;
+    QTimer::singleShot(300, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+GMainWindow *theWindow()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *window = qobject_cast<GMainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     using Mode = SingleApplication::Mode;
-    HooplineApplication::setWindowFactory([] { return new TestWindow; });
     const QByteArray role = argc > 1 ? argv[1] : "";
+    const bool windowless = role == "windowless";
+    HooplineApplication::setWindowFactory([windowless] {
+        // As a window does that shows a splash screen first.
+        if (windowless)
+            letEventsIn();
+        return new TestWindow;
+    });
     const bool secondary = role == "secondary";
     SingleApplication app(argc, argv, secondary,
                           Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000);
@@ -38,6 +63,13 @@ int main(int argc, char **argv)
                      [](quint32 id, const QByteArray &message) {
                          say("message " + QByteArray::number(id) + " " + message);
                      });
+    if (windowless) {
+        QTimer::singleShot(1000, &app, [] {
+            while (GMainWindow *window = theWindow())
+                delete window;
+            say("windowless");
+        });
+    }
     say("primary " + QByteArray::number(app.primaryPid()) + " " + app.primaryUser().toUtf8());
     say(app.sendMessage("to myself", 100) ? "sent to myself" : "not sent to myself");
     return app.exec();

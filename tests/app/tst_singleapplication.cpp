@@ -78,6 +78,7 @@ private slots:
     void cleanup();
     void recordsThePrimary();
     void secondStartEndsAndRaisesThePrimary();
+    void secondStartBringsTheWindowBack();
     void secondaryTalksToThePrimary();
     void twentyStartsLeaveOnePrimary();
     void killedPrimaryLocksNobodyOut();
@@ -158,6 +159,19 @@ void tst_singleapplication::secondStartEndsAndRaisesThePrimary()
     QCOMPARE(second->exitCode(), 0);
     QVERIFY(waitForLine(*m_primary, "started 1"));
     QVERIFY(!second->readAllStandardOutput().contains("primary"));
+}
+
+// The window lets events in while it is made, and the caller is gone by then.
+void tst_singleapplication::secondStartBringsTheWindowBack()
+{
+    m_primary = start({QStringLiteral("windowless")});
+    QVERIFY(waitForLine(*m_primary, "windowless"));
+    for (int i = 0; i < 2; ++i) {
+        Process second = start();
+        QVERIFY(second->waitForFinished(Patience));
+        QCOMPARE(second->exitCode(), 0);
+        QVERIFY(waitForLine(*m_primary, "started 1"));
+    }
 }
 
 void tst_singleapplication::secondaryTalksToThePrimary()

@@ -6,7 +6,6 @@
 #include <QDataStream>
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QPointer>
 #include <QThread>
 #include <QTimer>
 
@@ -232,19 +231,25 @@ void SingleApplicationPrivate::readInitMessageBody(QLocalSocket *client)
     connection->instanceId = instanceId;
     connection->stage = Stage::Connected;
 
-    // Whoever hears of the new instance may open windows and let events in.
-    const QPointer<QLocalSocket> guard(client);
     const bool announced = ConnectionType(type) == ConnectionType::SecondaryInstance &&
                            options.testFlag(SingleApplication::Mode::SecondaryNotification);
     if (ConnectionType(type) == ConnectionType::NewInstance || announced)
-        emit owner->instanceStarted();
-    if (guard && client->bytesAvailable() > 0)
+        tellOwner([application = owner] { emit application->instanceStarted(); });
+    if (client->bytesAvailable() > 0)
         slotDataAvailable(client, instanceId);
 }
 
 void SingleApplicationPrivate::slotDataAvailable(QLocalSocket *client, quint32 instanceId)
 {
-    emit owner->receivedMessage(instanceId, client->readAll());
+    tellOwner([application = owner, instanceId, message = client->readAll()] {
+        emit application->receivedMessage(instanceId, message);
+    });
+}
+
+void SingleApplicationPrivate::tellOwner(const std::function<void()> &signal)
+{
+    // Who hears of it may let events in, and these may delete the socket that is being read.
+    QMetaObject::invokeMethod(owner, signal, Qt::QueuedConnection);
 }
 
 void SingleApplicationPrivate::drop(QLocalSocket *client)

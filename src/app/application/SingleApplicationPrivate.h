@@ -82,6 +82,7 @@ private:
     void readInitMessageHeader(QLocalSocket *client);
     void readInitMessageBody(QLocalSocket *client);
     void slotDataAvailable(QLocalSocket *client, quint32 instanceId);
+    void tellOwner(const std::function<void()> &signal);
     void drop(QLocalSocket *client);
 
     QMap<QLocalSocket *, ConnectionInfo> m_connectionMap;

@@ -1,0 +1,124 @@
+#include "app/base/BuildConfig.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+constexpr int Patience = 30000;
+
+} // namespace
+
+/** The program itself, as a process in a profile of its own. */
+class tst_program : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void flushesSettings();
+    void firstStartMakesACatalogue();
+    void secondStartLeavesSettingsOfARunningProgram();
+    void reportsCrashesOnRequest();
+
+private:
+    void start(QProcess &process, const QStringList &arguments = {});
+    QString settingsPath() const;
+    bool catalogueExists() const;
+
+    std::unique_ptr<QTemporaryDir> m_profile;
+};
+
+void tst_program::init()
+{
+    m_profile = std::make_unique<QTemporaryDir>(QStringLiteral("/tmp/hl-XXXXXX"));
+    QSettings settings(settingsPath(), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("autoUpdatesEnabled"), false);
+    settings.setValue(QStringLiteral("applicationDataPath"),
+                      m_profile->filePath(QStringLiteral("data")));
+    QDir().mkpath(m_profile->filePath(QStringLiteral("data")));
+}
+
+QString tst_program::settingsPath() const
+{
+    return m_profile->filePath(QStringLiteral("config/%1/Hoopline Organizer.conf")
+                                   .arg(QLatin1String(BuildConfig::Organisation)));
+}
+
+void tst_program::start(QProcess &process, const QStringList &arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                       m_profile->filePath(QStringLiteral("config")));
+    environment.insert(QStringLiteral("TMPDIR"), m_profile->path());
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PROGRAM), arguments);
+}
+
+bool tst_program::catalogueExists() const
+{
+    return QFile::exists(m_profile->filePath(QStringLiteral("data/hoopline-organizer.xml")));
+}
+
+void tst_program::flushesSettings()
+{
+    QProcess process;
+    start(process, {QStringLiteral("--flushsettings")});
+    QVERIFY(process.waitForFinished(Patience));
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("Flushing all settings\n"));
+    QVERIFY(QSettings(settingsPath(), QSettings::IniFormat).allKeys().isEmpty());
+    QVERIFY(!catalogueExists());
+}
+
+void tst_program::firstStartMakesACatalogue()
+{
+    QProcess process;
+    start(process, {QStringLiteral("--do-not-track")});
+    QTRY_VERIFY_WITH_TIMEOUT(catalogueExists(), Patience);
+    process.kill();
+    QVERIFY(process.waitForFinished(Patience));
+    const QSettings settings(settingsPath(), QSettings::IniFormat);
+    QCOMPARE(settings.value(QStringLiteral("firstStart")), QVariant(QStringLiteral("false")));
+    QCOMPARE(settings.value(QStringLiteral("statisticsUUID")).toString().size(), 32);
+    QVERIFY(!settings.value(QStringLiteral("sendStatisticsEnabled")).toBool());
+
+    // What was killed locks nobody out.
+    QProcess next;
+    start(next, {QStringLiteral("--flushsettings")});
+    QVERIFY(next.waitForFinished(Patience));
+    QCOMPARE(next.readAllStandardOutput(), QByteArray("Flushing all settings\n"));
+}
+
+void tst_program::secondStartLeavesSettingsOfARunningProgram()
+{
+    QProcess primary;
+    start(primary);
+    QTRY_VERIFY_WITH_TIMEOUT(catalogueExists(), Patience);
+    QProcess second;
+    start(second, {QStringLiteral("--flushsettings")});
+    QVERIFY(second.waitForFinished(Patience));
+    QCOMPARE(second.exitCode(), 0);
+    QVERIFY(second.readAllStandardOutput().isEmpty());
+    QVERIFY(QSettings(settingsPath(), QSettings::IniFormat)
+                .contains(QStringLiteral("autoUpdatesEnabled")));
+    primary.kill();
+    QVERIFY(primary.waitForFinished(Patience));
+}
+
+void tst_program::reportsCrashesOnRequest()
+{
+    QProcess process;
+    start(process, {QStringLiteral("--report-crash")});
+    QVERIFY(process.waitForFinished(Patience));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(!catalogueExists());
+}
+
+QTEST_GUILESS_MAIN(tst_program)
+#include "tst_program.moc"
