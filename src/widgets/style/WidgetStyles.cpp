@@ -79,18 +79,15 @@ QPalette WidgetStyles::EditFieldDefault()
     return palette;
 }
 
+// No background here: the widgets inside would inherit it, buttons and fields included.
 QString WidgetStyles::LeftSideBar()
 {
-    return QStringLiteral("#leftSidebar, #leftSidebar > QWidget#qt_scrollarea_viewport "
-                          "{ border: 0; background: palette(window); }");
+    return QStringLiteral("#leftSidebar { border: 0; }");
 }
 
 QString WidgetStyles::RightSideBar()
 {
-    return QStringLiteral("#RightSideBar, #RightSideBar > QWidget#qt_scrollarea_viewport "
-                          "{ border: 0; background: palette(window); }\n"
-                          "#PropertiesBoxScrollArea { border: 0; background: transparent; }\n"
-                          "#PropertiesBoxScrollWidget { background: transparent; }");
+    return QStringLiteral("#RightSideBar, #PropertiesBoxScrollArea { border: 0; }");
 }
 
 QString WidgetStyles::ToolButton_FlatStyle()
