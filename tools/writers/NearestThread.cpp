@@ -11,7 +11,14 @@ namespace DesignWriters {
 
 namespace {
 
-constexpr double LightnessWeight = 0.85;
+constexpr double LightnessWeight = 0.9;
+constexpr double ChromaWeight = 0.4;
+constexpr double HueWeight = 2.2;
+/** What a grey costs in the place of a colour; chroma beyond the one limit is a colour, below the
+    other it is a grey. */
+constexpr double GreyPenalty = 2500;
+constexpr double ColorChroma = 14;
+constexpr double GreyChroma = 8;
 
 /** A colour in the CIE L*a*b* space. */
 struct Lab
@@ -43,14 +50,21 @@ Lab toLab(QRgb rgb)
     return Lab{116 * y - 16, 500 * (x - y), 200 * (y - z)};
 }
 
-/** A squared distance. Lightness counts less than hue: a leaf that turns grey is worse than one
-    that turns pale. */
-double distance(QRgb first, QRgb second)
+/** A squared distance from a thread to a chart's colour. Lightness counts less than hue: a leaf
+   that turns grey is worse than one that turns pale. */
+double distance(QRgb thread, QRgb chart)
 {
-    const Lab p = toLab(first);
-    const Lab q = toLab(second);
+    const Lab p = toLab(thread);
+    const Lab q = toLab(chart);
     const double l = LightnessWeight * (p.l - q.l);
-    return l * l + (p.a - q.a) * (p.a - q.a) + (p.b - q.b) * (p.b - q.b);
+    const double threadChroma = std::hypot(p.a, p.b);
+    const double chartChroma = std::hypot(q.a, q.b);
+    const double chroma = threadChroma - chartChroma;
+    const double hueSquared =
+        (p.a - q.a) * (p.a - q.a) + (p.b - q.b) * (p.b - q.b) - chroma * chroma;
+    const bool losesHue = threadChroma > ColorChroma && chartChroma < GreyChroma;
+    return l * l + ChromaWeight * chroma * chroma + HueWeight * hueSquared +
+           (losesHue ? GreyPenalty : 0);
 }
 
 } // namespace
