@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Number of stitches: 99 mm x 99 mm</source>
-        <translation>针数：99 毫米 x 99 毫米</translation>
+        <translation>绣花花样的总针数：99 毫米 x 99 毫米</translation>
     </message>
     <message>
         <source>Select folder to add</source>

@@ -24,6 +24,10 @@ Erstellt am %2</translation>
         <source>Licences</source>
         <translation>Lizenzen</translation>
     </message>
+    <message>
+        <source>This program uses Qt %1, which is licensed under the GNU Lesser General Public License, version 3, and is a library of its own: it may be replaced by another build of it.</source>
+        <translation>Dieses Programm verwendet Qt %1. Qt steht unter der GNU Lesser General Public License, Version 3, und ist eine eigenständige Bibliothek: Sie darf durch eine andere Fassung ersetzt werden.</translation>
+    </message>
 </context>
 <context>
     <name>DesktopInteraction</name>
