@@ -18,17 +18,24 @@ build release hoopline-organizer hoopline-cli
 
 demo=$root/build/demo
 rm -rf "$demo"
-mkdir -p "$demo"/{config,data,cache,runtime}
-chmod 700 "$demo/runtime"
+mkdir -p "$demo"/{config,data,cache}
 export XDG_CONFIG_HOME=$demo/config XDG_DATA_HOME=$demo/data XDG_CACHE_HOME=$demo/cache
+
+# Instances find each other through the folder of temporary files; one of its own keeps
+# the demo apart from an organiser that is already open. Short, as it names a socket.
+TMPDIR=$(mktemp -d /tmp/hoopline-demo.XXXXXX)
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
+
 bin=$root/build/release/bin
 
 "$bin/hoopline-cli" scan "${folders[@]}"
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    exec "$bin/hoopline-organizer"
+    "$bin/hoopline-organizer"
+    exit
 fi
 
 echo "There is no display: the window opens on a virtual one."
 install_missing xvfb xdotool imagemagick openbox fonts-dejavu-core
-exec "$root/scripts/run-headless.sh" "$bin/hoopline-organizer" "$demo/screenshot.png"
+"$root/scripts/run-headless.sh" "$bin/hoopline-organizer" "$demo/screenshot.png"
