@@ -371,7 +371,7 @@
     </message>
     <message>
         <source>Number of stitches: 99 mm x 99 mm</source>
-        <translation>Anzahl der Stiche: 99 mm x 99 mm</translation>
+        <translation>Anzahl der Stiche: 999 mm x 999 mm</translation>
     </message>
     <message>
         <source>Select folder to add</source>
