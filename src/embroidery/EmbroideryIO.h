@@ -26,7 +26,7 @@ public:
     EmbroideryIO() = delete;
 
     /** More colours than this are refused, since each costs a thread in memory. */
-    static constexpr int MaximumThreadCount = 1000000;
+    static constexpr int MaximumThreadCount = 250000;
 
     /** The wildcards of all formats, "*.pes" first. */
     static QStringList supportedFormats();

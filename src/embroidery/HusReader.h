@@ -12,7 +12,7 @@ class HusReader : public EmbReader
 {
 public:
     /** A file that promises more stitches than this is refused. */
-    static constexpr int MaximumStitchCount = 5000000;
+    static constexpr int MaximumStitchCount = 3000000;
 
     HusReader();
 

@@ -24,7 +24,7 @@ class ReadHelper
 {
 public:
     /** The largest device that is read, in bytes; far above any real design. */
-    static constexpr int MaximumSize = 32 * 1024 * 1024;
+    static constexpr int MaximumSize = 16 * 1024 * 1024;
 
     /**
      * Takes the bytes of `device` in, from its start where it has one; the
