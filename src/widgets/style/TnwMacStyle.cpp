@@ -1,5 +1,6 @@
 #include "widgets/style/TnwMacStyle.h"
 
+#include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
 
@@ -320,5 +321,22 @@ int TnwMacStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWi
         return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+QIcon TnwMacStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption *option,
+                                const QWidget *widget) const
+{
+    switch (standardIcon) {
+    case SP_MessageBoxInformation:
+        return GIcon(QStringLiteral(":/tnw_tools/icons/Box_Information.svg"));
+    case SP_MessageBoxQuestion:
+        return GIcon(QStringLiteral(":/tnw_tools/icons/Box_Question.svg"));
+    case SP_MessageBoxWarning:
+        return GIcon(QStringLiteral(":/tnw_tools/icons/Box_Warning.svg"));
+    case SP_MessageBoxCritical:
+        return GIcon(QStringLiteral(":/tnw_tools/icons/Box_Critical.svg"));
+    default:
+        return QProxyStyle::standardIcon(standardIcon, option, widget);
     }
 }
