@@ -123,7 +123,7 @@ void DstReader::dstReadStitches()
     while (readFully(b.data(), RecordSize) == RecordSize) {
         const auto dx = static_cast<float>(decodedx(b[0], b[1], b[2]));
         const auto dy = static_cast<float>(decodedy(b[0], b[1], b[2]));
-        const int flags = b[2];
+        const int flags = static_cast<unsigned char>(b[2]);
         if ((flags & 0xF3) == 0xF3) {
             design.end(dx, dy);
         } else if ((flags & 0xC3) == 0xC3) {

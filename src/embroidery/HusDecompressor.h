@@ -21,7 +21,7 @@ public:
      * length and may repeat itself without consuming a bit, so something must
      * bound it; a design has one byte for each stitch.
      */
-    static constexpr qint64 MaximumOutputSize = 32 * 1024 * 1024;
+    static constexpr qint64 MaximumOutputSize = 32 * Q_INT64_C(1024) * 1024;
 
     /**
      * The most blocks that may begin behind the end of the input. What is read

@@ -34,8 +34,7 @@ QByteArray allBytes(QIODevice *device)
         return device->read(ReadHelper::MaximumSize + 1);
     const qint64 start = device->pos();
     device->seek(0);
-    const QByteArray bytes =
-        device->read(qMin<qint64>(device->size(), ReadHelper::MaximumSize + 1));
+    QByteArray bytes = device->read(qMin<qint64>(device->size(), ReadHelper::MaximumSize + 1));
     device->seek(start);
     return bytes;
 }
@@ -113,7 +112,7 @@ QByteArray ReadHelper::readData(int n)
     const int available = m_bytes.size() - m_cursor;
     if (n < 0 || n > available)
         throwEndOfFile();
-    const QByteArray bytes = m_bytes.mid(m_cursor, n);
+    QByteArray bytes = m_bytes.mid(m_cursor, n);
     m_cursor += n;
     return bytes;
 }
@@ -133,7 +132,7 @@ QString ReadHelper::readString(int n)
     }
     const int textLength = zero ? static_cast<int>(static_cast<const char *>(zero) - bytes) : n;
     m_cursor += zero ? textLength + 1 : n;
-    const QString text = decode(bytes, textLength);
+    QString text = decode(bytes, textLength);
     m_position += text.length();
     return text;
 }
