@@ -1,4 +1,5 @@
 #include "app/base/GSettings.h"
+#include "widgets/controls/About2.h"
 #include "widgets/controls/DragDropHelper.h"
 #include "widgets/controls/GExpandingTitle.h"
 #include "widgets/controls/GMessageBox.h"
@@ -7,6 +8,7 @@
 #include "widgets/controls/GSideBarBoxAdvanced.h"
 #include "widgets/controls/GToolBar.h"
 #include "widgets/controls/GTreeView.h"
+#include "widgets/style/WidgetStyles.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -39,6 +41,7 @@ private slots:
     void textEditGrowsUpToAMost();
     void dropKeepsFoldersOnly();
     void dropIsBlockedByModalWindow();
+    void aboutBannerIsReadable();
 
 private:
     QTemporaryDir m_dir;
@@ -235,6 +238,19 @@ void tst_controls::dropIsBlockedByModalWindow()
     QDragEnterEvent enter(QPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     helper.dragEnterEvent(&enter);
     QVERIFY(!enter.isAccepted());
+}
+
+/** As the program has it: style sheets that hand their colours on keep palettes from doing so. */
+void tst_controls::aboutBannerIsReadable()
+{
+    WidgetStyles::init();
+    About2::configure(Qt::black, 300);
+    About2 dialog(nullptr);
+    dialog.show();
+    const QList<QLabel *> lines = dialog.findChildren<QLabel *>();
+    QVERIFY(!lines.isEmpty());
+    for (const QLabel *line : lines)
+        QCOMPARE(line->palette().color(line->foregroundRole()), QColor(Qt::white));
 }
 
 QTEST_MAIN(tst_controls)

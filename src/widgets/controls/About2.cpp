@@ -40,12 +40,14 @@ QLabel *addLine(QVBoxLayout *layout, const QString &text, qreal fontScale)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignHCenter);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * fontScale);
     font.setBold(fontScale > 1.0);
     label->setFont(font);
     layout->addWidget(label);
+    // Selectable text keeps the palette of this moment.
+    label->setPalette(layout->parentWidget()->palette());
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
 
@@ -73,6 +75,8 @@ QWidget *About2::createBanner()
     QPalette palette = banner->palette();
     palette.setColor(QPalette::Window, look().bannerColor);
     palette.setColor(QPalette::WindowText, Qt::white);
+    // Text that can be selected is drawn in the colour of text fields.
+    palette.setColor(QPalette::Text, Qt::white);
     banner->setPalette(palette);
     banner->setAutoFillBackground(true);
     banner->setFixedWidth(look().bannerWidth);
