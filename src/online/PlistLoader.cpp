@@ -2,7 +2,7 @@
 
 #include "app/base/Error.h"
 #include "catalogue/disk/FileTools.h"
-#include "online/XmlGuard.h"
+#include "properties/XmlTools.h"
 
 #include <QDomDocument>
 
@@ -72,9 +72,7 @@ QVariant PlistLoader::parse(const QByteArray &data)
 {
     QDomDocument document;
     QString message;
-    if (!XmlGuard::isHarmless(data))
-        throw Error(QStringLiteral("The XML is nested too deeply or declares entities"));
-    if (!document.setContent(data, false, &message))
+    if (!XmlTools::parseAnyEncoding(document, data, &message))
         throw Error(message);
     return parseDom(document);
 }

@@ -5,7 +5,7 @@
 #include "online/metrics/ReplyLimits.h"
 #include "online/services/VersionCompare.h"
 #include "online/UpdateDialog.h"
-#include "online/XmlGuard.h"
+#include "properties/XmlTools.h"
 #include "widgets/controls/GMessageBox.h"
 
 #include <QApplication>
@@ -30,7 +30,7 @@ bool attribute(const QNetworkReply *reply, QNetworkRequest::Attribute name)
     return reply->request().attribute(name).toBool();
 }
 
-// A release without a version or a download says nothing and is passed over.
+// What bears no version, or none that could be one, is passed over.
 bool isRelease(const QDomElement &item)
 {
     const QString version = item.firstChildElement(QStringLiteral("enclosure"))
@@ -131,7 +131,7 @@ void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool i
             GMessageBox::critical(tr("Update check failed"), reason);
     };
     QDomDocument document;
-    if (!XmlGuard::isHarmless(data) || !document.setContent(data, false)) {
+    if (!XmlTools::parseAnyEncoding(document, data, nullptr)) {
         qWarning("Update feed: %s", data.left(MaxLoggedBody).constData());
         return fail(tr("Can't read app cast feed. (No XML)"));
     }

@@ -76,23 +76,35 @@ void XmlTools::readChildren(QXmlStreamReader &reader, QDomDocument &document, QD
     }
 }
 
-bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
-                     QString *errorText, int *errorLine)
+void XmlTools::prepareReader(QXmlStreamReader &reader)
 {
-    requireUtf8(data);
-    document = QDomDocument();
-    QXmlStreamReader reader(data);
     reader.setNamespaceProcessing(false);
+    reader.setEntityExpansionLimit(0);
+}
+
+/** Replaces @p document by all that @p reader reads. */
+static void build(QDomDocument &document, QXmlStreamReader &reader, XmlAttributeOrder *order)
+{
+    document = QDomDocument();
+    XmlTools::prepareReader(reader);
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::Comment)
             document.appendChild(document.createComment(reader.text().toString()));
         if (token != QXmlStreamReader::StartElement)
             continue;
-        const QDomElement root = createElement(document, reader, order);
+        const QDomElement root = XmlTools::createElement(document, reader, order);
         document.appendChild(root);
-        readChildren(reader, document, root, KeepBlankText, order);
+        XmlTools::readChildren(reader, document, root, XmlTools::KeepBlankText, order);
     }
+}
+
+bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
+                     QString *errorText, int *errorLine)
+{
+    requireUtf8(data);
+    QXmlStreamReader reader(data);
+    build(document, reader, order);
     if (!reader.hasError())
         return true;
     if (errorText)
@@ -100,6 +112,15 @@ bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttribut
     if (errorLine)
         *errorLine = int(reader.lineNumber());
     return false;
+}
+
+bool XmlTools::parseAnyEncoding(QDomDocument &document, const QByteArray &data, QString *errorText)
+{
+    QXmlStreamReader reader(data);
+    build(document, reader, nullptr);
+    if (reader.hasError() && errorText)
+        *errorText = reader.errorString();
+    return !reader.hasError();
 }
 
 static bool isValidCharacter(const QString &text, int i)

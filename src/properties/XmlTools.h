@@ -27,6 +27,10 @@ public:
     static bool parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
                       QString *errorText, int *errorLine);
 
+    /** The same for what others write: takes any encoding that is declared, and never throws. */
+    static bool parseAnyEncoding(QDomDocument &document, const QByteArray &data,
+                                 QString *errorText);
+
     /**
      * The document as UTF-8, indented by @p indent blanks. Texts of blanks only are
      * dropped, but not in elements named in @p verbatimTags. Characters that XML can't
@@ -45,6 +49,9 @@ public:
 
     /** @p text without the characters that XML can't hold. */
     static QString withoutInvalidCharacters(const QString &text);
+
+    /** Sets @p reader up as parse() has it; an entity that makes text grow is an error. */
+    static void prepareReader(QXmlStreamReader &reader);
 
     /** Sets @p writer up as serialize() has it. */
     static void prepareWriter(QXmlStreamWriter &writer, int indent);

@@ -214,7 +214,7 @@ void tst_Updater::oddAnswers_data()
     QTest::newRow("page of a proxy") << body("<html><body>Sign in</body></html>") << notRss;
     QTest::newRow("no channel") << body("<rss/>") << QStringLiteral("(No channel found)");
     QTest::newRow("deeply nested") << body(QByteArray("<a>").repeated(1'000'000)) << noXml;
-    QTest::newRow("own entities") << body("<!DOCTYPE r [<!ENTITY a \"b\">]><rss>&a;</rss>")
+    QTest::newRow("growing text") << body("<!DOCTYPE r [<!ENTITY a \"bbbb\">]><rss>&a;</rss>")
                                   << noXml;
     HttpServer::Response response;
     response.raw = "this is no HTTP at all";

@@ -18,6 +18,7 @@ private slots:
     void malformed();
     void hostile_data();
     void hostile();
+    void anyEncoding();
     void blanksAndVerbatim();
     void textSurvives_data();
     void textSurvives();
@@ -99,6 +100,9 @@ void TestXmlTools::hostile_data()
         entities += "<!ENTITY e" + QByteArray::number(i) + " '" +
                     ("&e" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
     QTest::newRow("entities") << "<!DOCTYPE r [" + entities + "]><r>&e19;</r>";
+    QTest::newRow("growing text") << QByteArray("<!DOCTYPE r [<!ENTITY e 'lolol'>]><r>&e;</r>");
+    QTest::newRow("growing attribute")
+        << QByteArray("<!DOCTYPE r [<!ENTITY e 'lolol'>]><r a='&e;'/>");
     QTest::newRow("cut off") << QByteArray("<r><a att='");
     QTest::newRow("no utf-8") << QByteArray("<r>\xff\xfe\xfd</r><");
     QTest::newRow("nul") << QByteArray("<r>\0</r>", 8);
@@ -111,6 +115,19 @@ void TestXmlTools::hostile()
     QString text;
     QVERIFY(!XmlTools::parse(document, xml, nullptr, &text, nullptr));
     QVERIFY(!text.isEmpty());
+    text.clear();
+    QVERIFY(!XmlTools::parseAnyEncoding(document, xml, &text));
+    QVERIFY(!text.isEmpty());
+}
+
+void TestXmlTools::anyEncoding()
+{
+    QDomDocument document;
+    const QByteArray latin =
+        "<?xml version='1.0' encoding='iso-8859-1'?><r a:b='&amp;'>\xe4&lt;</r>";
+    QVERIFY(XmlTools::parseAnyEncoding(document, latin, nullptr));
+    QCOMPARE(document.documentElement().text(), QString::fromUtf8("ä<"));
+    QCOMPARE(document.documentElement().attribute("a:b"), QStringLiteral("&"));
 }
 
 void TestXmlTools::blanksAndVerbatim()

@@ -17,7 +17,7 @@ QDomDocument CatalogueXMLReader::parse(QIODevice *file)
 {
     QDomDocument document;
     QXmlStreamReader reader(file);
-    reader.setNamespaceProcessing(false);
+    XmlTools::prepareReader(reader);
     if (reader.readNextStartElement()) {
         QDomElement root = XmlTools::createElement(document, reader);
         document.appendChild(root);
