@@ -8,21 +8,9 @@
 
 namespace {
 
-// Logs hold what a broken program wrote.
-QString xmlSafe(QString text)
-{
-    for (QChar &c : text) {
-        const bool blank =
-            c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
-        if ((c.unicode() < 0x20 && !blank) || c.unicode() >= 0xfffe)
-            c = QChar::ReplacementCharacter;
-    }
-    return text;
-}
-
 void add(SimpleXmlWriter &writer, const char *name, const QString &text)
 {
-    writer.addElement(QString::fromLatin1(name), xmlSafe(text));
+    writer.addElement(QString::fromLatin1(name), text);
 }
 
 QString typeName(FeedbackReport::Type type)

@@ -27,6 +27,6 @@ struct FeedbackReport
     /** Full text of each log of a crash. */
     QStringList crashLogs;
 
-    /** The document; characters that XML cannot hold are replaced. */
+    /** The document; characters that XML cannot hold are dropped. */
     QByteArray toXml() const;
 };

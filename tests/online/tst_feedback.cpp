@@ -437,7 +437,7 @@ void tst_Feedback::logsThatXmlCannotHold()
     QDomDocument document;
     QVERIFY(document.setContent(report.toXml()));
     QCOMPARE(document.documentElement().lastChildElement().lastChildElement().text(),
-             QString::fromUtf8("a\uFFFD\uFFFDb"));
+             QStringLiteral("ab"));
 }
 
 QTEST_MAIN(tst_Feedback)
