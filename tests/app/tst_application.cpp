@@ -3,6 +3,7 @@
 #include "app/application/HooplineApplication.h"
 #include "app/base/Error.h"
 #include "app/frame/GAction.h"
+#include "online/services/GUrlProvider.h"
 
 #include <QAbstractButton>
 #include <QFileOpenEvent>
@@ -81,6 +82,7 @@ private slots:
     void cleanup();
     void queuesFilesUntilStarted();
     void namesItself();
+    void hasItsDocuments();
     void offersHelpWithoutDocumentationAndFeedback();
     void barrierShowsErrors();
     void barrierReportsExceptions();
@@ -134,6 +136,12 @@ void tst_application::namesItself()
     QCOMPARE(app()->shortName(), QStringLiteral("hl"));
     QVERIFY(!QApplication::quitOnLastWindowClosed());
     QCOMPARE(QDir::currentPath(), QDir::homePath());
+}
+
+void tst_application::hasItsDocuments()
+{
+    const QUrl url = app()->urlProvider()->acknowledgementsUrl();
+    QVERIFY2(QFile::exists(url.toLocalFile()), qPrintable(url.toString()));
 }
 
 void tst_application::offersHelpWithoutDocumentationAndFeedback()

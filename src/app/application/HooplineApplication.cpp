@@ -11,6 +11,7 @@
 #include "widgets/style/WidgetStyles.h"
 
 #include <algorithm>
+#include <QDir>
 #include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
@@ -40,6 +41,11 @@ HooplineApplication::HooplineApplication(int &argc, char **argv)
     WidgetStyles::init();
     setAttribute(Qt::AA_DisableWindowContextHelpButton);
     setWindowIcon(QIcon(QStringLiteral(":/hoopline-mac.png")));
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    // There is no bundle that would have the documents beside the program.
+    setResourcesDirectory(
+        QDir::cleanPath(applicationDirPath() + QStringLiteral("/../share/hoopline-organizer")));
+#endif
     m_updater = QSharedPointer<WindowsUpdater>::create();
     QTimer::singleShot(0, this, &HooplineApplication::launch);
 }
