@@ -27,7 +27,6 @@ static void initializeFrame()
 {
     GApplicationAddons::basicInitialization();
     Q_INIT_RESOURCE(tnw_resources);
-    Q_INIT_RESOURCE(tnw_translations);
     theDependencyRegistry()->setConstructorWith1ParameterForRole<QDialog, About2, QWidget *>(
         GApplication::di_AboutDialog);
     About2::configure(WidgetStyles::Primary800, AboutBannerWidth);
@@ -37,6 +36,7 @@ static void initializeProduct()
 {
     theLogServer()->setGlobalLogLevel(LogEverything);
     Q_INIT_RESOURCE(hoopline_resources);
+    Q_INIT_RESOURCE(tnw_translations);
     Q_INIT_RESOURCE(translations);
 
     HooplineApplication::setWindowFactory([] { return new MainWindow; });

@@ -102,7 +102,8 @@ bool GApplication::notify(QObject *receiver, QEvent *event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const Error &error) {
-        emit criticalError(tr("Caught unhandled error:<br/>%1<br/>").arg(error.toString()));
+        emit criticalError(
+            tr("Caught unhandled error:<br/>%1<br/>").arg(error.toString().toHtmlEscaped()));
     } catch (const std::exception &exception) {
         reportException(exception);
     } catch (...) {

@@ -10,6 +10,23 @@
 
 #include <QDesktopServices>
 
+#ifdef _MSC_VER
+#include <intrin.h>
+#endif
+
+namespace {
+
+void trap()
+{
+#ifdef _MSC_VER
+    __debugbreak();
+#else
+    __builtin_trap();
+#endif
+}
+
+} // namespace
+
 const QString GApplication::di_AboutDialog = QStringLiteral("GApplication::AboutDialog");
 
 void GApplication::createApplicationLevelActions()
@@ -156,7 +173,7 @@ void GApplication::showAbout()
 {
     // Exercises the road of a crash report on a real installation.
     if (qgetenv("tnw_trigger_crash") == "true")
-        __builtin_trap();
+        trap();
     const auto dialog = DI::newObject1<QDialog, About, QWidget *>(di_AboutDialog, nullptr);
     dialog->exec();
 }
