@@ -1,10 +1,36 @@
 #include "app/base/Error.h"
 #include "catalogue/disk/FileTools.h"
+#include "catalogue/records/DataModelReader.h"
 #include "catalogue/records/Project.h"
+#include "properties/PropertyDescriptionPreset.h"
+#include "properties/PropertyDescriptionValues.h"
 #include "properties/RecordingObserver.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
+
+/** Reads a catalogue that has a type of preset. */
+class PresetReader : public DataModelReader
+{
+public:
+    PresetReader(Project *project, const PropertyDescriptionPreset *type)
+        : m_project(project), m_type(type)
+    {
+    }
+
+    Property *createProperty(const QString &tag, const Property *parent) const override
+    {
+        if (tag == QLatin1String("hoop_list"))
+            return new PropertyPresetCollection(m_project, m_type);
+        if (tag == QLatin1String("preset"))
+            return new PropertyPreset(m_project, m_type);
+        return DataModelReader::createProperty(tag, parent);
+    }
+
+private:
+    Project *m_project;
+    const PropertyDescriptionPreset *m_type;
+};
 
 class TestCatalogueFile : public QObject
 {
@@ -28,6 +54,7 @@ private slots:
     void loadAnnouncesOnce();
     void hostileFiles_data();
     void hostileFiles();
+    void presetCollections();
     void failedSaveIsTold();
 
 private:
@@ -335,6 +362,31 @@ void TestCatalogueFile::hostileFiles()
     const QString message = errorOfLoad(xml);
     QVERIFY2(message.startsWith("XML parser error: "), qPrintable(message));
     QCOMPARE(m_project->allTags(), QStringList("kept"));
+}
+
+void TestCatalogueFile::presetCollections()
+{
+    PropertyDescriptionPreset type("hoop", {});
+    type.addProperty(new PropertyDescriptionInt("width", {}, {}, 100));
+    auto *collection = new PropertyPresetCollection(m_project.data(), &type);
+    m_project->presetCollections()->addWithoutUndo(collection);
+    for (const char *name : {"large", "small"}) {
+        auto *preset = new PropertyPreset(m_project.data(), &type);
+        preset->name()->setValueWithoutUndoAndAnnounceChange(name);
+        collection->addWithoutUndo(preset);
+    }
+    addFile("/a.dst");
+    m_project->save(path());
+    const QByteArray saved = FileTools::readAll(path());
+
+    Project copy;
+    PresetReader(&copy, &type).readFromFile(&copy, path());
+    QCOMPARE(copy.presetCollectionByName("hoop")->presetNames(), QStringList({"large", "small"}));
+    QCOMPARE(copy.files().count(), 1);
+    copy.save(path());
+    QCOMPARE(FileTools::readAll(path()), saved);
+    // The presets go before the type that they are made from.
+    m_project.reset();
 }
 
 void TestCatalogueFile::failedSaveIsTold()
