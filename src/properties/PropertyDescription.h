@@ -4,6 +4,7 @@
 
 class PropertyDescriptionVisitor;
 
+/** What a PropertyDescriptionVisitor can be sent to. */
 class PropertyDescriptionVisitorAcceptor
 {
 public:

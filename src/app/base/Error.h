@@ -19,6 +19,7 @@ private:
     QString m_message;
 };
 
+/** No memory is left; telling so takes none. */
 class OutOfMemoryError : public Error
 {
 public:
@@ -30,18 +31,21 @@ public:
     static QString mOutOfMemory;
 };
 
+/** What was given or asked for is of another type. */
 class ErrorTypeConflict : public Error
 {
 public:
     explicit ErrorTypeConflict(const QString &message);
 };
 
+/** There is nothing of this name. */
 class ErrorDoesNotExist : public Error
 {
 public:
     explicit ErrorDoesNotExist(const QString &message);
 };
 
+/** The name is taken. */
 class ErrorAlreadyExists : public Error
 {
 public:

@@ -8,7 +8,7 @@
 class Project;
 class QXmlStreamWriter;
 
-// A base of its own, so that it is there before the writer that refers to it.
+/** A base of its own, so that it is there before the writer that refers to it. */
 struct DataModelSerializerHolder
 {
     PropertySerializer serializer;

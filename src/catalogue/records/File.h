@@ -6,6 +6,7 @@
 
 class Project;
 
+/** A record of the catalogue: the children of one "file" element. */
 class File : public IFile, public PropertyStruct
 {
 public:

@@ -22,7 +22,7 @@ public:
     /** Replaces the file whole or, throwing Error, not at all. */
     virtual void save(const QString &path) = 0;
 
-    /** Empties everything, the undo stack too; not undoable. */
+    /** Empties the folders, the records and the tags, and the undo stack; not undoable. */
     virtual void clear() = 0;
 
     /** Absolute paths of the folders that are catalogued; undoable. */

@@ -5,6 +5,7 @@
 #include "properties/GProject.h"
 #include "properties/GUndoStack.h"
 
+/** The catalogue as a document; it gives its records their undo stack. */
 class Project : public IProject, public GProject
 {
 public:

@@ -5,6 +5,7 @@
 
 class Project;
 
+/** A thread of a record: the children of one "thread" element. */
 class Thread : public IThread, public PropertyStruct
 {
 public:

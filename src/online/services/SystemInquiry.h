@@ -29,4 +29,5 @@ public:
     static void overrideInstance(SystemInquiry *inquiry);
 };
 
+/** The inquiry of this platform, or what stands in its place; never null. */
 SystemInquiry *theSystemInquiry();
