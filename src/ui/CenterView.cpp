@@ -5,19 +5,33 @@
 #include "catalogue/models/ISelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "preview/grid/PreviewBrowser.h"
+#include "ui/EmptyHint.h"
 #include "ui/panels/FilterBar.h"
 
 #include <QVBoxLayout>
 
 CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
                        FilterSelectionModel *model)
-    : QWidget(parent), m_model(model), m_browser(new PreviewBrowser(this, project, model))
+    : QWidget(parent), m_model(model), m_filterBar(new FilterBar(this, project, model->filter())),
+      m_browser(new PreviewBrowser(this, project, model))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(new FilterBar(this, project, model->filter()));
+    layout->addWidget(m_filterBar);
     layout->addWidget(m_browser, 1);
+
+    auto *hint = new EmptyHint(m_browser, project, model->filter());
+    connect(hint, &EmptyHint::addFolderRequested, this, &CenterView::addFolderRequested);
+    connect(hint, &EmptyHint::allDesignsRequested, this, &CenterView::showAllDesigns);
+}
+
+void CenterView::showAllDesigns()
+{
+    m_filterBar->clear();
+    m_model->filter()->setTag(QString());
+    emit allFoldersRequested();
+    m_browser->setFocus(Qt::OtherFocusReason);
 }
 
 void CenterView::zoomIn()

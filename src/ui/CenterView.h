@@ -3,6 +3,7 @@
 #include <QSharedPointer>
 #include <QWidget>
 
+class FilterBar;
 class FilterSelectionModel;
 class PreviewBrowser;
 class Project;
@@ -24,7 +25,16 @@ public slots:
     /** Selects what the filter shows, not the whole catalogue. */
     void selectAll();
 
+signals:
+    /** The user, whose catalogue has no designs, wants to add a folder. */
+    void addFolderRequested();
+    /** The user wants the designs of all folders. */
+    void allFoldersRequested();
+
 private:
+    void showAllDesigns();
+
     FilterSelectionModel *m_model;
+    FilterBar *m_filterBar;
     PreviewBrowser *m_browser;
 };

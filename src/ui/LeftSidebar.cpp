@@ -14,10 +14,15 @@ LeftSidebar::LeftSidebar(QWidget *parent, const QSharedPointer<Project> &project
     setStyleSheet(WidgetStyles::LeftSideBar());
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
-    auto *directories = new DirectoriesBox(this, project, filter);
-    connect(directories, &DirectoriesBox::filesDropped, this, &LeftSidebar::filesDropped);
-    connect(directories, &DirectoriesBox::removeSelectedDirectory, this,
+    m_directories = new DirectoriesBox(this, project, filter);
+    connect(m_directories, &DirectoriesBox::filesDropped, this, &LeftSidebar::filesDropped);
+    connect(m_directories, &DirectoriesBox::removeSelectedDirectory, this,
             &LeftSidebar::removeSelectedDirectory);
-    addBox(directories);
+    addBox(m_directories);
     addBox(new TagsBox(this, project, filter));
+}
+
+void LeftSidebar::showAllFolders()
+{
+    m_directories->showAllFolders();
 }

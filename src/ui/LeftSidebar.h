@@ -5,6 +5,7 @@
 #include <QSharedPointer>
 #include <QStringList>
 
+class DirectoriesBox;
 class IFilterModel;
 class Project;
 
@@ -17,7 +18,14 @@ public:
     /** @param filter not owned, must outlive the side bar */
     LeftSidebar(QWidget *parent, const QSharedPointer<Project> &project, IFilterModel *filter);
 
+public slots:
+    /** Takes back the choice of a folder. */
+    void showAllFolders();
+
 signals:
     void filesDropped(const QStringList &paths);
     void removeSelectedDirectory();
+
+private:
+    DirectoriesBox *m_directories = nullptr;
 };

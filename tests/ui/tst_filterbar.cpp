@@ -26,6 +26,8 @@ private slots:
     void searchByShortcutAndEscape();
     void clearButton();
     void favoritesByKeyboard();
+    void clearLetsAllPass_data();
+    void clearLetsAllPass();
     void twoRowsWhenNarrow();
     void everyControlHasAName();
 
@@ -153,6 +155,33 @@ void tst_filterbar::favoritesByKeyboard()
     QCOMPARE(shown(), 1);
     QTest::mouseClick(child<QToolButton>("refreshButton"), Qt::LeftButton);
     QCOMPARE(shown(), 2);
+}
+
+void tst_filterbar::clearLetsAllPass_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("type") << QByteArray("fileTypeCombobox") << QStringLiteral("jef");
+    QTest::newRow("width") << QByteArray("widthCombobox") << QStringLiteral("1.5");
+    QTest::newRow("listed height") << QByteArray("heightCombobox") << QStringLiteral("90");
+    QTest::newRow("no box") << QByteArray() << QString();
+}
+
+void tst_filterbar::clearLetsAllPass()
+{
+    QFETCH(QByteArray, box);
+    QFETCH(QString, value);
+    m_project->files().at(2)->setDesignSize(QSizeF(99, 99));
+    if (!box.isEmpty())
+        child<QComboBox>(box.constData())->setCurrentText(value);
+    child<QLineEdit>("searchTextLineEdit")->setText(QStringLiteral("rose"));
+    child<QToolButton>("favoritesButton")->click();
+    QCOMPARE(shown(), 0);
+    m_bar->clear();
+    QCOMPARE(shown(), 3);
+    QVERIFY(!child<QToolButton>("favoritesButton")->isChecked());
+    if (!box.isEmpty())
+        QCOMPARE(child<QComboBox>(box.constData())->currentText(), QStringLiteral("any"));
 }
 
 void tst_filterbar::twoRowsWhenNarrow()

@@ -3,6 +3,7 @@
 #include "app/base/GlobalSettings.h"
 #include "app/frame/GAction.h"
 #include "preview/grid/PreviewBrowser.h"
+#include "ui/EmptyHint.h"
 #include "ui/LeftSidebar.h"
 #include "ui/MainWindow.h"
 #include "ui/panels/DirectoriesBox.h"
@@ -10,14 +11,18 @@
 #include "ui/RightSidebar.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
@@ -68,6 +73,9 @@ private slots:
     void removesFolders();
     void disablesRemovalInSubfolders();
     void keepsCatalogueAndLayout();
+    void emptySheetLeadsToAFolder();
+    void emptySheetTellsOfEmptyFolders();
+    void emptySheetLeadsOutOfTheFilter();
     void selectsWhatTheFilterShows();
     void transferAsksForASelection();
     void closesByKeyAndComesBack();
@@ -79,6 +87,9 @@ private:
     QString createFolder(const QString &name, const QStringList &designs);
     QAction *action(const QString &text) const;
     QGraphicsScene *scene() const;
+    EmptyHint *hint() const { return m_window->findChild<EmptyHint *>(); }
+    QString hintText() const { return hint()->findChild<QLabel *>()->text(); }
+    QPushButton *hintButton() const { return hint()->findChild<QPushButton *>(); }
     QString catalogue() const;
 
     std::unique_ptr<QTemporaryDir> m_directory;
@@ -251,6 +262,68 @@ void tst_mainwindow::keepsCatalogueAndLayout()
     QVERIFY(GSettings().contains(QStringLiteral("windowSettings/mainWindowSplitter")));
     QVERIFY(GSettings().contains(QStringLiteral("windowSettings/leftSidebarSplitter")));
     QVERIFY(GSettings().contains(QStringLiteral("windowSettings/RightSideBarSplitter")));
+}
+
+void tst_mainwindow::emptySheetLeadsToAFolder()
+{
+    open();
+    QVERIFY(hint()->isVisible());
+    QCOMPARE(hintText(), QStringLiteral("Add a folder with embroidery designs to begin."));
+    bool asked = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&asked] {
+        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+            asked = true;
+            dialog->reject();
+        }
+    });
+    timer.start(10);
+    hintButton()->setFocus();
+    QTest::keyClick(hintButton(), Qt::Key_Return);
+    QVERIFY(asked);
+    QVERIFY(hint()->isVisible());
+}
+
+void tst_mainwindow::emptySheetTellsOfEmptyFolders()
+{
+    const QString bare = createFolder(QStringLiteral("bare"), {});
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    open();
+    m_window->filesDropped({bare});
+    QVERIFY(
+        hintText().startsWith(QStringLiteral("No embroidery designs were found in your folders.")));
+    m_window->filesDropped({roses});
+    QVERIFY(!hint()->isVisible());
+    auto *tree = m_window->findChild<DirectoriesBox *>()->findChild<QTreeView *>();
+    tree->setCurrentIndex(tree->model()->index(0, 0));
+    QCOMPARE(hintText(), QStringLiteral("No embroidery designs were found in this folder."));
+    hintButton()->click();
+    QVERIFY(!hint()->isVisible());
+    QVERIFY(!tree->selectionModel()->hasSelection());
+}
+
+void tst_mainwindow::emptySheetLeadsOutOfTheFilter()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    const QString leaves = createFolder(QStringLiteral("leaves"), {QStringLiteral("leaf.dst")});
+    open();
+    m_window->filesDropped({roses, leaves});
+    auto *search = m_window->findChild<QLineEdit *>(QStringLiteral("searchTextLineEdit"));
+    auto *type = m_window->findChild<QComboBox *>(QStringLiteral("fileTypeCombobox"));
+    type->setCurrentText(QStringLiteral("hus"));
+    QTest::keyClicks(search, QStringLiteral("tulip"));
+    QVERIFY(hint()->isVisible());
+    QCOMPARE(hintText(), QStringLiteral("No design matches the filter."));
+    m_window->resize(1200, 800);
+    QTRY_COMPARE(hint()->size(), hint()->parentWidget()->size());
+
+    hintButton()->click();
+    QVERIFY(!hint()->isVisible());
+    QCOMPARE(scene()->items().isEmpty(), false);
+    action(QStringLiteral("Select all"))->trigger();
+    QCOMPARE(scene()->selectedItems().size(), 2);
+    QVERIFY(search->text().isEmpty());
+    QCOMPARE(m_window->focusWidget(), scene()->views().first());
 }
 
 void tst_mainwindow::selectsWhatTheFilterShows()

@@ -22,6 +22,7 @@ namespace {
 
 const QPointF StarPosition(5, 5);
 constexpr double LargestSmallGridScale = 0.5;
+constexpr int FocusFrameWidth = 3;
 
 int cardWidth(const GridEmbroideryItem::ItemLayout *layout)
 {
@@ -97,6 +98,19 @@ void GridEmbroideryItem::layoutItem(const ItemLayout *layout, double s)
     setRect(0, 0, width, width + labelHeight);
 }
 
+QString GridEmbroideryItem::fullName() const
+{
+    return singleLine(QFileInfo(m_path).fileName());
+}
+
+QString GridEmbroideryItem::description() const
+{
+    const QString size = LocaleAwareFunctions::toString(m_file->designSize(), m_labelsImperial);
+    const QString favorite = m_file->isFavorite() ? tr("favorite") : QString();
+    return size.isEmpty() || favorite.isEmpty() ? size + favorite
+                                                : size + QStringLiteral(", ") + favorite;
+}
+
 void GridEmbroideryItem::clearLabels()
 {
     m_nameLabel.clear();
@@ -105,9 +119,8 @@ void GridEmbroideryItem::clearLabels()
 
 void GridEmbroideryItem::fillLabels()
 {
-    const QString fullName = singleLine(QFileInfo(m_path).fileName());
     m_nameLabel =
-        QFontMetrics(QFont()).elidedText(fullName, Qt::ElideRight, qMax(0, m_maxLabelWidth));
+        QFontMetrics(QFont()).elidedText(fullName(), Qt::ElideRight, qMax(0, m_maxLabelWidth));
     if (m_layout->lines >= 2) {
         m_sizeLabel = LocaleAwareFunctions::toString(m_designSize, m_labelsImperial);
     }
@@ -169,6 +182,9 @@ void GridEmbroideryItem::paint(QPainter *painter, const QStyleOptionGraphicsItem
     QGraphicsRectItem::paint(painter, &plainOption, widget);
     paintPreview(painter);
     paintLabels(painter);
+    if (m_scene->focusedCard() == this) {
+        paintFocusFrame(painter);
+    }
 }
 
 void GridEmbroideryItem::paintPreview(QPainter *painter)
@@ -216,6 +232,20 @@ void GridEmbroideryItem::paintLabels(QPainter *painter)
     painter->setPen(Qt::black);
     painter->drawText(name, m_nameLabel);
     painter->drawText(name + QPoint(0, metrics.lineSpacing()), m_sizeLabel);
+    painter->restore();
+}
+
+void GridEmbroideryItem::paintFocusFrame(QPainter *painter)
+{
+    // Inside of the card, as wide at any zoom and on whole pixels.
+    const QRect card = painter->worldTransform().mapRect(rect()).toRect();
+    const QRegion frame = QRegion(card) - card.adjusted(FocusFrameWidth, FocusFrameWidth,
+                                                        -FocusFrameWidth, -FocusFrameWidth);
+    painter->save();
+    painter->resetTransform();
+    for (const QRect &side : frame) {
+        painter->fillRect(side, WidgetStyles::Primary700);
+    }
     painter->restore();
 }
 

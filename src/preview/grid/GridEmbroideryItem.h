@@ -3,6 +3,7 @@
 #include "catalogue/records/IFile.h"
 #include "preview/cache/PreviewCacheListener.h"
 #include "properties/Observer.h"
+#include <QCoreApplication>
 #include <QGraphicsRectItem>
 #include <QPixmap>
 #include <QSharedPointer>
@@ -22,6 +23,8 @@ class GridPreviewScene;
  */
 class GridEmbroideryItem : public QGraphicsRectItem, public Observer, public PreviewCacheListener
 {
+    Q_DECLARE_TR_FUNCTIONS(GridEmbroideryItem)
+
 public:
     /** The previews in scene units, the labels in screen pixels. */
     struct ItemLayout
@@ -39,6 +42,11 @@ public:
     ~GridEmbroideryItem() override;
 
     const QSharedPointer<IFile> &file() const { return m_file; }
+
+    /** The name of the file, on one line. */
+    QString fullName() const;
+    /** In words what the card shows beside the name: the size, whether it is a favourite. */
+    QString description() const;
 
     /** Reads name and size of the file anew. */
     void refreshLabels(bool imperial);
@@ -68,6 +76,7 @@ private:
     void unwatchFile();
     void paintPreview(QPainter *painter);
     void paintLabels(QPainter *painter);
+    void paintFocusFrame(QPainter *painter);
 
     QSharedPointer<IFile> m_file;
     GridPreviewScene *m_scene;

@@ -1,22 +1,53 @@
 #include "preview/grid/GridGraphicsView.h"
 
+#include "preview/grid/GridAccessible.h"
+#include "preview/grid/GridEmbroideryItem.h"
+#include "preview/grid/GridNavigation.h"
 #include "widgets/style/WidgetStyles.h"
-#include <QGraphicsScene>
+#include <algorithm>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainterPath>
+
+namespace {
+
+// Around a card that is scrolled into view, in pixels.
+constexpr int ScrollMargin = 10;
+
+GridPreviewScene::Selecting selectingWith(Qt::KeyboardModifiers modifiers)
+{
+    const bool control = modifiers & Qt::ControlModifier;
+    if (modifiers & Qt::ShiftModifier) {
+        return control ? GridPreviewScene::AddRange : GridPreviewScene::SelectRange;
+    }
+    return control ? GridPreviewScene::SelectNothing : GridPreviewScene::SelectCard;
+}
+
+} // namespace
 
 GridGraphicsView::GridGraphicsView(QWidget *parent) : EditorGraphicsView(parent)
 {
     setFrameShape(QFrame::NoFrame);
     // A few cards stand at the top, where the first of many would.
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    GridAccessible::install();
     setAccessibleName(tr("Designs"));
+    setAccessibleDescription(
+        tr("The arrow keys choose a design, Space enlarges it, F marks it as a favorite."));
     updateBackground();
 }
 
 void GridGraphicsView::updateBackground()
 {
     setBackgroundBrush(WidgetStyles::GraphicsViewPalette().brush(QPalette::Base));
+}
+
+void GridGraphicsView::setScene(GridPreviewScene *scene)
+{
+    m_gridScene = scene;
+    EditorGraphicsView::setScene(scene);
+    connect(scene, &GridPreviewScene::currentChanged, this,
+            [this](int index) { announce(QAccessible::Focus, index); });
 }
 
 void GridGraphicsView::changeEvent(QEvent *event)
@@ -61,9 +92,142 @@ void GridGraphicsView::keyPressEvent(QKeyEvent *event)
         clearSelection();
     } else if (event->key() == Qt::Key_Space) {
         emit openSelection();
-    } else {
+    } else if (!handleCardKey(event)) {
         EditorGraphicsView::keyPressEvent(event);
     }
+}
+
+bool GridGraphicsView::handleCardKey(QKeyEvent *event)
+{
+    const int key = event->key();
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (m_gridScene == nullptr) {
+        return false;
+    }
+    if (GridNavigation::isMovingKey(key) &&
+        !(modifiers & ~(Qt::ControlModifier | Qt::ShiftModifier))) {
+        moveByKey(key, selectingWith(modifiers));
+    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) &&
+               modifiers == Qt::ControlModifier) {
+        m_gridScene->toggleCurrent();
+        announce(QAccessible::Selection, m_gridScene->currentIndex());
+    } else if (key == Qt::Key_F && modifiers == Qt::NoModifier) {
+        if (!event->isAutoRepeat()) {
+            emit toggleFavorites();
+            announce(QAccessible::DescriptionChanged, m_gridScene->currentIndex());
+        }
+    } else if (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier) {
+        openContextMenu();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void GridGraphicsView::moveByKey(int key, GridPreviewScene::Selecting selecting)
+{
+    const int current = m_gridScene->currentIndex();
+    const GridNavigation navigation(m_gridScene->count(), m_gridScene->columns(), rowsPerPage());
+    const bool toAnEnd = key == Qt::Key_Home || key == Qt::Key_End;
+    const int target =
+        current >= 0 || toAnEnd ? navigation.target(key, current) : firstIndexInView();
+    if (target >= 0) {
+        m_usedByKeys = true;
+        m_gridScene->setFocusShown(hasFocus());
+        showCard(target);
+        m_gridScene->moveTo(target, selecting);
+    }
+}
+
+int GridGraphicsView::rowsPerPage() const
+{
+    const double rowHeight = m_gridScene->rowHeight() * currentZoomValue();
+    return rowHeight > 0.0 ? std::max(int(viewport()->height() / rowHeight), 1) : 1;
+}
+
+int GridGraphicsView::firstIndexInView() const
+{
+    const int index = m_gridScene->firstIndexBelow(mapToScene(QPoint()).y());
+    return std::min(index, m_gridScene->count() - 1);
+}
+
+void GridGraphicsView::showCard(int index)
+{
+    ensureVisible(m_gridScene->cardAt(index)->sceneBoundingRect(), ScrollMargin, ScrollMargin);
+}
+
+QRect GridGraphicsView::screenRectOf(int index) const
+{
+    const QRectF card = m_gridScene->cardAt(index)->sceneBoundingRect();
+    const QRect shown = mapFromScene(card).boundingRect();
+    return QRect(viewport()->mapToGlobal(shown.topLeft()), shown.size());
+}
+
+void GridGraphicsView::announce(QAccessible::Event type, int index)
+{
+    if (index >= 0 && hasFocus()) {
+        QAccessibleEvent event(this, type);
+        event.setChild(index);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void GridGraphicsView::focusInEvent(QFocusEvent *event)
+{
+    EditorGraphicsView::focusInEvent(event);
+    if (m_gridScene == nullptr) {
+        return;
+    }
+    const Qt::FocusReason reason = event->reason();
+    const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                       reason == Qt::ShortcutFocusReason;
+    if (byKey && m_gridScene->currentIndex() < 0 && m_gridScene->count() > 0) {
+        m_gridScene->moveTo(firstIndexInView(), GridPreviewScene::SelectNothing);
+    }
+    m_usedByKeys = m_usedByKeys || byKey;
+    m_gridScene->setFocusShown(m_usedByKeys);
+}
+
+void GridGraphicsView::focusOutEvent(QFocusEvent *event)
+{
+    EditorGraphicsView::focusOutEvent(event);
+    if (m_gridScene != nullptr) {
+        m_gridScene->setFocusShown(false);
+    }
+}
+
+void GridGraphicsView::mousePressEvent(QMouseEvent *event)
+{
+    if (m_gridScene != nullptr && event->button() == Qt::LeftButton) {
+        const int index = m_gridScene->indexAt(mapToScene(event->pos()));
+        // The frame is for those who have no pointer on the card.
+        m_usedByKeys = false;
+        m_gridScene->setFocusShown(false);
+        if (index >= 0) {
+            m_gridScene->beginAt(index);
+        }
+    }
+    EditorGraphicsView::mousePressEvent(event);
+}
+
+void GridGraphicsView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        openContextMenu();
+    } else {
+        EditorGraphicsView::contextMenuEvent(event);
+    }
+}
+
+void GridGraphicsView::openContextMenu()
+{
+    if (m_gridScene == nullptr || m_gridScene->currentIndex() < 0) {
+        return;
+    }
+    showCard(m_gridScene->currentIndex());
+    const QPoint center = screenRectOf(m_gridScene->currentIndex()).center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, viewport()->mapFromGlobal(center), center);
+    EditorGraphicsView::contextMenuEvent(&event);
 }
 
 void GridGraphicsView::selectAll()

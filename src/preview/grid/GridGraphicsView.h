@@ -1,6 +1,8 @@
 #pragma once
 
 #include "preview/grid/EditorGraphicsView.h"
+#include "preview/grid/GridPreviewScene.h"
+#include <QAccessible>
 
 /** The view of the grid: tells its width in scene units and handles the grid's keys. */
 class GridGraphicsView : public EditorGraphicsView
@@ -10,16 +12,28 @@ class GridGraphicsView : public EditorGraphicsView
 public:
     explicit GridGraphicsView(QWidget *parent = nullptr);
 
+    void setScene(GridPreviewScene *scene);
+    GridPreviewScene *gridScene() const { return m_gridScene; }
+
+    /** Where a card is on the screen, in pixels, though it may be scrolled out of the view. */
+    QRect screenRectOf(int index) const;
+
 signals:
     /** The view shows `width` scene units from left to right. */
     void widthChanged(int width);
     /** The user wants to see the selection enlarged. */
     void openSelection();
+    /** The user wants the favourite flag of the selection turned over. */
+    void toggleFavorites();
 
 protected:
     void changeEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
@@ -27,4 +41,15 @@ private:
     void selectAll();
     void clearSelection();
     void updateBackground();
+    bool handleCardKey(QKeyEvent *event);
+    void moveByKey(int key, GridPreviewScene::Selecting selecting);
+    int rowsPerPage() const;
+    int firstIndexInView() const;
+    void showCard(int index);
+    void openContextMenu();
+    void announce(QAccessible::Event type, int index);
+
+    GridPreviewScene *m_gridScene = nullptr;
+    // Rather than by the mouse, as of the last press.
+    bool m_usedByKeys = false;
 };

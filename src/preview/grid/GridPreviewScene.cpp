@@ -16,6 +16,11 @@ constexpr double SpacingPixels = 20.0;
 // From as many on, deleting cards one by one is slower than what deleteCards() does first.
 constexpr int ManyCards = 1000;
 
+bool comesBefore(const QGraphicsItem *a, const QGraphicsItem *b)
+{
+    return a->y() < b->y() || (a->y() == b->y() && a->x() < b->x());
+}
+
 } // namespace
 
 GridPreviewScene::GridPreviewScene(QObject *parent) : EditorScene(parent)
@@ -49,6 +54,8 @@ void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
         spare.insert(m_files.at(i), m_items.at(i));
     }
     const bool imperial = GlobalSettings().imperialUnits();
+    GridEmbroideryItem *current = m_items.value(m_current);
+    GridEmbroideryItem *anchor = m_items.value(m_anchor);
 
     m_files = files;
     m_items.clear();
@@ -61,6 +68,8 @@ void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
         card->setViewScaleFactor(m_scaleFactor);
         m_items.append(card);
     }
+    m_current = current != nullptr ? m_items.indexOf(current) : -1;
+    m_anchor = anchor != nullptr ? m_items.indexOf(anchor) : -1;
     deleteCards(spare.values());
     placeSprites(m_preferredSceneWidth);
 }
@@ -113,6 +122,7 @@ void GridPreviewScene::placeSprites(int width)
     int y = margin;
     int rowHeight = 0;
     QRectF sheet;
+    int columns = 0;
     for (GridEmbroideryItem *card : qAsConst(m_items)) {
         const QRectF rect = card->rect();
         const int w = qRound(rect.right()) - qRound(rect.left());
@@ -129,18 +139,39 @@ void GridPreviewScene::placeSprites(int width)
         sheet |= rect.translated(x, y);
         rowHeight = std::max(rowHeight, h);
         x += w + spacing;
+        columns += card->y() == m_items.first()->y() ? 1 : 0;
     }
+    m_columns = std::max(columns, 1);
+    m_rowHeight = m_items.isEmpty() ? 0.0 : rowHeight + spacing;
     setSceneRect(sheet.adjusted(-margin, -margin, margin, margin));
+}
+
+int GridPreviewScene::firstIndexBelow(double y) const
+{
+    // Rows follow each other downwards and their cards are equally high.
+    const auto isAbove = [y](const GridEmbroideryItem *card) {
+        return card->y() + card->rect().bottom() <= y;
+    };
+    return int(std::partition_point(m_items.constBegin(), m_items.constEnd(), isAbove) -
+               m_items.constBegin());
+}
+
+int GridPreviewScene::indexAt(const QPointF &pos) const
+{
+    const int first = firstIndexBelow(pos.y());
+    const int end = std::min(first + m_columns, count());
+    for (int i = first; i < end; ++i) {
+        if (m_items.at(i)->sceneBoundingRect().contains(pos)) {
+            return i;
+        }
+    }
+    return -1;
 }
 
 void GridPreviewScene::areaExposed(const QRectF &area)
 {
-    // Rows follow each other downwards and their cards are equally high.
-    const auto isAbove = [&area](const GridEmbroideryItem *card) {
-        return card->y() + card->rect().bottom() <= area.top();
-    };
     QSet<GridEmbroideryItem *> exposedItems;
-    auto card = std::partition_point(m_items.constBegin(), m_items.constEnd(), isAbove);
+    auto card = m_items.constBegin() + firstIndexBelow(area.top());
     for (; card != m_items.constEnd() && (*card)->y() < area.bottom(); ++card) {
         exposedItems.insert(*card);
     }
@@ -161,11 +192,13 @@ void GridPreviewScene::onSelectionChanged()
         return;
     }
     QScopedValueRollback<bool> guard(m_inSelectionChange, true);
+    // A few of many cards, as a rule: sorting those is faster than asking all.
+    QList<QGraphicsItem *> cards = selectedItems();
+    std::sort(cards.begin(), cards.end(), comesBefore);
     QList<QSharedPointer<IFile>> selected;
-    for (const GridEmbroideryItem *card : qAsConst(m_items)) {
-        if (card->isSelected()) {
-            selected.append(card->file());
-        }
+    selected.reserve(cards.size());
+    for (const QGraphicsItem *card : qAsConst(cards)) {
+        selected.append(static_cast<const GridEmbroideryItem *>(card)->file());
     }
     emit filesSelected(selected);
 }
@@ -182,6 +215,95 @@ void GridPreviewScene::selectFiles(const QList<QSharedPointer<IFile>> &files)
         if (card->isSelected() != select) {
             card->setSelected(select);
         }
+    }
+}
+
+void GridPreviewScene::moveTo(int index, Selecting selecting)
+{
+    if (m_anchor < 0) {
+        m_anchor = m_current >= 0 ? m_current : index;
+    }
+    setCurrent(index);
+    switch (selecting) {
+    case SelectNothing:
+        break;
+    case SelectCard:
+        m_anchor = index;
+        selectRange(index, index, false);
+        break;
+    case SelectRange:
+    case AddRange:
+        selectRange(std::min(m_anchor, index), std::max(m_anchor, index), selecting == AddRange);
+        break;
+    }
+}
+
+void GridPreviewScene::beginAt(int index)
+{
+    m_anchor = index;
+    setCurrent(index);
+}
+
+void GridPreviewScene::toggleCurrent()
+{
+    if (m_current >= 0) {
+        m_anchor = m_current;
+        m_items.at(m_current)->setSelected(!m_items.at(m_current)->isSelected());
+    }
+}
+
+void GridPreviewScene::setCurrent(int index)
+{
+    if (index != m_current) {
+        updateCurrentCard();
+        m_current = index;
+        updateCurrentCard();
+        emit currentChanged(index);
+    }
+}
+
+void GridPreviewScene::updateCurrentCard()
+{
+    if (m_current >= 0) {
+        m_items.at(m_current)->update();
+    }
+}
+
+void GridPreviewScene::setFocusShown(bool shown)
+{
+    if (shown != m_focusShown) {
+        m_focusShown = shown;
+        updateCurrentCard();
+    }
+}
+
+const GridEmbroideryItem *GridPreviewScene::focusedCard() const
+{
+    return m_focusShown && m_current >= 0 ? m_items.at(m_current) : nullptr;
+}
+
+void GridPreviewScene::selectRange(int first, int last, bool keepOthers)
+{
+    bool changed = false;
+    const auto select = [&changed](QGraphicsItem *card, bool selected) {
+        changed |= card->isSelected() != selected;
+        card->setSelected(selected);
+    };
+    {
+        QScopedValueRollback<bool> guard(m_inSelectionChange, true);
+        const QList<QGraphicsItem *> before =
+            keepOthers ? QList<QGraphicsItem *>() : selectedItems();
+        for (QGraphicsItem *card : before) {
+            if (comesBefore(card, m_items.at(first)) || comesBefore(m_items.at(last), card)) {
+                select(card, false);
+            }
+        }
+        for (int i = first; i <= last; ++i) {
+            select(m_items.at(i), true);
+        }
+    }
+    if (changed) {
+        onSelectionChanged();
     }
 }
 

@@ -18,10 +18,43 @@ public:
     explicit GridPreviewScene(QObject *parent = nullptr);
     ~GridPreviewScene() override;
 
+    /** What moving to a card does to the selection. */
+    enum Selecting { SelectNothing, SelectCard, SelectRange, AddRange };
+
     /** Shows these files in this order. Cards of files that stay are kept. */
     void setFiles(const QList<QSharedPointer<IFile>> &files);
 
     void areaExposed(const QRectF &area) override;
+
+    int count() const { return m_items.size(); }
+    /** The card at `index`, which must be one of count(). */
+    GridEmbroideryItem *cardAt(int index) const { return m_items.at(index); }
+    /** How many cards a full row has, at least 1. */
+    int columns() const { return m_columns; }
+    /** How far the tops of two rows are apart, in scene units; 0 without cards. */
+    double rowHeight() const { return m_rowHeight; }
+    /** The first card that reaches below `y`; count() where there is none. */
+    int firstIndexBelow(double y) const;
+    /** The card at a point of the sheet; -1 where there is none. */
+    int indexAt(const QPointF &pos) const;
+
+    /** The card that the keys act on, -1 while there is none. */
+    int currentIndex() const { return m_current; }
+    /**
+     * Makes a card the current one and selects it, or the range that began where the
+     * last single card was selected, in place of all others or in addition to them.
+     * A selection that changes is told once.
+     */
+    void moveTo(int index, Selecting selecting);
+    /** As if the user had pointed at the card: the next range begins there. */
+    void beginAt(int index);
+    /** Selects the current card or no longer does. */
+    void toggleCurrent();
+
+    /** Lets the current card show that it is. */
+    void setFocusShown(bool shown);
+    /** The card with the focus frame, if any. */
+    const GridEmbroideryItem *focusedCard() const;
 
     /** What the cards draw their previews from. */
     ThumbnailCache &thumbnails() { return m_thumbnails; }
@@ -41,16 +74,27 @@ public slots:
 
 signals:
     void filesSelected(const QList<QSharedPointer<IFile>> &files);
+    /** Another card is the current one. */
+    void currentChanged(int index);
 
 private:
     void replaceCards(const QList<QSharedPointer<IFile>> &files);
     void deleteCards(const QList<GridEmbroideryItem *> &cards);
+    void setCurrent(int index);
+    void updateCurrentCard();
+    void selectRange(int first, int last, bool keepOthers);
 
     QList<QSharedPointer<IFile>> m_files;
     // Parallel to m_files.
     QList<GridEmbroideryItem *> m_items;
     QSet<GridEmbroideryItem *> m_exposedItems;
     ThumbnailCache m_thumbnails;
+    int m_current = -1;
+    // Where a range begins.
+    int m_anchor = -1;
+    bool m_focusShown = false;
+    int m_columns = 1;
+    double m_rowHeight = 0.0;
     int m_preferredSceneWidth = 1024;
     double m_scaleFactor = 1.0;
     bool m_inSelectionChange = false;

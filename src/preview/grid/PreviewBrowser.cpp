@@ -9,6 +9,7 @@
 #include "preview/grid/GridGraphicsView.h"
 #include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PreviewSheet.h"
+#include <algorithm>
 #include <QEvent>
 #include <QVBoxLayout>
 
@@ -48,6 +49,7 @@ void PreviewBrowser::connectModels()
             &GridPreviewScene::setPreferredSceneWidth);
     connect(m_view, &EditorGraphicsView::zoomChanged, m_scene, &GridPreviewScene::setScaleFactor);
     connect(m_view, &GridGraphicsView::openSelection, this, &PreviewBrowser::previewSelection);
+    connect(m_view, &GridGraphicsView::toggleFavorites, this, &PreviewBrowser::toggleFavorites);
     connect(m_scene, &GridPreviewScene::filesSelected, m_models->selection(),
             &ISelectionModel::setSelection);
     connect(m_models->selection(), &ISelectionModel::selectionChanged, m_scene,
@@ -112,6 +114,21 @@ void PreviewBrowser::previewSelection()
     if (files.size() == 1) {
         PreviewSheet sheet(this, PreviewCache::instance().previewImage(files.first(), nullptr));
         sheet.exec();
+    }
+}
+
+void PreviewBrowser::toggleFavorites()
+{
+    const QList<QSharedPointer<IFile>> files = m_models->selection()->selectedFiles();
+    const auto isFavorite = [](const QSharedPointer<IFile> &file) { return file->isFavorite(); };
+    const bool mark = !std::all_of(files.begin(), files.end(), isFavorite);
+    if (files.isEmpty()) {
+        return;
+    }
+    const MacroBlock macro = m_project->undoStack()->createMacroBlock(
+        mark ? QStringLiteral("mark as favorite") : QStringLiteral("clear favorite flag"));
+    for (const QSharedPointer<IFile> &file : files) {
+        file->setFavorite(mark);
     }
 }
 

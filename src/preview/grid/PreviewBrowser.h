@@ -32,6 +32,8 @@ public slots:
     /** Shows the selected design enlarged, if it is exactly one. */
     void previewSelection();
     void filterChanged();
+    /** Marks the selected designs as favourites; takes the mark off when all of them have it. */
+    void toggleFavorites();
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -81,6 +81,13 @@ void DirectoriesBox::onDirectoryFilterChanged(const QString &path)
     m_tree->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
 }
 
+void DirectoriesBox::showAllFolders()
+{
+    m_tree->clearSelection();
+    // Nothing was selected where the tree does not have the folder.
+    m_filter->setDirectory(QString());
+}
+
 void DirectoriesBox::dragEnterEvent(QDragEnterEvent *event)
 {
     m_dropHelper->dragEnterEvent(event);

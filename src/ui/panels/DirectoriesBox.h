@@ -30,6 +30,8 @@ public:
 public slots:
     void onItemSelectionChanged();
     void onDirectoryFilterChanged(const QString &path);
+    /** Takes back the choice of a folder. */
+    void showAllFolders();
 
 signals:
     void filesDropped(const QStringList &folders);

@@ -143,6 +143,18 @@ void FilterBar::updateFileTypes()
     m_ui->fileTypeCombobox->addItems(types);
 }
 
+void FilterBar::clear()
+{
+    for (QComboBox *box : {m_ui->fileTypeCombobox, m_ui->widthCombobox, m_ui->heightCombobox}) {
+        box->setCurrentIndex(0);
+        if (box->isEditable())
+            box->setEditText(box->itemText(0));
+    }
+    m_ui->searchTextLineEdit->clear();
+    m_ui->favoritesButton->setChecked(false);
+    m_filter->setFavoritesOnly(false);
+}
+
 void FilterBar::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);

@@ -29,6 +29,8 @@ public slots:
     void setSearchTextFilter(const QString &text);
     void updateSizeWidgets();
     void updateFileTypes();
+    /** Lets every design pass that the bar has held back. */
+    void clear();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
