@@ -191,7 +191,8 @@ void GridGraphicsView::focusInEvent(QFocusEvent *event)
 void GridGraphicsView::focusOutEvent(QFocusEvent *event)
 {
     EditorGraphicsView::focusOutEvent(event);
-    if (m_gridScene != nullptr) {
+    // A context menu keeps telling what it is about.
+    if (m_gridScene != nullptr && event->reason() != Qt::PopupFocusReason) {
         m_gridScene->setFocusShown(false);
     }
 }

@@ -34,8 +34,8 @@ GridPreviewScene::GridPreviewScene(QObject *parent) : EditorScene(parent)
 
 GridPreviewScene::~GridPreviewScene()
 {
-    // The end of selected cards is not news when the scene goes.
-    m_inSelectionChange = true;
+    // The base class ends the selected cards, and there is no telling it any more.
+    disconnect(this, &QGraphicsScene::selectionChanged, this, nullptr);
 }
 
 void GridPreviewScene::setFiles(const QList<QSharedPointer<IFile>> &files)
