@@ -125,6 +125,33 @@
     </message>
 </context>
 <context>
+    <name>EmptyHint</name>
+    <message>
+        <source>Add a folder with embroidery designs to begin.</source>
+        <translation>Fügen Sie zum Anfangen einen Ordner mit Stickmustern hinzu.</translation>
+    </message>
+    <message>
+        <source>No embroidery designs were found in your folders. Add another folder, or put designs there and rescan.</source>
+        <translation>In Ihren Ordnern wurden keine Stickmuster gefunden. Fügen Sie einen weiteren Ordner hinzu, oder legen Sie dort Stickmuster ab und lesen Sie neu ein.</translation>
+    </message>
+    <message>
+        <source>No embroidery designs were found in this folder.</source>
+        <translation>In diesem Ordner wurden keine Stickmuster gefunden.</translation>
+    </message>
+    <message>
+        <source>No design matches the filter.</source>
+        <translation>Kein Stickmuster passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>Add folder...</source>
+        <translation>Ordner hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>Show all designs</source>
+        <translation>Alle Stickmuster zeigen</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>
@@ -255,10 +282,21 @@
     </message>
 </context>
 <context>
+    <name>GridEmbroideryItem</name>
+    <message>
+        <source>favorite</source>
+        <translation>Favorit</translation>
+    </message>
+</context>
+<context>
     <name>GridGraphicsView</name>
     <message>
         <source>Designs</source>
         <translation>Stickmuster</translation>
+    </message>
+    <message>
+        <source>The arrow keys choose a design, Space enlarges it, F marks it as a favorite.</source>
+        <translation>Die Pfeiltasten wählen ein Stickmuster, die Leertaste vergrößert es, F macht es zum Favoriten.</translation>
     </message>
 </context>
 <context>

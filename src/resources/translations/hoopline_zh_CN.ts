@@ -124,6 +124,33 @@
     </message>
 </context>
 <context>
+    <name>EmptyHint</name>
+    <message>
+        <source>Add a folder with embroidery designs to begin.</source>
+        <translation>请先添加一个包含刺绣花样的文件夹。</translation>
+    </message>
+    <message>
+        <source>No embroidery designs were found in your folders. Add another folder, or put designs there and rescan.</source>
+        <translation>您的文件夹中没有找到刺绣花样。请添加其他文件夹，或将花样放入其中后重新扫描。</translation>
+    </message>
+    <message>
+        <source>No embroidery designs were found in this folder.</source>
+        <translation>此文件夹中没有找到刺绣花样。</translation>
+    </message>
+    <message>
+        <source>No design matches the filter.</source>
+        <translation>没有符合筛选条件的花样。</translation>
+    </message>
+    <message>
+        <source>Add folder...</source>
+        <translation>添加文件夹…</translation>
+    </message>
+    <message>
+        <source>Show all designs</source>
+        <translation>显示全部花样</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>
@@ -253,10 +280,21 @@
     </message>
 </context>
 <context>
+    <name>GridEmbroideryItem</name>
+    <message>
+        <source>favorite</source>
+        <translation>已收藏</translation>
+    </message>
+</context>
+<context>
     <name>GridGraphicsView</name>
     <message>
         <source>Designs</source>
         <translation>花样</translation>
+    </message>
+    <message>
+        <source>The arrow keys choose a design, Space enlarges it, F marks it as a favorite.</source>
+        <translation>用方向键选择花样，按空格键放大，按 F 键收藏。</translation>
     </message>
 </context>
 <context>
