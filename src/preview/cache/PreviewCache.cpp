@@ -1,6 +1,7 @@
 #include "preview/cache/PreviewCache.h"
 
 #include "preview/cache/PreviewCacheListener.h"
+#include <QCoreApplication>
 #include <utility>
 
 namespace {
@@ -14,6 +15,8 @@ PreviewCache::PreviewCache() : m_loadingImage(QStringLiteral(":/loading.png")), 
 {
     connect(this, &PreviewCache::loadPreview, &m_worker, &PreviewCacheWorker::loadPreview);
     connect(&m_worker, &PreviewCacheWorker::previewLoaded, this, &PreviewCache::previewLoaded);
+    // Decoding uses globals of Qt that may be gone before this object is.
+    qAddPostRoutine([]() { instance().m_worker.stop(); });
 }
 
 PreviewCache &PreviewCache::instance()

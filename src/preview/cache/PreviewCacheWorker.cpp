@@ -28,6 +28,11 @@ PreviewCacheWorker::PreviewCacheWorker()
 
 PreviewCacheWorker::~PreviewCacheWorker()
 {
+    stop();
+}
+
+void PreviewCacheWorker::stop()
+{
     m_thread.requestInterruption();
     m_thread.quit();
     m_thread.wait();

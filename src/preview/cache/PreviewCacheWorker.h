@@ -21,6 +21,9 @@ public:
     PreviewCacheWorker();
     ~PreviewCacheWorker() override;
 
+    /** Ends the thread for good once the load under way is done; those still queued are dropped. */
+    void stop();
+
 public slots:
     /** Runs in the worker's thread; always answers with previewLoaded(). */
     void loadPreview(QByteArray key, QString path);
