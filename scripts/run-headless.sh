@@ -15,7 +15,7 @@ cleanup() {
 trap cleanup EXIT
 
 # The server picks a free display number by itself and tells it.
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 1280x800x24 -dpi 96 -nolisten tcp 3>"$work/display" 2>/dev/null &
 pids+=($!)
 for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.1; done
 [ -s "$work/display" ] || { echo "The virtual display did not start." >&2; exit 1; }
@@ -24,22 +24,19 @@ export DISPLAY
 export QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY
 
-openbox 2>/dev/null &
+openbox >/dev/null 2>&1 &
 pids+=($!)
 "$program" 2>"$work/log" &
 pids+=($!)
 app=$!
 
-# find_window: the id of the main window, once it is on the screen; the splash
-# screen is smaller and doesn't count.
+# find_window: the id of the main window, once the window manager has it on the
+# screen; the splash screen is smaller and doesn't count.
 find_window() {
-    local id WIDTH HEIGHT
-    for id in $(xdotool search --onlyvisible --pid "$app" 2>/dev/null); do
-        eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^(WIDTH|HEIGHT)=[0-9]+$')"
-        if [ "${WIDTH:-0}" -ge 900 ] && [ "${HEIGHT:-0}" -ge 600 ]; then
-            echo "$id"
-            return
-        fi
+    local id width
+    for id in $(xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -o '0x[0-9a-f]*' || true); do
+        width=$(xwininfo -id "$id" 2>/dev/null | awk '/Width:/ { print $2 }' || true)
+        [ "${width:-0}" -lt 900 ] || { echo "$id"; return; }
     done
 }
 

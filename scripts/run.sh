@@ -37,5 +37,5 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 
 echo "There is no display: the window opens on a virtual one."
-install_missing xvfb xdotool imagemagick openbox fonts-dejavu-core
+install_missing xvfb x11-utils imagemagick openbox fonts-dejavu-core
 "$root/scripts/run-headless.sh" "$bin/hoopline-organizer" "$demo/screenshot.png"

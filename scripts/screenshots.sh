@@ -1,0 +1,342 @@
+#!/usr/bin/env bash
+# screenshots.sh OUTDIR
+# Drives the program under a virtual display over samples/ and saves a picture of
+# every window and state there. The README's and the manual's pictures come from
+# here. Profiles are throw-away; nothing of whoever runs this is touched.
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
+
+out=${1:?usage: screenshots.sh OUTDIR}
+mkdir -p "$out"
+out=$(cd "$out" && pwd)
+
+install_missing "${build_packages[@]}" xvfb xdotool x11-utils imagemagick openbox fonts-dejavu-core \
+    fonts-noto-core fonts-noto-cjk
+build release hoopline-organizer hoopline-cli
+bin=$root/build/release/bin
+
+# Short, as sockets are named below it.
+work=$(mktemp -d /tmp/hoopline-shots.XXXXXX)
+app=
+pids=()
+cleanup() {
+    kill $app "${pids[@]}" 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+
+start_display() {
+    Xvfb -displayfd 3 -screen 0 2600x1700x24 -dpi 96 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    pids+=($!)
+    for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.1; done
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY QT_QPA_PLATFORM=xcb TMPDIR=$work
+    unset WAYLAND_DISPLAY
+    openbox >/dev/null 2>&1 &
+    pids+=($!)
+    sleep 1
+}
+
+# use_profile NAME: a fresh profile; the program knows nothing.
+use_profile() {
+    profile=$work/$1
+    mkdir -p "$profile"/{config,data,cache}
+    export XDG_CONFIG_HOME=$profile/config XDG_DATA_HOME=$profile/data XDG_CACHE_HOME=$profile/cache
+}
+
+# use_dark: the desktop of the profile has dark colours, which it tells as KDE does.
+use_dark() {
+    export XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+    cat >"$XDG_CONFIG_HOME/kdeglobals" <<'COLOURS'
+[Colors:Button]
+BackgroundNormal=52,59,63
+ForegroundNormal=227,232,233
+[Colors:Selection]
+BackgroundNormal=38,108,114
+ForegroundNormal=255,255,255
+[Colors:Tooltip]
+BackgroundNormal=61,70,75
+ForegroundNormal=241,244,244
+[Colors:View]
+BackgroundNormal=29,33,36
+BackgroundAlternate=34,39,42
+ForegroundNormal=227,232,233
+ForegroundLink=127,200,205
+ForegroundVisited=127,200,205
+[Colors:Window]
+BackgroundNormal=38,43,46
+ForegroundNormal=227,232,233
+COLOURS
+}
+
+use_light() { unset XDG_CURRENT_DESKTOP KDE_FULL_SESSION KDE_SESSION_VERSION; }
+
+# One file of each sample, the formats taking turns, as a collection looks.
+gather_designs() {
+    local formats=(dst pes jef pes dst pes jef) i=0 path file format
+    for path in "$root"/samples/*/*.dst; do
+        format=${formats[i++ % ${#formats[@]}]}
+        file=${path%.dst}.$format
+        [ -f "$file" ] || file=$path
+        mkdir -p "$work/Designs/$(basename "$(dirname "$path")")"
+        cp "$file" "$work/Designs/$(basename "$(dirname "$path")")/"
+    done
+}
+
+fill_profile() { "$bin/hoopline-cli" scan "$work/Designs" >/dev/null; }
+
+# client_windows: the windows of the program that the window manager knows, oldest first.
+client_windows() {
+    local id
+    for id in $(xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -o '0x[0-9a-f]*' || true); do
+        xprop -id "$id" _NET_WM_PID 2>/dev/null | grep -q " $app\$" && echo "$id"
+    done
+    true
+}
+
+# newest_window: the dialog that came up last.
+newest_window() { client_windows | grep -vx "$window" | tail -1 || true; }
+
+# main_window: the only window as large as that.
+main_window() {
+    local id width
+    for id in $(client_windows); do
+        width=$(xwininfo -id "$id" 2>/dev/null | awk '/Width:/ { print $2 }' || true)
+        [ "${width:-0}" -lt 900 ] || { echo "$id"; return; }
+    done
+}
+
+start() {
+    "$bin/hoopline-organizer" "$@" 2>"$work/log" &
+    app=$!
+    window=
+    for _ in $(seq 150); do
+        window=$(main_window || true)
+        [ -n "$window" ] && break
+        kill -0 "$app" 2>/dev/null || { cat "$work/log" >&2; exit 1; }
+        sleep 0.2
+    done
+    [ -n "$window" ] || {
+        import -window root "$out/failed.png"
+        cat "$work/log" >&2
+        echo "No window came up; failed.png shows the screen." >&2
+        exit 1
+    }
+    sleep 1.5
+    focus
+}
+
+stop() {
+    [ -n "$app" ] || return 0
+    kill "$app" 2>/dev/null || true
+    wait "$app" 2>/dev/null || true
+    app=
+}
+
+focus() { xdotool windowactivate --sync "$window" 2>/dev/null || true; sleep 0.3; }
+key() { xdotool key --clearmodifiers "$@"; sleep 0.4; }
+type_text() { xdotool type --delay 40 "$1"; sleep 0.6; }
+
+# click X Y [BUTTON]: in the main window, in its own pixels.
+click() { xdotool mousemove --window "$window" "$1" "$2" click "${3:-1}"; sleep 0.4; }
+point() { xdotool mousemove --window "$window" "$1" "$2"; sleep 0.5; }
+away() { xdotool mousemove 2590 1690; sleep 0.2; }
+
+# settle: waits until the main window has stopped changing.
+settle() {
+    local now previous= same=0
+    for _ in $(seq 40); do
+        now=$(import -window "$window" png:- | identify -format '%#' - 2>/dev/null)
+        if [ "$now" = "$previous" ]; then same=$((same + 1)); else same=0; fi
+        [ "$same" -ge 2 ] && return
+        previous=$now
+        sleep 0.25
+    done
+}
+
+# shot NAME: the main window. shot_top NAME: the dialog or menu before it.
+shot() { settle; import -window "$window" "$out/$1.png"; echo "$1"; }
+shot_top() {
+    sleep 0.6
+    local id
+    id=$(newest_window)
+    import -window "${id:-$window}" "$out/$1.png"
+    echo "$1"
+}
+# shot_over NAME: the main window with whatever stands before it.
+shot_over() {
+    sleep 0.6
+    local x y w h
+    read -r x y w h < <(xwininfo -id "$window" | awk '
+        /Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { y = $NF }
+        /Width:/ { w = $NF } /Height:/ { h = $NF } END { print x, y, w, h }')
+    import -window root -crop "${w}x${h}+$x+$y" +repage "$out/$1.png"
+    echo "$1"
+}
+
+resize() { xdotool windowsize --sync "$window" "$1" "$2"; sleep 0.8; }
+
+# Menus are walked with the arrow keys, which is the same in every language.
+open_menu() {
+    local i
+    click 20 11
+    for ((i = 0; i < $1; i++)); do key Right; done
+}
+open_preferences() { open_menu 0; key Up; key Up; key Return; sleep 0.8; }
+open_about() { open_menu 2; key Up; key Return; sleep 0.8; }
+
+main_window_shots() {
+    use_profile light
+    start
+    shot main-empty
+    open_menu 0
+    shot_over menu-file
+    key Escape
+    stop
+
+    fill_profile
+    start
+    resize 1280 820
+    away
+    shot main-filled
+    for percent in 75 50 33; do click 142 41; away; shot "zoom-$percent"; done
+    for _ in 1 2 3; do click 176 41; done
+    shot zoom-100
+    click 176 41; away; shot zoom-150
+    click 176 41; away; shot zoom-200
+    click 142 41; click 142 41
+    stop
+
+    start
+    resize 1280 820
+    click 620 250
+    click 1101 332; type_text "animals"; key Return
+    click 380 250
+    click 1101 332; type_text "animals"; key Return; type_text "blue"; key Return
+    away
+    shot selection
+    key space
+    shot_over preview-sheet
+    key Escape
+
+    xdotool keydown ctrl; click 620 250; click 860 250; xdotool keyup ctrl
+    away
+    shot multi-selection
+    click 230 41
+    shot_over transfer
+    key Escape
+
+    key ctrl+f
+    type_text "ro"
+    type_text "s"
+    shot main-filtered
+    key ctrl+f
+    type_text "zzz"
+    shot no-match
+    key Escape
+    stop
+}
+
+dialog_shots() {
+    local suffix=$1
+    start "${@:2}"
+    away
+    open_preferences
+    shot_top "preferences-settings$suffix"
+    key ctrl+Tab
+    shot_top "preferences-privacy$suffix"
+    key Escape
+    open_about
+    shot_top "about$suffix"
+    key Escape
+    click 54 41
+    shot_top "remove-folder$suffix"
+    key Escape
+    click 230 41
+    shot_top "nothing-selected$suffix"
+    key Escape
+    stop
+}
+
+# A folder large enough to be looked at while it is read.
+progress_shots() {
+    local i
+    mkdir -p "$work/Large"
+    for ((i = 0; i < 400; i++)); do
+        { cat "$root"/samples/Flowers/rose.dst; printf '%04d' "$i"; } >"$work/Large/rose $i.dst"
+    done
+    use_profile progress
+    start
+    click 20 41
+    sleep 1
+    shot_top add-folder
+    type_text "$work/Large"
+    key Return
+    sleep 1.2
+    shot_over progress
+    xdotool key Escape
+    sleep 1
+    stop
+}
+
+# The crash form, after a real crash.
+crash_shots() {
+    use_profile crash
+    start
+    stop
+    tnw_trigger_crash=true start
+    open_about
+    wait "$app" 2>/dev/null || true
+    "$bin/hoopline-organizer" 2>"$work/log" &
+    app=$!
+    window=none
+    sleep 3
+    shot_top crash-report
+    stop
+}
+
+start_display
+gather_designs
+
+use_light
+main_window_shots
+dialog_shots ""
+progress_shots
+crash_shots
+
+use_profile dark
+fill_profile
+use_dark
+start
+resize 1280 820
+click 380 250
+away
+shot main-dark
+stop
+dialog_shots -dark
+use_light
+
+for language in de zh-CN; do
+    use_profile "$language"
+    fill_profile
+    start "--language=$language"
+    click 380 250
+    away
+    shot "main-$language"
+    open_menu 0
+    shot_over "menu-file-$language"
+    key Escape
+    stop
+    dialog_shots "-$language" "--language=$language"
+done
+
+use_profile large
+fill_profile
+export QT_SCALE_FACTOR=2
+start
+xdotool mousemove --window "$window" 760 500 click 1
+away
+shot main-200-percent
+unset QT_SCALE_FACTOR
+stop
