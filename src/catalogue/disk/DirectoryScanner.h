@@ -52,7 +52,10 @@ public:
     QStringList findFilesRecursive(const QString &dir) const;
     QList<QFileInfo> fileInfoRecursive(const QString &dir) const;
 
-    /** All entries of one folder, sorted by name; names are in composed Unicode form. */
+    /**
+     * All entries of one folder, sorted by name. Names are in composed Unicode form where
+     * the file system finds the file by it, else as they are stored.
+     */
     QList<QFileInfo> allEntries(const QDir &dir) const;
 
     /** Those entries that are files and pass the filters. */
