@@ -208,7 +208,7 @@ void MainWindow::filesDropped(const QStringList &paths)
     for (QString path : paths) {
         if (!QFileInfo(path).isDir())
             continue;
-        if (path.endsWith(QLatin1Char('/')))
+        if (path.length() > 1 && path.endsWith(QLatin1Char('/')))
             path.chop(1);
         folders.append(path);
     }
