@@ -12,6 +12,7 @@
 #include "widgets/controls/GExpandingTitle.h"
 #include "widgets/controls/GTreeView.h"
 
+#include <functional>
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -76,6 +77,7 @@ private slots:
     void countOfManyFiles();
     void factsFollowTheFile();
     void notesAndTagsOfAll();
+    void recordsOutliveTheirEditors();
     void colors();
     void longNamesDontWidenThePanel();
 
@@ -335,6 +337,28 @@ void tst_sidepanels::notesAndTagsOfAll()
     QCOMPARE(file(2)->notes(), QStringLiteral("n"));
     box.setFiles({});
     QVERIFY(!box.findChild<QTextEdit *>()->isEnabled());
+}
+
+void tst_sidepanels::recordsOutliveTheirEditors()
+{
+    struct Record : File
+    {
+        Record(Project *project, const std::function<void()> &atEnd) : File(project), m_atEnd(atEnd)
+        {
+        }
+        ~Record() override { m_atEnd(); }
+
+        std::function<void()> m_atEnd;
+    };
+    PropertiesBox box(nullptr, m_project);
+    const auto *edit = box.findChild<QTextEdit *>();
+    QList<bool> editedAtEnd;
+    const auto atEnd = [&] { editedAtEnd += edit->isEnabled(); };
+    box.setFiles({QSharedPointer<Record>::create(m_project.data(), atEnd),
+                  QSharedPointer<Record>::create(m_project.data(), atEnd)});
+    QVERIFY(edit->isEnabled());
+    box.setFiles({});
+    QCOMPARE(editedAtEnd, (QList<bool>{false, false}));
 }
 
 void tst_sidepanels::colors()

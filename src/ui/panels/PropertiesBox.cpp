@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QTimer>
+#include <utility>
 
 namespace {
 
@@ -136,7 +137,8 @@ void PropertiesBox::setFiles(const QList<QSharedPointer<IFile>> &files)
 {
     for (const Observable *property : observedProperties())
         property->unregister(this);
-    m_files = files;
+    // The editors refer to properties of the old records until they are given new ones.
+    const QList<QSharedPointer<IFile>> oldFiles = std::exchange(m_files, files);
     for (const Observable *property : observedProperties())
         property->registerObserver(this);
     if (m_files.count() == 1)
