@@ -2,10 +2,14 @@
 
 #include "app/base/GSettings.h"
 #include "catalogue/models/FilterModel.h"
+#include "catalogue/models/FilterSelectionModel.h"
+#include "catalogue/models/ISelectionModel.h"
+#include "ui/CenterView.h"
 #include "ui/panels/PropertiesBox.h"
 #include "ui/panels/TagLabel.h"
 #include "ui/panels/TagsBox.h"
 #include "ui/panels/TagWidget.h"
+#include "ui/RightSidebar.h"
 
 #include <QTemporaryDir>
 #include <QTextEdit>
@@ -22,6 +26,7 @@ private slots:
     void select();
     void addTag();
     void removeTag();
+    void removeShownTag();
     void typeNote();
     void showSelection();
     void selectEverything();
@@ -86,6 +91,28 @@ void bench_panels::removeTag()
         tags->removeTag(&chip);
         QCoreApplication::processEvents();
     }
+}
+
+void bench_panels::removeShownTag()
+{
+    const QString tag = QStringLiteral("shown");
+    for (const QSharedPointer<IFile> &file : qAsConst(m_selection))
+        file->tagsProp()->setValueWithoutUndoAndAnnounceChange({tag});
+    FilterSelectionModel models(m_project);
+    CenterView center(nullptr, m_project, &models);
+    RightSidebar right(nullptr, m_project, models.selection());
+    center.show();
+    right.show();
+    models.filter()->setTag(tag);
+    models.selection()->setSelection(models.filter()->filteredFiles());
+    TagLabel chip(tag, TagLabel::SetOnAll, nullptr);
+    QBENCHMARK_ONCE
+    {
+        right.findChild<TagWidget *>()->removeTag(&chip);
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(models.filter()->filteredFiles().isEmpty());
+    QVERIFY(models.selection()->selectedFiles().isEmpty());
 }
 
 void bench_panels::typeNote()

@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <typeinfo>
-#include <utility>
 
 ChangeManager &ChangeManager::instance()
 {
@@ -91,9 +90,10 @@ void ChangeManager::finishBulkOperation(bool clearOutdated)
     m_bulkOperationActive = false;
     if (clearOutdated)
         clearOutdatedBulkChanges();
-    const QVector<const Observable *> pending = std::exchange(m_pendingAnnouncements, {});
+    const QVector<const Observable *> pending = m_pendingAnnouncements;
     for (const Observable *observable : pending)
         announceChange(observable);
+    m_pendingAnnouncements.clear();
 }
 
 void ChangeManager::clearOutdatedBulkChanges()

@@ -51,6 +51,15 @@ public:
      */
     void finishBulkOperation(bool clearOutdated);
 
+    /**
+     * What is held back or just being delivered, in order of its announcement. All
+     * these changes have happened. Only keys, which may be dead.
+     */
+    const QVector<const Observable *> &pendingAnnouncements() const
+    {
+        return m_pendingAnnouncements;
+    }
+
     bool isBulkOperationActive() const { return m_bulkOperationActive; }
 
     /** Diagnostic: logs the classes of @p observers at the current indent. */

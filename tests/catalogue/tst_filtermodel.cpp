@@ -20,6 +20,7 @@ private slots:
     void signalOrder();
     void unchangedResultIsNotTold();
     void singleFileChanges();
+    void changesOfManyFilesAreToldOnce();
     void renamedFileMoves();
     void fileListChanges();
     void deadRecordsAreForgotten();
@@ -216,6 +217,26 @@ void TestFilterModel::singleFileChanges()
     catalogue.project->files().at(0)->setDesignSize({6, 6});
     QCOMPARE(told.paths, QStringLiteral("/c"));
     QCOMPARE(Catalogue::paths(model.filteredFiles()), told.paths);
+}
+
+void TestFilterModel::changesOfManyFilesAreToldOnce()
+{
+    Catalogue catalogue;
+    QList<QSharedPointer<IFile>> files;
+    for (const char *path : {"/d/1.pes", "/d/2.pes", "/d/3.pes"})
+        files << catalogue.add(path);
+    for (const auto &file : qAsConst(files))
+        file->addTag(QStringLiteral("rose"));
+    FilterModel model(catalogue.project);
+    model.setTag(QStringLiteral("rose"));
+    const Told told(&model);
+    catalogue.project->undoStack()->beginMacroAndDeferAllAnnouncements(QString());
+    files.at(0)->removeTag(QStringLiteral("rose"));
+    files.at(1)->setAbsoluteFilePath(QStringLiteral("/d/4.pes"));
+    files.at(2)->removeTag(QStringLiteral("rose"));
+    catalogue.project->undoStack()->endMacroAndExecuteAnnouncements();
+    QCOMPARE(told.log, QStringList{QStringLiteral("filter")});
+    QCOMPARE(told.paths, QStringLiteral("/d/4.pes"));
 }
 
 void TestFilterModel::renamedFileMoves()

@@ -239,9 +239,14 @@ void tst_sidepanels::removeTagAsks()
     QCOMPARE(no.text, QStringLiteral("This tag is attached to 3 files"));
     QCOMPARE(m_project->allTags().count(), 2);
     Answer yes(QMessageBox::Yes);
+    m_project->undoStack()->clear();
+    QSignalSpy filtered(m_filter.get(), &FilterModel::filterChanged);
     box.removeTag();
     QVERIFY(file(0)->tags().isEmpty());
     QVERIFY(m_filter->tagFilter().isEmpty());
+    QVERIFY(filtered.count() <= 1);
+    QCOMPARE(m_project->undoStack()->count(), 1);
+    QCOMPARE(m_project->undoStack()->undoText(), QStringLiteral("remove tag"));
 
     list->selectTag(QStringLiteral("lily"));
     Answer unasked(QMessageBox::No);

@@ -1,6 +1,7 @@
 #include "catalogue/models/FilterModel.h"
 
 #include "catalogue/records/Project.h"
+#include "properties/ChangeManager.h"
 
 FilterModel::FilterModel(const QSharedPointer<Project> &project) : m_project(project)
 {
@@ -86,14 +87,7 @@ void FilterModel::observedObjectChanged(const Observable *observable)
         updateFilterListForAllFilesAndEmitChange();
         return;
     }
-    const QSharedPointer<IFile> file = m_observedProperties.value(observable);
-    if (!file)
-        return;
-    if (observable == file->absoluteFilePathProp()) {
-        m_orderIsValid = false;
-        m_filteredFilesAreValid = false;
-    }
-    updateFilterListForSingleFileAndEmitChange(file);
+    updateFilterListForSingleFileAndEmitChange(observable);
 }
 
 void FilterModel::watchFiles()
@@ -150,16 +144,34 @@ void FilterModel::updateFilterListForAllFilesAndEmitChange()
     emit filterChanged(matching);
 }
 
-void FilterModel::updateFilterListForSingleFileAndEmitChange(const QSharedPointer<IFile> &file)
+void FilterModel::updateFilterListForSingleFileAndEmitChange(const Observable *property)
 {
+    if (!updateFilterListForSingleFile(property))
+        return;
+    // What changed together is told together: each time costs the views a look at all designs.
+    const QVector<const Observable *> pending = ChangeManager::instance().pendingAnnouncements();
+    for (const Observable *other : pending)
+        updateFilterListForSingleFile(other);
+    emit filterChanged(filteredFiles());
+}
+
+bool FilterModel::updateFilterListForSingleFile(const Observable *property)
+{
+    const QSharedPointer<IFile> file = m_observedProperties.value(property);
+    if (!file)
+        return false;
+    if (property == file->absoluteFilePathProp()) {
+        m_orderIsValid = false;
+        m_filteredFilesAreValid = false;
+    }
     const bool wasIn = m_filteredSet.contains(file);
     const bool isIn = matchesFilter(file);
     if (wasIn == isIn)
-        return;
+        return false;
     if (isIn)
         m_filteredSet.insert(file);
     else
         m_filteredSet.remove(file);
     m_filteredFilesAreValid = false;
-    emit filterChanged(filteredFiles());
+    return true;
 }

@@ -39,7 +39,8 @@ private:
     void watchFiles();
     bool matchesFilter(const QSharedPointer<IFile> &file) const;
     void updateFilterListForAllFilesAndEmitChange();
-    void updateFilterListForSingleFileAndEmitChange(const QSharedPointer<IFile> &file);
+    void updateFilterListForSingleFileAndEmitChange(const Observable *property);
+    bool updateFilterListForSingleFile(const Observable *property);
     const QList<QSharedPointer<IFile>> &orderedFiles() const;
 
     QSharedPointer<Project> m_project;

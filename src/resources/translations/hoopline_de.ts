@@ -806,5 +806,9 @@
         <source>Tag with this name already exists!</source>
         <translation>Es gibt bereits ein Schlagwort mit diesem Namen!</translation>
     </message>
+    <message>
+        <source>remove tag</source>
+        <translation>Schlagwort entfernen</translation>
+    </message>
 </context>
 </TS>

@@ -801,5 +801,9 @@
         <source>Tag with this name already exists!</source>
         <translation>已存在同名标签！</translation>
     </message>
+    <message>
+        <source>remove tag</source>
+        <translation>移除标签</translation>
+    </message>
 </context>
 </TS>

@@ -94,8 +94,10 @@ void TagsBox::removeTag()
         if (answer == QMessageBox::No)
             return;
     }
+    m_project->undoStack()->beginMacroAndDeferAllAnnouncements(tr("remove tag"));
     m_controller.removeTag(tag);
     m_filter->setTag(QString());
+    m_project->undoStack()->endMacroAndExecuteAnnouncements();
 }
 
 void TagsBox::removeUnusedTags()
