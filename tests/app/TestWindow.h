@@ -3,13 +3,15 @@
 #include "app/application/GMainWindow.h"
 #include "app/base/GSettings.h"
 
+#include <QApplication>
+
 /** A window with a document that is whatever the test says. */
 class TestWindow : public GMainWindow
 {
     Q_OBJECT
 
 public:
-    using GMainWindow::GMainWindow;
+    Q_INVOKABLE TestWindow() = default;
     using GMainWindow::resizeHonoringScreenDimensions;
 
     bool loadFile(const QString &name) override
@@ -34,3 +36,14 @@ protected:
         setProperty("own", settings.value(QStringLiteral("own")));
     }
 };
+
+/** One of the windows there are; null when there is none. */
+inline GMainWindow *theWindow()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *window = qobject_cast<GMainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}

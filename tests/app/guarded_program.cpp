@@ -23,16 +23,6 @@ void letEventsIn()
     loop.exec();
 }
 
-GMainWindow *theWindow()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *window = qobject_cast<GMainWindow *>(widget))
-            return window;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 int main(int argc, char **argv)

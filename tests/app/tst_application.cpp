@@ -3,6 +3,7 @@
 #include "app/application/HooplineApplication.h"
 #include "app/base/Error.h"
 #include "app/frame/GAction.h"
+#include "app/frame/GFileTypeRegistry.h"
 #include "online/services/GUrlProvider.h"
 
 #include <QAbstractButton>
@@ -61,16 +62,6 @@ HooplineApplication *app()
     return HooplineApplication::instance();
 }
 
-GMainWindow *theWindow()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *window = qobject_cast<GMainWindow *>(widget))
-            return window;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class tst_application : public QObject
@@ -85,6 +76,7 @@ private slots:
     void hasItsDocuments();
     void offersHelpWithoutDocumentationAndFeedback();
     void barrierShowsErrors();
+    void barrierShowsErrorsOfWorkers();
     void barrierReportsExceptions();
     void barrierSwallowsTheUnknown();
     void makesOneWindowOnly();
@@ -97,6 +89,7 @@ private slots:
     void hiddenWindowStoresNothing();
     void closesOnceConfirmed();
     void tellsOfChangedSettings();
+    void opensAFileInItsWindow();
 };
 
 void tst_application::init()
@@ -166,6 +159,21 @@ void tst_application::barrierShowsErrors()
     QCOMPARE(answer.count, 1);
     QCOMPARE(answer.title, QStringLiteral("Error"));
     QCOMPARE(answer.text, QStringLiteral("The disk is full."));
+}
+
+void tst_application::barrierShowsErrorsOfWorkers()
+{
+    QThread worker;
+    Thrower thrower;
+    thrower.action = [] { throw Error(QStringLiteral("The preview is gone.")); };
+    thrower.moveToThread(&worker);
+    BoxAnswer answer(QMessageBox::Ok);
+    worker.start();
+    QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
+    QTRY_COMPARE(answer.count, 1);
+    QCOMPARE(answer.text, QStringLiteral("The preview is gone."));
+    worker.quit();
+    QVERIFY(worker.wait());
 }
 
 void tst_application::barrierReportsExceptions()
@@ -322,6 +330,32 @@ void tst_application::tellsOfChangedSettings()
     QSignalSpy sync(app(), &HooplineApplication::syncGlobalSettings);
     app()->emitSyncGlobalSettings();
     QCOMPARE(sync.count(), 1);
+}
+
+// Last, since a file type stays.
+void tst_application::opensAFileInItsWindow()
+{
+    const QString rose = QStringLiteral("/designs/rose.dst");
+    theFileTypeRegistry().registerType(QStringLiteral("design"), QStringLiteral(".dst"), QString(),
+                                       QString(), true, false, false, TestWindow::staticMetaObject);
+    auto *used = new TestWindow;
+    used->modified = true;
+    auto *unused = new TestWindow;
+    unused->canLoad = true;
+    app()->openFile(rose);
+    QVERIFY(used->loadedFiles.isEmpty());
+    QCOMPARE(unused->loadedFiles, QStringList(rose));
+    QCOMPARE(unused->fileName(), rose);
+    QVERIFY(unused->isVisible());
+
+    app()->openFile(rose);
+    QCOMPARE(unused->loadedFiles.size(), 1);
+
+    // All windows are used, and the new one can't load the file.
+    QSignalSpy request(app(), &GApplication::fileOpenRequest);
+    app()->openFile(QStringLiteral("/designs/LEAF.DST"));
+    QCOMPARE(request.count(), 1);
+    QTRY_COMPARE(app()->mainWindowCount(), 2);
 }
 
 int main(int argc, char **argv)

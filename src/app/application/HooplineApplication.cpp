@@ -101,13 +101,19 @@ bool HooplineApplication::notify(QObject *receiver, QEvent *event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const Error &error) {
-        QMessageBox::critical(nullptr, tr("Error"), error.toString());
+        showError(error.toString());
     } catch (const std::exception &exception) {
         reportException(exception);
     } catch (...) {
         logUnknownException();
     }
     return false;
+}
+
+void HooplineApplication::showError(const QString &text)
+{
+    // Also what a worker's event handler throws is shown by the thread that has the windows.
+    QMetaObject::invokeMethod(this, [text] { QMessageBox::critical(nullptr, tr("Error"), text); });
 }
 
 void HooplineApplication::emitSyncGlobalSettings()
@@ -146,7 +152,7 @@ void HooplineApplication::launch()
         window->show();
         QTimer::singleShot(NetworkDelay, this, &HooplineApplication::launchAsyncNetworkTasks);
     } catch (const Error &error) {
-        QMessageBox::critical(nullptr, tr("Error"), error.toString());
+        showError(error.toString());
         closeAllWindowsAndQuit();
     }
 }

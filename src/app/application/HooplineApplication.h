@@ -55,5 +55,7 @@ signals:
     void syncGlobalSettings();
 
 private:
+    void showError(const QString &text);
+
     QSharedPointer<WindowsUpdater> m_updater;
 };
