@@ -31,6 +31,8 @@ private slots:
     void init();
     void textContrast_data();
     void textContrast();
+    void textContrastWhereStatesShow_data();
+    void textContrastWhereStatesShow();
     void ownPaletteWhereTheDesktopHasNone();
     void styleSheetsFollowThePalette();
     void tagLabelContrast();
@@ -91,7 +93,10 @@ void tst_style::textContrast()
         {QPalette::ButtonText, QPalette::Button},
         {QPalette::HighlightedText, QPalette::Highlight},
         {QPalette::ToolTipText, QPalette::ToolTipBase},
-        {QPalette::Link, QPalette::Base}};
+        {QPalette::Link, QPalette::Base},
+        {QPalette::Link, QPalette::Window},
+        {QPalette::LinkVisited, QPalette::Base},
+        {QPalette::LinkVisited, QPalette::Window}};
     for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         for (const auto &pair : pairs) {
             const qreal ratio = WidgetHelper::contrast(used.color(group, pair.first),
@@ -102,6 +107,36 @@ void tst_style::textContrast()
                                                   .arg(ratio)));
         }
     }
+}
+
+void tst_style::textContrastWhereStatesShow_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << TnwMacStyle::lightPalette();
+    QTest::newRow("dark") << TnwMacStyle::darkPalette();
+}
+
+// The program's own palettes hold for more than a desktop's can be asked for: for rows in turns,
+// for buttons under the mouse or pressed, for menus, and for what cannot be used.
+void tst_style::textContrastWhereStatesShow()
+{
+    QFETCH(QPalette, palette);
+    QApplication::style()->polish(palette);
+    const QVector<QPair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
+        {QPalette::Text, QPalette::AlternateBase}, {QPalette::Text, QPalette::Window},
+        {QPalette::WindowText, QPalette::Base},    {QPalette::WindowText, QPalette::Button},
+        {QPalette::ButtonText, QPalette::Window},  {QPalette::ButtonText, QPalette::Midlight},
+        {QPalette::ButtonText, QPalette::Mid}};
+    for (const auto &pair : pairs) {
+        const qreal ratio =
+            WidgetHelper::contrast(palette.color(pair.first), palette.color(pair.second));
+        QVERIFY2(
+            ratio >= 4.5,
+            qPrintable(
+                QStringLiteral("roles %1 on %2: %3").arg(pair.first).arg(pair.second).arg(ratio)));
+    }
+    const QColor faded = palette.color(QPalette::Disabled, QPalette::WindowText);
+    QVERIFY(WidgetHelper::contrast(faded, palette.color(QPalette::Window)) >= 3.0);
 }
 
 void tst_style::ownPaletteWhereTheDesktopHasNone()
@@ -146,7 +181,13 @@ void tst_style::tagLabelContrast()
                 QRegularExpression(QStringLiteral("background-color:(#\\w+)")).match(sheet);
             const QRegularExpressionMatch text =
                 QRegularExpression(QStringLiteral("ElidedLabel \\{color:(#\\w+)")).match(sheet);
-            QVERIFY(background.hasMatch() && text.hasMatch());
+            const QRegularExpressionMatch hover =
+                QRegularExpression(
+                    QStringLiteral("hover \\{background-color:(#\\w+); color:(#\\w+)"))
+                    .match(sheet);
+            QVERIFY(background.hasMatch() && text.hasMatch() && hover.hasMatch());
+            QVERIFY(WidgetHelper::contrast(QColor(hover.captured(1)), QColor(hover.captured(2))) >=
+                    4.5);
             QVERIFY(WidgetHelper::contrast(QColor(background.captured(1)),
                                            QColor(text.captured(1))) >= 4.5);
         }
@@ -198,7 +239,8 @@ void tst_style::iconIsCrisp()
 void tst_style::selectionIsVisibleOnCards()
 {
     QVERIFY(WidgetHelper::contrast(WidgetStyles::Primary25, WidgetStyles::Primary100) > 1.3);
-    QVERIFY(WidgetHelper::contrast(Qt::black, WidgetStyles::Primary100) >= 4.5);
+    for (const QColor &tint : {WidgetStyles::Primary25, WidgetStyles::Primary100})
+        QVERIFY(WidgetHelper::contrast(Qt::black, tint) >= 4.5);
     QVERIFY(WidgetHelper::contrast(Qt::white, WidgetStyles::Primary800) >= 4.5);
 }
 

@@ -42,6 +42,7 @@ About::About(QWidget *parent) : QDialog(parent)
     layout->setContentsMargins(32, 24, 32, 16);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     QLabel *icon = addLine(layout, QString());
+    icon->setTextInteractionFlags(Qt::NoTextInteraction);
     icon->setPixmap(QApplication::windowIcon().pixmap(IconSize, IconSize));
     QLabel *title = addLine(layout, name);
     QFont font = title->font();

@@ -86,6 +86,7 @@ QWidget *About2::createBanner()
     layout->setSpacing(12);
     layout->addStretch();
     QLabel *icon = addLine(layout, QString(), 1.0);
+    icon->setTextInteractionFlags(Qt::NoTextInteraction);
     icon->setPixmap(QApplication::windowIcon().pixmap(IconSize, IconSize));
     addLine(layout, QApplication::applicationDisplayName(), 1.6);
     addLine(layout, About::versionText(), 1.0);

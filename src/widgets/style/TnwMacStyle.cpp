@@ -1,5 +1,6 @@
 #include "widgets/style/TnwMacStyle.h"
 
+#include "widgets/style/FlatControls.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
@@ -61,7 +62,10 @@ void makeReadable(QPalette &palette)
         makeReadable(palette, group, QPalette::ButtonText, QPalette::Button);
         makeReadable(palette, group, QPalette::HighlightedText, QPalette::Highlight);
         makeReadable(palette, group, QPalette::ToolTipText, QPalette::ToolTipBase);
-        makeReadable(palette, group, QPalette::Link, QPalette::Base);
+        for (QPalette::ColorRole link : {QPalette::Link, QPalette::LinkVisited}) {
+            makeReadable(palette, group, link, QPalette::Base);
+            makeReadable(palette, group, link, QPalette::Window);
+        }
         setPlaceholderColor(palette, group);
     }
 }
@@ -173,6 +177,13 @@ void drawFieldFrame(const QStyleOption *option, QPainter *painter)
     drawRoundedBox(painter, option->rect, Qt::NoBrush, pen);
 }
 
+void drawToolBar(const QStyleOption *option, QPainter *painter)
+{
+    const QRect &rect = option->rect;
+    painter->fillRect(rect, option->palette.window());
+    painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), option->palette.mid());
+}
+
 void drawFocusFrame(const QStyleOption *option, QPainter *painter)
 {
     const QRect rect = option->rect.adjusted(1, 1, -1, -1);
@@ -251,12 +262,19 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
         drawToolButtonPanel(option, painter);
         return;
     case PE_PanelButtonCommand:
-        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option)) {
+        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option))
             drawPushButtonPanel(button, painter);
-            return;
-        }
-        break;
+        // The end of a field with a list: the field has a frame already and the arrow is enough.
+        return;
     case PE_FrameDefaultButton:
+        return;
+    case PE_IndicatorCheckBox:
+        FlatControls::drawCheckBox(option, painter);
+        return;
+    case PE_FrameTabWidget:
+        FlatControls::drawTabPane(option, painter);
+        return;
+    case PE_FrameTabBarBase:
         return;
     case PE_Frame:
     case PE_FrameLineEdit:
@@ -271,14 +289,64 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
 void TnwMacStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                               const QWidget *widget) const
 {
-    if (element == CE_ToolBar) {
-        painter->fillRect(option->rect, option->palette.window());
-        painter->fillRect(
-            QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1),
-            option->palette.mid());
+    switch (element) {
+    case CE_ToolBar:
+        drawToolBar(option, painter);
+        return;
+    case CE_ProgressBarGroove:
+        FlatControls::drawProgressGroove(option, painter);
+        return;
+    case CE_ProgressBarContents: {
+        const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(option);
+        if (bar && bar->maximum > bar->minimum && (bar->state & State_Horizontal)) {
+            FlatControls::drawProgressContents(bar, painter);
+            return;
+        }
+        // A bar without a range shows a movement that the base style knows.
+        painter->save();
+        FlatControls::clipToProgressGroove(option, painter);
+        QProxyStyle::drawControl(element, option, painter, widget);
+        painter->restore();
         return;
     }
+    case CE_HeaderSection:
+        if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option)) {
+            FlatControls::drawHeaderSection(header, painter);
+            return;
+        }
+        break;
+    case CE_HeaderEmptyArea:
+        FlatControls::drawHeaderRest(option, painter);
+        return;
+    case CE_TabBarTabShape:
+        if (const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option)) {
+            FlatControls::drawTab(tab, painter, WidgetStyles::Accent());
+            return;
+        }
+        break;
+    default:
+        break;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void TnwMacStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                     QPainter *painter, const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (control == CC_ScrollBar && slider)
+        FlatControls::drawScrollBar(slider, painter);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect TnwMacStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                  SubControl part, const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (control == CC_ScrollBar && slider)
+        return FlatControls::scrollBarPart(slider, part);
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize TnwMacStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
@@ -302,6 +370,8 @@ int TnwMacStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
         return 4;
     case PM_ToolBarIconSize:
         return 24;
+    case PM_ScrollBarExtent:
+        return 14;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
