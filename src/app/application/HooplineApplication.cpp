@@ -8,6 +8,7 @@
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"
 #include "online/WindowsUpdater.h"
+#include "widgets/style/DesktopColorScheme.h"
 #include "widgets/style/WidgetStyles.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ HooplineApplication::HooplineApplication(int &argc, char **argv)
                    QString::fromLatin1(BuildConfig::Version), QStringLiteral("hl"), true)
 {
     WidgetStyles::init();
+    new DesktopColorScheme(this);
     setAttribute(Qt::AA_DisableWindowContextHelpButton);
     setWindowIcon(QIcon(QStringLiteral(":/hoopline-mac.png")));
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
