@@ -9,7 +9,8 @@
 
 namespace {
 constexpr QSize PictureSize(115, 290);
-}
+constexpr int PictureGap = 6;
+} // namespace
 
 FeedbackPage::FeedbackPage(QWidget *parent, const QString &image)
     : QWidget(parent), m_fields(new QVBoxLayout)
@@ -20,6 +21,7 @@ FeedbackPage::FeedbackPage(QWidget *parent, const QString &image)
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(label, 0, Qt::AlignTop);
     layout->addLayout(m_fields, 1);
+    m_fields->setContentsMargins(PictureGap, 0, 0, 0);
 }
 
 QPixmap FeedbackPage::picture(const QString &image) const

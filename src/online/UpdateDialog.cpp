@@ -50,8 +50,11 @@ void UpdateDialog::addPicture(QHBoxLayout *layout)
     if (pixmap.isNull())
         return;
     auto *picture = new QLabel;
-    picture->setPixmap(
-        pixmap.scaled(PictureSize, PictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    const qreal ratio = devicePixelRatioF();
+    QPixmap scaled = pixmap.scaled(QSize(PictureSize, PictureSize) * ratio, Qt::KeepAspectRatio,
+                                   Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    picture->setPixmap(scaled);
     layout->addWidget(picture, 0, Qt::AlignTop);
 }
 

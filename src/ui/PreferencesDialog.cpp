@@ -16,6 +16,7 @@ PreferencesDialog::PreferencesDialog(QWidget *parent)
     m_ui->setupUi(this);
     GlobalSettings settings;
     m_ui->appDataDirectory->setText(settings.applicationDataPath());
+    m_ui->appDataDirectory->setCursorPosition(0);
     m_ui->useImperialUnits->setChecked(settings.imperialUnits());
     updatePrivacyTab();
 }
