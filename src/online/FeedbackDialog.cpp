@@ -81,17 +81,21 @@ void FeedbackDialog::addCrashForm(QVBoxLayout *layout, const QString &message)
     apology->setWordWrap(true);
     m_description = new QTextEdit;
     m_description->setObjectName(QStringLiteral("description"));
+    m_description->setAccessibleName(tr("Description"));
     m_description->setAcceptRichText(false);
     m_description->setTabChangesFocus(true);
     m_description->setPlainText(message);
     auto *logs = new QTextEdit;
     logs->setObjectName(QStringLiteral("logs"));
     logs->setReadOnly(true);
+    logs->setTabChangesFocus(true);
     logs->setLineWrapMode(QTextEdit::NoWrap);
     logs->setPlainText(m_crashLogs.join(QStringLiteral("\n\n")));
     fields->addWidget(apology);
     fields->addWidget(m_description);
-    fields->addWidget(new QLabel(tr("You are sending the following information:")));
+    auto *caption = new QLabel(tr("You are sending the following information:"));
+    caption->setBuddy(logs);
+    fields->addWidget(caption);
     fields->addWidget(logs, 1);
     addMailField(fields);
     layout->addWidget(page);
@@ -183,6 +187,7 @@ void FeedbackDialog::addMailField(QVBoxLayout *layout)
     m_includeMail = new QCheckBox(tr("Include email address:"));
     m_mail = new QLineEdit(GSettings().feedbackMailAddress());
     m_mail->setEnabled(false);
+    m_mail->setAccessibleName(tr("Email address"));
     connect(m_includeMail, &QCheckBox::stateChanged, this, &FeedbackDialog::includeMailAddress);
     auto *row = new QHBoxLayout;
     row->addWidget(m_includeMail);
@@ -200,15 +205,17 @@ void FeedbackDialog::addPrivacyNote(QVBoxLayout *layout)
                  QCoreApplication::applicationName().toHtmlEscaped(),
                  QString::fromLatin1(BuildConfig::PrivacyUrl).toHtmlEscaped()));
     note->setWordWrap(true);
+    note->setTextInteractionFlags(Qt::TextBrowserInteraction);
     note->setOpenExternalLinks(true);
     layout->addWidget(note);
 }
 
 void FeedbackDialog::addButtons(QVBoxLayout *layout)
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto *buttons = new QDialogButtonBox;
     m_sendButton = buttons->addButton(tr("Send"), QDialogButtonBox::AcceptRole);
     m_sendButton->setObjectName(QStringLiteral("send"));
+    buttons->addButton(QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &FeedbackDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FeedbackDialog::reject);
     layout->addWidget(buttons);

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -20,11 +21,13 @@ ProgressDialog::ProgressDialog(QWidget *parent)
       m_cancelButton(new QPushButton(tr("Cancel"), this))
 {
     setModal(true);
+    setWindowTitle(QGuiApplication::applicationDisplayName());
     // File names are shown as they are, whatever they look like, and never widen the window.
     m_label->setTextFormat(Qt::PlainText);
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progressBar->setMinimumWidth(MinimumBarWidth);
     m_progressBar->setRange(0, 0);
+    m_progressBar->setAccessibleName(tr("Progress"));
     m_cancelButton->setAutoDefault(false);
     connect(m_cancelButton, &QPushButton::clicked, this, &ProgressDialog::reject);
 

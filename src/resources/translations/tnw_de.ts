@@ -162,6 +162,14 @@ Erstellt am %2</translation>
         <source>Sending message failed</source>
         <translation>Die Nachricht konnte nicht gesendet werden</translation>
     </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>E-Mail-Adresse</translation>
+    </message>
 </context>
 <context>
     <name>GApplication</name>

@@ -162,6 +162,14 @@ Built on %2</source>
         <source>Sending message failed</source>
         <translation>发送失败</translation>
     </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>电子邮件地址</translation>
+    </message>
 </context>
 <context>
     <name>GApplication</name>

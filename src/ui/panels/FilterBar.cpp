@@ -62,6 +62,8 @@ void FilterBar::initWidgets()
         // Completing what is typed would turn a 10 into the 100 of the list.
         box->setCompleter(nullptr);
         box->setInsertPolicy(QComboBox::NoInsert);
+        // Some assistive technologies take the chosen text for the name of a box.
+        box->setAccessibleDescription(box->accessibleName());
     }
     m_ui->searchTextLineEdit->installEventFilter(this);
 }
@@ -208,7 +210,21 @@ void FilterBar::setTwoRows(bool twoRows)
         size->setAlignment(Qt::Alignment());
         m_ui->horizontalLayout_5->insertLayout(1, size);
     }
+    updateTabOrder();
     m_ui->label_4->setVisible(!twoRows);
     m_ui->searchTextLineEdit->setPlaceholderText(
         twoRows ? m_ui->searchTextLineEdit->accessibleName() : QString());
+}
+
+void FilterBar::updateTabOrder()
+{
+    const QWidgetList sizes{m_ui->widthCombobox, m_ui->heightCombobox};
+    const QWidgetList search{m_ui->searchTextLineEdit, m_ui->clearTextButton, m_ui->favoritesButton,
+                             m_ui->refreshButton};
+    QWidget *previous = m_ui->fileTypeCombobox;
+    const QWidgetList order = m_twoRows ? search + sizes : sizes + search;
+    for (QWidget *widget : order) {
+        setTabOrder(previous, widget);
+        previous = widget;
+    }
 }

@@ -43,6 +43,7 @@ private:
     int minimumWidthOfSearchRow() const;
     int widthOfOneRow() const;
     void setTwoRows(bool twoRows);
+    void updateTabOrder();
 
     std::unique_ptr<Ui_FilterBarUI> m_ui;
     IFilterModel *m_filter;

@@ -23,6 +23,9 @@ public:
     MultiSelection multiSelect() const { return m_multiSelect; }
     void setMultiSelect(MultiSelection multiSelect);
 
+    /** What the Tab key reaches of a chip. */
+    QToolButton *removeButton() const { return m_removeButton; }
+
 signals:
     void removeTag(TagLabel *label);
 

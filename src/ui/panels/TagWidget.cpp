@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -234,7 +235,10 @@ TagLabel *TagWidget::createNewTagLabel()
     auto *label = new TagLabel(QString(), TagLabel::SetOnAll, this);
     m_flowLayout->addWidget(label);
     connect(label, &TagLabel::removeTag, this, &TagWidget::removeTag);
-    // Chips are made one after another; keep the field for a new tag behind the last of them.
-    setTabOrder(label, m_comboBox);
+    // A new chip is the window's last widget; it belongs before the field for a new tag.
+    QWidget *before = m_comboBox->previousInFocusChain();
+    while (before->focusPolicy() == Qt::NoFocus && before != m_comboBox)
+        before = before->previousInFocusChain();
+    setTabOrder(before, label->removeButton());
     return label;
 }

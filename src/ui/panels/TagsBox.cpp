@@ -52,8 +52,9 @@ void TagsBox::createButtons()
             &TagListWidget::startRenamingTag);
     connect(addButton("small_clear_alt", tr("Remove all unused tags")), &QToolButton::clicked, this,
             &TagsBox::removeUnusedTags);
-    connect(addButton("small_all", tr("Show all")), &QToolButton::clicked, this,
-            &TagsBox::clearTagFilter);
+    QToolButton *showAll = addButton("small_all", tr("Show all"));
+    connect(showAll, &QToolButton::clicked, this, &TagsBox::clearTagFilter);
+    setTabOrder(showAll, m_tagList);
 }
 
 void TagsBox::observedObjectChanged(const Observable *)

@@ -1,0 +1,316 @@
+#include "AccessibleWalk.h"
+#include "PanelFixture.h"
+
+#include "app/application/HooplineApplication.h"
+#include "app/base/GlobalSettings.h"
+#include "online/FeedbackDialog.h"
+#include "online/metrics/Metrics.h"
+#include "online/UpdateDialog.h"
+#include "preview/grid/PreviewSheet.h"
+#include "ui/CenterView.h"
+#include "ui/ExportDialog.h"
+#include "ui/LeftSidebar.h"
+#include "ui/MainWindow.h"
+#include "ui/PreferencesDialog.h"
+#include "ui/ProgressDialog.h"
+#include "ui/RightSidebar.h"
+#include "widgets/controls/About2.h"
+#include "widgets/controls/GMessageBox.h"
+#include "widgets/controls/GSideBarBox.h"
+#include "widgets/controls/GToolBar.h"
+
+#include <algorithm>
+#include <functional>
+#include <QAction>
+#include <QPointer>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using Maker = std::function<QWidget *()>;
+Q_DECLARE_METATYPE(Maker)
+
+namespace {
+
+constexpr int MostControls = 200;
+
+QString describe(QWidget *widget)
+{
+    const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+    return QStringLiteral("%1 '%2'").arg(QLatin1String(widget->metaObject()->className()), name);
+}
+
+/** The widgets that the Tab key has to reach. */
+QWidgetList reachable(const QWidget *window)
+{
+    QWidgetList found;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->window() == window && widget->isVisible() && widget->isEnabled() &&
+            !widget->focusProxy() && (widget->focusPolicy() & Qt::TabFocus))
+            found.append(widget);
+    }
+    return found;
+}
+
+/** The widgets in the order in which the Tab key leads from one to the next, once around. */
+QWidgetList tabOrder(QWidget *window)
+{
+    QWidgetList order;
+    for (int i = 0; i < MostControls; ++i) {
+        QTest::keyClick(window->windowHandle(), Qt::Key_Tab);
+        QWidget *current = QApplication::focusWidget();
+        // A text with links keeps the focus while Tab leads through these.
+        if (!current || (!order.isEmpty() && order.last() == current))
+            continue;
+        if (order.contains(current))
+            break;
+        order.append(current);
+    }
+    return order;
+}
+
+QWidget *paneOf(QWidget *widget)
+{
+    while (widget && !qobject_cast<GToolBar *>(widget) && !qobject_cast<GSideBarBox *>(widget) &&
+           !qobject_cast<CenterView *>(widget) && !widget->isWindow())
+        widget = widget->parentWidget();
+    return widget;
+}
+
+QRect place(const QWidget *widget)
+{
+    return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
+}
+
+/** Whether someone who reads line by line comes to \a second after \a first. */
+bool reads(const QRect &first, const QRect &second)
+{
+    const bool sameLine = second.top() <= first.bottom() && first.top() <= second.bottom();
+    return sameLine ? second.left() >= first.left() : second.top() > first.top();
+}
+
+} // namespace
+
+class tst_accessibility : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void controlsHaveNamesAndRoles_data();
+    void controlsHaveNamesAndRoles();
+    void tabReachesEverything_data();
+    void tabReachesEverything();
+    void tabLeadsThroughThePanes();
+    void linksAreReachedByKey_data();
+    void linksAreReachedByKey();
+
+private:
+    void show(QWidget *window);
+    QWidget *filledWindow();
+    void addWindows();
+    static QList<int> tabsOf(QWidget *window);
+
+    QTemporaryDir m_directory;
+    std::unique_ptr<QWidget> m_shown;
+};
+
+void tst_accessibility::initTestCase()
+{
+    QAccessible::setActive(true);
+    GlobalSettings().setApplicationDataPath(m_directory.filePath(QStringLiteral("data")));
+    QDir().mkpath(m_directory.filePath(QStringLiteral("data")));
+    QDir().mkpath(m_directory.filePath(QStringLiteral("roses/wild")));
+    for (const char *name : {"roses/a.dst", "roses/wild/b.dst", "roses/wild/c.dst"}) {
+        QFile file(m_directory.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray("LA:x\r").leftJustified(512) +
+                   QByteArray::fromHex("8100034000038180030000f3"));
+    }
+}
+
+void tst_accessibility::cleanup()
+{
+    m_shown.reset();
+}
+
+QWidget *tst_accessibility::filledWindow()
+{
+    auto *window = new MainWindow;
+    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    window->filesDropped({m_directory.filePath(QStringLiteral("roses"))});
+    window->findChild<CenterView *>()->selectAll();
+    auto *combo = window->findChild<RightSidebar *>()->findChild<QComboBox *>();
+    combo->setEditText(QStringLiteral("red"));
+    QTest::keyClick(combo, Qt::Key_Return);
+    combo->setEditText(QStringLiteral("to come"));
+    return window;
+}
+
+void tst_accessibility::show(QWidget *window)
+{
+    m_shown.reset(window);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+}
+
+void tst_accessibility::addWindows()
+{
+    QTest::addColumn<Maker>("make");
+    const auto row = [](const char *name, const Maker &make) { QTest::newRow(name) << make; };
+    row("main window", [this] { return filledWindow(); });
+    row("progress", [] {
+        auto *dialog = new ProgressDialog(nullptr);
+        dialog->setSteps(3);
+        return dialog;
+    });
+    row("transfer", [] { return new ExportDialog(nullptr, projectOfSize(2)->files()); });
+    row("preferences", [] { return new PreferencesDialog(nullptr); });
+    row("feedback", [] { return new FeedbackDialog(nullptr); });
+    row("crash report", [] {
+        return new FeedbackDialog(nullptr, {}, {QStringLiteral("log")}, QStringLiteral("text"));
+    });
+    row("update", [] {
+        return new UpdateDialog({QStringLiteral("9.0"), QStringLiteral("Nine"),
+                                 QUrl(QStringLiteral("https://example.org/notes")),
+                                 QUrl(QStringLiteral("https://example.org/file"))});
+    });
+    row("about", [] { return new About2(nullptr); });
+    row("preview", [] {
+        QPixmap picture(100, 100);
+        picture.fill(Qt::red);
+        return new PreviewSheet(nullptr, picture);
+    });
+    row("question",
+        [] { return new GMessageBox(GMessageBox::Question, nullptr, QStringLiteral("Really?")); });
+    row("message",
+        [] { return new GMessageBox(GMessageBox::Warning, nullptr, QStringLiteral("Beware")); });
+}
+
+/** The pages to look at; a window without tabs has one. */
+QList<int> tst_accessibility::tabsOf(QWidget *window)
+{
+    const auto *tabs = window->findChild<QTabWidget *>();
+    QList<int> pages;
+    for (int i = 0; i < (tabs ? tabs->count() : 1); ++i)
+        pages.append(i);
+    return pages;
+}
+
+void tst_accessibility::controlsHaveNamesAndRoles_data()
+{
+    addWindows();
+}
+
+void tst_accessibility::controlsHaveNamesAndRoles()
+{
+    QFETCH(Maker, make);
+    show(make());
+    QStringList faults;
+    for (int page : tabsOf(m_shown.get())) {
+        if (auto *tabs = m_shown->findChild<QTabWidget *>())
+            tabs->setCurrentIndex(page);
+        faults += AccessibleWalk::faults(m_shown.get());
+    }
+    faults.removeDuplicates();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void tst_accessibility::tabReachesEverything_data()
+{
+    addWindows();
+}
+
+void tst_accessibility::tabReachesEverything()
+{
+    QFETCH(Maker, make);
+    show(make());
+    for (int page : tabsOf(m_shown.get())) {
+        if (auto *tabs = m_shown->findChild<QTabWidget *>())
+            tabs->setCurrentIndex(page);
+        const QWidgetList expected = reachable(m_shown.get());
+        if (expected.isEmpty())
+            continue;
+        const QWidgetList order = tabOrder(m_shown.get());
+        QStringList missed;
+        for (QWidget *widget : expected) {
+            if (!order.contains(widget))
+                missed.append(describe(widget));
+        }
+        QVERIFY2(missed.isEmpty(), qPrintable(missed.join(QLatin1Char('\n'))));
+        QCOMPARE(order.size(), expected.size());
+        // Once around a ring; where it begins is where the focus was.
+        QStringList backwards;
+        for (int i = 0; i < order.size(); ++i) {
+            QWidget *next = order.at((i + 1) % order.size());
+            if (paneOf(order.at(i)) == paneOf(next) && !reads(place(order.at(i)), place(next)))
+                backwards.append(describe(order.at(i)) + QStringLiteral(" -> ") + describe(next));
+        }
+        const bool panes = qobject_cast<MainWindow *>(m_shown.get());
+        QVERIFY2(backwards.size() <= (panes ? 0 : 1),
+                 qPrintable(backwards.join(QLatin1Char('\n'))));
+    }
+}
+
+void tst_accessibility::tabLeadsThroughThePanes()
+{
+    show(filledWindow());
+    QWidgetList panes;
+    const QWidgetList order = tabOrder(m_shown.get());
+    for (QWidget *widget : order) {
+        if (panes.isEmpty() || panes.last() != paneOf(widget))
+            panes.append(paneOf(widget));
+    }
+    if (panes.size() > 1 && panes.first() == panes.last())
+        panes.removeLast();
+    std::rotate(panes.begin(), panes.begin() + panes.indexOf(m_shown->findChild<GToolBar *>()),
+                panes.end());
+    QStringList names;
+    for (const QWidget *pane : qAsConst(panes))
+        names.append(QString::fromLatin1(pane->metaObject()->className()));
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("GToolBar DirectoriesBox TagsBox CenterView PropertiesBox"));
+}
+
+void tst_accessibility::linksAreReachedByKey_data()
+{
+    addWindows();
+}
+
+void tst_accessibility::linksAreReachedByKey()
+{
+    QFETCH(Maker, make);
+    show(make());
+    const auto labels = m_shown->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->text().contains(QLatin1String("<a ")))
+            QVERIFY2(label->textInteractionFlags() & Qt::LinksAccessibleByKeyboard,
+                     qPrintable(label->text()));
+    }
+}
+
+int main(int argc, char **argv)
+{
+    Q_INIT_RESOURCE(tnw_resources);
+    Q_INIT_RESOURCE(hoopline_resources);
+    HooplineApplication application(argc, argv);
+    // The window of the start is one of the program's own; it is not what is tested.
+    QPointer<MainWindow> first;
+    HooplineApplication::setWindowFactory([&first] { return first = new MainWindow; });
+    GSettings().setAutoUpdatesEnabled(false);
+    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
+    Metrics::setEndpoint(QUrl(QStringLiteral("http://127.0.0.1:9")));
+    Metrics::createInstance(QStringLiteral("40817263"));
+    QCoreApplication::processEvents();
+    delete first;
+    tst_accessibility test;
+    const int result = QTest::qExec(&test, argc, argv);
+    Metrics::deleteInstance();
+    return result;
+}
+
+#include "tst_accessibility.moc"
