@@ -1,7 +1,7 @@
-#include "LargeCatalogue.h"
 #include "catalogue/models/FileOrder.h"
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
+#include "LargeCatalogue.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "LargeCatalogue.h"
 #include "catalogue/models/FilterSelectionModel.h"
+#include "LargeCatalogue.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>

@@ -8,6 +8,8 @@
 #include "properties/PropertyXMLReader.h"
 #include "properties/PropertyXMLWriter.h"
 #include "properties/ThrowHelper.h"
+#include "properties/XmlAttributeOrder.h"
+#include "properties/XmlTools.h"
 
 #include <QtTest>
 
@@ -66,7 +68,14 @@ private:
 
 QString TestPropertyXml::write(Property *property)
 {
-    return PropertyXMLWriter(QStringLiteral("/base"), &m_storage).writeToXML(property).toString(-1);
+    const QDomDocument document =
+        PropertyXMLWriter(QStringLiteral("/base"), &m_storage).writeToXML(property);
+    // A DOM has its attributes in a hash; this road gives them one order.
+    QByteArray xml;
+    QXmlStreamWriter writer(&xml);
+    XmlAttributeOrder order;
+    XmlTools::serialize(writer, document.documentElement(), &order, {});
+    return QString::fromUtf8(xml);
 }
 
 void TestPropertyXml::read(Property *property, const QString &xml)
