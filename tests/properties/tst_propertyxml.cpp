@@ -105,7 +105,7 @@ void TestPropertyXml::forms_data()
     };
     row("bool", make<PropertyBool>(true), make<PropertyBool>(false), "<p>true</p>");
     row("string", make<PropertyString>(QStringLiteral(" a<b>&\" ")),
-        make<PropertyString>(QString()), "<p> a&lt;b>&amp;\" </p>");
+        make<PropertyString>(QString()), "<p> a&lt;b&gt;&amp;&quot; </p>");
     row("int", make<PropertyInt>(-12), make<PropertyInt>(0), "<p>-12</p>");
     row("unsigned", make<PropertyUnsignedInt>(4000000000U), make<PropertyUnsignedInt>(0U),
         "<p>4000000000</p>");
@@ -149,7 +149,7 @@ void TestPropertyXml::tolerance_data()
     row("no colour", make<PropertyColor>(QColor(Qt::red)), "<p>x</p>", "<p>#000000</p>");
     row("alpha", make<PropertyColor>(QColor(Qt::red)), "<p>#80123456</p>", "<p>#123456</p>");
     row("entities", make<PropertyString>(QString()), "<p>&lt;&#13;<![CDATA[&]]></p>",
-        "<p>&lt;&#xd;&amp;</p>");
+        "<p>&lt;&#13;&amp;</p>");
     row("nested strings", make<PropertyStringList>(QStringList()),
         "<p><x><string>a</string></x><string/></p>", "<p><string>a</string><string></string></p>");
 }
@@ -208,8 +208,7 @@ void TestPropertyXml::missingElementsKeepTheirDefaults()
     record.addProperty(new PropertyInt(&m_project, QStringLiteral("c"), 5));
     read(&record, QStringLiteral("<record><c>7</c><unknown/><b y='3'/><c>8</c></record>"));
     QCOMPARE(write(&record),
-             QStringLiteral("<record><a>5</a><b x=\"0\" y=\"3\"/><c>7</c></record>")
-                 .replace(QStringLiteral("x=\"0\" y=\"3\""), write(point).mid(3).chopped(2)));
+             QStringLiteral("<record><a>5</a><b x=\"0\" y=\"3\"/><c>7</c></record>"));
     QCOMPARE(point->value(), QPointF(0, 3));
 }
 
