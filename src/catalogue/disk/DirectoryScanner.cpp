@@ -27,6 +27,13 @@ static QStringList entryNames(const QDir &dir)
 #endif
 }
 
+/** QDir::filePath() would take a name that begins with a colon for a compiled-in resource. */
+static QString entryPath(const QDir &dir, const QString &name)
+{
+    const QString path = dir.path();
+    return path.endsWith(QLatin1Char('/')) ? path + name : path + QLatin1Char('/') + name;
+}
+
 /**
  * The composed form of a name, which is how the catalogue compares names. Where the file
  * system tells the two forms apart, only the name as it is stored opens the file.
@@ -36,7 +43,8 @@ static QString composedName(const QDir &dir, const QString &name, const QStringL
     const QString composed = name.normalized(QString::NormalizationForm_C);
     if (composed == name)
         return name;
-    const bool reachesTheFile = dir.exists(composed) && !names.contains(composed);
+    const bool reachesTheFile =
+        QFileInfo::exists(entryPath(dir, composed)) && !names.contains(composed);
     return reachesTheFile ? composed : name;
 }
 
@@ -136,7 +144,7 @@ QList<QFileInfo> DirectoryScanner::allEntries(const QDir &dir) const
     QList<QFileInfo> entries;
     const QStringList names = entryNames(dir);
     for (const QString &name : names) {
-        const QFileInfo entry(dir, composedName(dir, name, names));
+        const QFileInfo entry(entryPath(dir, composedName(dir, name, names)));
         if (m_returnHidden || !entry.isHidden())
             entries.append(entry);
     }
