@@ -36,6 +36,11 @@ QStringList inOrder(const QSet<QString> &paths)
     return list;
 }
 
+bool bearsUserData(const IFile &file)
+{
+    return file.isFavorite() || !file.notes().isEmpty() || !file.tags().isEmpty();
+}
+
 QFileInfoList previewFiles(const QString &directory)
 {
     return QDir(directory).entryInfoList({QStringLiteral("*.png")}, QDir::Files, QDir::Unsorted);
@@ -123,7 +128,11 @@ QSet<QString> FileSync::reconnectFiles(const Paths &fresh, const Paths &gone)
     for (const QSharedPointer<IFile> &file : files) {
         if (!gone.contains(file->absoluteFilePath()))
             continue;
-        vanished.insert(file->contentHash(), file);
+        QSharedPointer<IFile> &survivor = vanished[file->contentHash()];
+        // Of several copies only one survives; none that the user has worked on shall give way
+        // to one that he hasn't.
+        if (!survivor || bearsUserData(*file) || !bearsUserData(*survivor))
+            survivor = file;
         sizes.insert(file->fileSize());
     }
 
@@ -208,18 +217,16 @@ int FileSync::updateFileData(const QSharedPointer<IFile> &file)
     }
     m_listener->proceed(QStringLiteral("Loading ") + info.fileName());
 
-    const qint64 date = info.lastModified().toSecsSinceEpoch();
-    const QByteArray oldHash = file->contentHash();
-    if (date == file->modificationDate() && info.size() == file->fileSize() && !oldHash.isEmpty() &&
-        m_existingPreviewKeys.contains(oldHash))
+    if (isUnchanged(*file, info))
         return 0;
 
-    file->setModificationDate(static_cast<unsigned int>(date));
-    file->setFileSize(static_cast<int>(info.size()));
+    // Ahead of the new date and size: a file that can't be read must look changed the next time.
     const QByteArray bytes = FileTools::readAll(path, FileTools::Binary);
+    file->setModificationDate(static_cast<unsigned int>(info.lastModified().toSecsSinceEpoch()));
+    file->setFileSize(static_cast<int>(info.size()));
     const QByteArray hash = calculateContentHash(bytes);
     const bool hasPreview = m_existingPreviewKeys.contains(hash);
-    if (hash == oldHash && hasPreview)
+    if (hash == file->contentHash() && hasPreview)
         return 1;
 
     file->setContentHash(hash);
@@ -233,6 +240,14 @@ int FileSync::updateFileData(const QSharedPointer<IFile> &file)
     if (!hasPreview)
         updatePreviewImage(pattern, hash);
     return 1;
+}
+
+bool FileSync::isUnchanged(const IFile &file, const QFileInfo &onDisk) const
+{
+    const QByteArray hash = file.contentHash();
+    return onDisk.lastModified().toSecsSinceEpoch() == file.modificationDate() &&
+           onDisk.size() == file.fileSize() && !hash.isEmpty() &&
+           m_existingPreviewKeys.contains(hash);
 }
 
 QSharedPointer<Embroidery::EmbPattern> FileSync::readPattern(const QString &path,
@@ -292,7 +307,8 @@ QSet<QByteArray> FileSync::allContentKeys() const
 
 void FileSync::removePreviewFiles(const QSet<QByteArray> &orphans)
 {
-    if (m_maxCacheSizeMB != 0 && previewDirectorySizeMB() <= m_maxCacheSizeMB)
+    if (orphans.isEmpty() ||
+        (m_maxCacheSizeMB != 0 && previewDirectorySizeMB() <= m_maxCacheSizeMB))
         return;
     for (const QByteArray &key : orphans)
         QFile::remove(m_settings.previewImagePath(key));

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+class QFileInfo;
 namespace Embroidery {
 class EmbPattern;
 }
@@ -66,6 +67,7 @@ private:
     void addFileData(const Paths &fresh);
     void updateFileData(const Paths &kept);
     int updateFileData(const QSharedPointer<IFile> &file);
+    bool isUnchanged(const IFile &file, const QFileInfo &onDisk) const;
     Pattern readPattern(const QString &path, const QByteArray &bytes);
     void copyMetaData(const Pattern &pattern, const QSharedPointer<IFile> &file);
     void updatePreviewImage(const Pattern &pattern, const QByteArray &hash);
