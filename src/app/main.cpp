@@ -1,6 +1,7 @@
 #include "app/application/SingleApplication.h"
 #include "app/base/DependencyRegistry.h"
 #include "app/base/ExitDeadline.h"
+#include "app/base/FileNameEncoding.h"
 #include "app/base/GLogServer.h"
 #include "app/base/GSettings.h"
 #include "app/base/GTranslationLoader.h"
@@ -25,6 +26,7 @@ constexpr int LogEverything = 0x7fffffff;
 // Q_INIT_RESOURCE declares what it calls in the namespace around it, so these are outside of one.
 static void initializeFrame()
 {
+    FileNameEncoding::useUtf8();
     GApplicationAddons::basicInitialization();
     Q_INIT_RESOURCE(tnw_resources);
     theDependencyRegistry()->setConstructorWith1ParameterForRole<QDialog, About2, QWidget *>(

@@ -1,5 +1,6 @@
 #include "app/base/BuildConfig.h"
 #include "app/base/Error.h"
+#include "app/base/FileNameEncoding.h"
 #include "app/base/GDebug.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
@@ -9,7 +10,6 @@
 #include "cli/ScanCommand.h"
 #include <exception>
 #include <QGuiApplication>
-#include <QTextCodec>
 
 namespace {
 
@@ -57,10 +57,7 @@ int run(QStringList arguments)
 
 int main(int argc, char **argv)
 {
-#ifdef Q_OS_UNIX
-    // The catalogue holds names decoded as UTF-8, whatever the locale of this shell.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-#endif
+    FileNameEncoding::useUtf8();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     theLogServer()->setGlobalLogLevel(CriticalMessagesOnly);
