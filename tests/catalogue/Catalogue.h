@@ -2,16 +2,19 @@
 
 #include "catalogue/records/Project.h"
 
+#include <QFileInfo>
 #include <QSharedPointer>
 
 /** A catalogue to test with, and short ways to say what is in it. */
 class Catalogue
 {
 public:
-    QSharedPointer<IFile> add(const QString &path)
+    QSharedPointer<IFile> add(const QString &path, const QStringList &tags = {})
     {
         const auto file = QSharedPointer<File>::create(project.data());
         file->setAbsoluteFilePath(path);
+        file->setName(QFileInfo(path).completeBaseName());
+        file->setTags(tags);
         project->filesProp()->addSharedWithoutUndo(file);
         return file;
     }

@@ -9,9 +9,6 @@ class TestDirectoryModel : public QObject
 
 private slots:
     void tree();
-    void emptyFolderShows();
-    void namesThatDifferInCase();
-    void paths();
     void hostileDepth();
 };
 
@@ -30,51 +27,18 @@ static QString text(const QAbstractItemModel &model, const QModelIndex &parent =
 void TestDirectoryModel::tree()
 {
     Catalogue catalogue;
-    for (const char *path :
-         {"/d/one/a.pes", "/d/one/x/b.pes", "/d/one/x/y/c.pes", "/d/one/x2/b.pes",
-          "/d/one/x10/b.pes", "/d/two/z/c.pes", "/elsewhere/q.pes"})
-        catalogue.add(path);
-    catalogue.project->setSmartFolders({"/d/two", "/d/one"}, {});
+    for (const char *directory : {"/d/one", "/d/one/x", "/d/one/x/y", "/d/one/x10", "/d/one/x2",
+                                  "/d/two/A/1", "/d/two/A/3", "/d/two/a/2", "/d/two/a/4", "/e"})
+        catalogue.add(QLatin1String(directory) + "/a.pes");
+    catalogue.project->setSmartFolders({"/d/two", "/d/\"<a>\n", "/d/one"}, {});
     DirectoryModel model(catalogue.project);
     model.refresh();
     model.refresh();
-    QCOMPARE(text(model), QStringLiteral("one(x(y) x2 x10) two(z)"));
-    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Directories"));
+    QCOMPARE(text(model), QStringLiteral("\"<a>\n one(x(y) x2 x10) two(A(1 3) a(2 4))"));
     const QModelIndex index = model.indexForPath("/d/one/x/y");
     QCOMPARE(index.data().toString(), QStringLiteral("y"));
     QCOMPARE(model.absoluteFilePath(index), QStringLiteral("/d/one/x/y"));
     QVERIFY(!model.indexForPath("/d").isValid());
-}
-
-void TestDirectoryModel::emptyFolderShows()
-{
-    Catalogue catalogue;
-    catalogue.project->setSmartFolders({"/d/\"a\" & <b>\n"}, {});
-    DirectoryModel model(catalogue.project);
-    model.refresh();
-    QCOMPARE(text(model), QStringLiteral("\"a\" & <b>\n"));
-}
-
-void TestDirectoryModel::namesThatDifferInCase()
-{
-    Catalogue catalogue;
-    for (const char *path : {"/d/A/1/f", "/d/A/3/f", "/d/a/2/f", "/d/a/4/f"})
-        catalogue.add(path);
-    catalogue.project->setSmartFolders({"/d"}, {});
-    DirectoryModel model(catalogue.project);
-    model.refresh();
-    QCOMPARE(text(model), QStringLiteral("d(A(1 3) a(2 4))"));
-}
-
-void TestDirectoryModel::paths()
-{
-    QCOMPARE(DirectoryModel::lastElementOfPath("/a/b"), QStringLiteral("b"));
-    QCOMPARE(DirectoryModel::lastElementOfPath("b"), QStringLiteral("b"));
-    QCOMPARE(DirectoryModel::pathWithoutLastElement("/a/b"), QStringLiteral("/a"));
-    QStringList paths = {"/a", "/a/b//c", "/ab", "/c"};
-    const QList<QStringList> taken = DirectoryModel::takePathsOfSmartfolder("/a", paths);
-    QCOMPARE(taken, QList<QStringList>({{"b", "c"}, {"b"}}));
-    QCOMPARE(paths, QStringList("/c"));
 }
 
 void TestDirectoryModel::hostileDepth()
