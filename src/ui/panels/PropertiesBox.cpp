@@ -23,6 +23,8 @@ namespace {
 constexpr int GroupSpacing = 3;
 constexpr int GroupTopMargin = 15;
 constexpr int PanelMargin = 8;
+/** As in the title bar; the facts need every pixel beside a scroll bar. */
+constexpr int RightMargin = 4;
 constexpr int CaptionSpacing = 6;
 constexpr int RowSpacing = 2;
 constexpr int ShareOfSideBar = 3;
@@ -75,7 +77,7 @@ void PropertiesBox::initPanel()
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidget(m_scrollWidget);
-    m_mainLayout->setContentsMargins(PanelMargin, GroupSpacing, PanelMargin, PanelMargin);
+    m_mainLayout->setContentsMargins(PanelMargin, GroupSpacing, RightMargin, PanelMargin);
     m_mainLayout->setSpacing(0);
     m_mainLayout->addLayout(m_grid);
     m_grid->setHorizontalSpacing(CaptionSpacing);
