@@ -4,10 +4,11 @@
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
-# The last six are what the tests themselves call upon: a FAT file system for the
-# transfer, certificates, and the validators of the desktop files.
+# The last seven are what the tests themselves call upon: a FAT file system for the
+# transfer, also where the kernel has none, certificates, and the validators of the
+# desktop files.
 install_missing "${build_packages[@]}" \
-    dbus dosfstools openssl desktop-file-utils appstream shared-mime-info
+    dbus dosfstools fusefat openssl desktop-file-utils appstream shared-mime-info
 
 build dev
 

@@ -5,20 +5,25 @@
 #include <QTemporaryDir>
 
 /**
- * A drive for a test: a FAT image where the test may mount one, else a memory
- * file system, else a plain folder. Unmounted when it goes.
+ * A drive for a test: a FAT image where the test may mount one, by the kernel or by a driver
+ * beside it, else a memory file system, else a plain folder. Unmounted when it goes.
  */
 class DriveFixture
 {
 public:
-    enum Kind { Fat, Memory, Plain };
-
-    explicit DriveFixture(const QString &label = QStringLiteral("STICK"))
+    DriveFixture()
     {
         m_path = m_directory.filePath(QStringLiteral("drive"));
         QDir().mkpath(m_path);
-        if (mountFat(label))
+        const QString image = m_directory.filePath(QStringLiteral("image"));
+        const bool formatted = createImage(image);
+        if (formatted && run(QStringLiteral("mount"),
+                             {QStringLiteral("-t"), QStringLiteral("vfat"), QStringLiteral("-o"),
+                              QStringLiteral("loop"), image, m_path}))
             m_kind = Fat;
+        else if (formatted && run(QStringLiteral("fusefat"),
+                                  {QStringLiteral("-o"), QStringLiteral("rw+"), image, m_path}))
+            m_kind = FuseFat;
         else if (run(QStringLiteral("mount"),
                      {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
                       QStringLiteral("size=2m"), QStringLiteral("none"), m_path}))
@@ -32,20 +37,25 @@ public:
 
     QString path() const { return m_path; }
     QString filePath(const QString &name) const { return m_path + QLatin1Char('/') + name; }
-    bool isFat() const { return m_kind == Fat; }
+    QStringList files() const { return QDir(m_path).entryList(QDir::Files); }
+    bool isFat() const { return m_kind == Fat || m_kind == FuseFat; }
     bool isMounted() const { return m_kind != Plain; }
 
     /** As if it were pulled out. */
     bool pull()
     {
-        return isMounted() && run(QStringLiteral("umount"), {QStringLiteral("-l"), m_path});
+        if (!isMounted() || !run(QStringLiteral("umount"), {QStringLiteral("-l"), m_path}))
+            return false;
+        m_kind = Plain;
+        return true;
     }
 
-    bool remount(const QString &option)
+    /** As if its lock were set. */
+    bool protect()
     {
         return isMounted() &&
-               run(QStringLiteral("mount"),
-                   {QStringLiteral("-o"), QStringLiteral("remount,") + option, m_path});
+               run(QStringLiteral("mount"), {QStringLiteral("-i"), QStringLiteral("-o"),
+                                             QStringLiteral("remount,bind,ro"), m_path});
     }
 
     /** For the output of the test: what it ran on. */
@@ -54,6 +64,8 @@ public:
         switch (m_kind) {
         case Fat:
             return "on a FAT image, mounted by a loop device";
+        case FuseFat:
+            return "on a FAT image, mounted by a driver outside the kernel";
         case Memory:
             return "on a memory file system, since no FAT image can be mounted here";
         default:
@@ -62,20 +74,13 @@ public:
     }
 
 private:
-    bool mountFat(const QString &label)
+    enum Kind { Fat, FuseFat, Memory, Plain };
+
+    static bool createImage(const QString &image)
     {
-        const QString image = m_directory.filePath(QStringLiteral("image"));
         QFile file(image);
-        if (!file.open(QIODevice::WriteOnly) || !file.resize(2 * 1024 * 1024))
-            return false;
-        file.close();
-        QStringList arguments{image};
-        if (!label.isEmpty())
-            arguments = QStringList{QStringLiteral("-n"), label, image};
-        return run(QStringLiteral("mkfs.vfat"), arguments) &&
-               run(QStringLiteral("mount"),
-                   {QStringLiteral("-t"), QStringLiteral("vfat"), QStringLiteral("-o"),
-                    QStringLiteral("loop"), image, m_path});
+        return file.open(QIODevice::WriteOnly) && file.resize(2 * 1024 * 1024) &&
+               run(QStringLiteral("mkfs.vfat"), {image});
     }
 
     static bool run(const QString &program, const QStringList &arguments)
