@@ -54,9 +54,7 @@ private slots:
     void filenames();
     void binaryValues();
     void missingElementsKeepTheirDefaults();
-    void lists();
     void unknownListElement();
-    void readingMakesNoUndoSteps();
 
 private:
     QString write(Property *property);
@@ -106,7 +104,6 @@ void TestPropertyXml::forms_data()
     row("bool", make<PropertyBool>(true), make<PropertyBool>(false), "<p>true</p>");
     row("string", make<PropertyString>(QStringLiteral(" a<b>&\" ")),
         make<PropertyString>(QString()), "<p> a&lt;b&gt;&amp;&quot; </p>");
-    row("int", make<PropertyInt>(-12), make<PropertyInt>(0), "<p>-12</p>");
     row("unsigned", make<PropertyUnsignedInt>(4000000000U), make<PropertyUnsignedInt>(0U),
         "<p>4000000000</p>");
     row("double", make<PropertyDouble>(0.1), make<PropertyDouble>(0.0), "<p>0.1</p>");
@@ -129,6 +126,7 @@ void TestPropertyXml::forms()
     const QScopedPointer<Property> target(empty(&m_project, QStringLiteral("p")));
     read(target.data(), xml);
     QCOMPARE(write(target.data()), xml);
+    QVERIFY(!m_project.undoStack()->canUndo());
 }
 
 void TestPropertyXml::tolerance_data()
@@ -141,8 +139,6 @@ void TestPropertyXml::tolerance_data()
     };
     row("blanks", make<PropertyBool>(false), "<p> true\n</p>", "<p>true</p>");
     row("capital", make<PropertyBool>(true), "<p>True</p>", "<p>false</p>");
-    row("one", make<PropertyBool>(true), "<p>1</p>", "<p>false</p>");
-    row("no number", make<PropertyInt>(5), "<p>x</p>", "<p>0</p>");
     row("huge number", make<PropertyInt>(5), "<p>99999999999</p>", "<p>0</p>");
     row("negative unsigned", make<PropertyUnsignedInt>(5U), "<p>-1</p>", "<p>0</p>");
     row("no double", make<PropertyDouble>(5.0), "<p>one</p>", "<p>0</p>");
@@ -212,30 +208,13 @@ void TestPropertyXml::missingElementsKeepTheirDefaults()
     QCOMPARE(point->value(), QPointF(0, 3));
 }
 
-void TestPropertyXml::lists()
-{
-    PropertyList list(&m_project, QStringLiteral("list"), false);
-    const QString xml = QStringLiteral("<list><number>1</number><number>2</number></list>");
-    read(&list, xml);
-    QCOMPARE(list.count(), 2);
-    QCOMPARE(write(&list), xml);
-}
-
 void TestPropertyXml::unknownListElement()
 {
     PropertyList list(&m_project, QStringLiteral("list"), false);
     QCOMPARE(messageOf<Error>(
                  [&] { read(&list, QStringLiteral("<list><number>1</number><x/></list>")); }),
              QStringLiteral("Failed to read 'list' from XML!\n(unknown x)"));
-    QCOMPARE(list.count(), 1);
-}
-
-void TestPropertyXml::readingMakesNoUndoSteps()
-{
-    PropertyInt property(&m_project, QStringLiteral("p"), 1);
-    read(&property, QStringLiteral("<p>2</p>"));
-    QCOMPARE(property.value(), 2);
-    QVERIFY(!m_project.undoStack()->canUndo());
+    QCOMPARE(write(&list), QStringLiteral("<list><number>1</number></list>"));
 }
 
 QTEST_MAIN(TestPropertyXml)
