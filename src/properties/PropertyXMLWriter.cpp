@@ -9,8 +9,10 @@
 #include "properties/PropertyReference.h"
 #include "properties/PropertySerializer.h"
 #include "properties/PropertyValues.h"
+#include "properties/XmlTools.h"
 
 #include <QUuid>
+#include <QXmlStreamWriter>
 
 PropertyXMLWriter::PropertyXMLWriter(const QString &basePath, PropertySerializer *serializer)
     : m_baseDir(basePath), m_serializer(serializer)
@@ -26,9 +28,16 @@ QDomDocument PropertyXMLWriter::writeToXML(Property *root)
 {
     m_document = QDomDocument();
     m_currentParent = QDomNode();
+    m_stream = nullptr;
     if (root)
         root->acceptVisitor(this);
     return m_document;
+}
+
+void PropertyXMLWriter::writeToStream(Property *root, QXmlStreamWriter *stream)
+{
+    m_stream = stream;
+    root->acceptVisitor(this);
 }
 
 QDomElement PropertyXMLWriter::addElem(const QString &name)
@@ -41,11 +50,49 @@ QDomElement PropertyXMLWriter::addElem(const QString &name)
     return element;
 }
 
-QDomElement PropertyXMLWriter::addTextElem(const QString &name, const QString &text)
+void PropertyXMLWriter::addTextElem(const QString &name, const QString &text)
 {
-    QDomElement element = addElem(name);
-    element.appendChild(m_document.createTextNode(text));
-    return element;
+    beginElement(name);
+    if (m_stream)
+        XmlTools::writeText(*m_stream, text);
+    else
+        m_currentParent.appendChild(m_document.createTextNode(text));
+    endElement();
+}
+
+void PropertyXMLWriter::addEmptyElem(const QString &name, const Attributes &attributes)
+{
+    beginElement(name, attributes);
+    endElement();
+}
+
+void PropertyXMLWriter::beginElement(const QString &name, const Attributes &attributes)
+{
+    QDomElement element;
+    if (m_stream)
+        m_stream->writeStartElement(name);
+    else
+        m_currentParent = element = addElem(name);
+    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
+        if (m_stream)
+            m_stream->writeAttribute(it.key(), XmlTools::withoutInvalidCharacters(it.value()));
+        else
+            element.setAttribute(it.key(), it.value());
+    }
+}
+
+void PropertyXMLWriter::endElement()
+{
+    if (m_stream)
+        m_stream->writeEndElement();
+    else
+        m_currentParent = m_currentParent.parentNode();
+}
+
+/** As many digits as read back exactly. */
+static QString exact(double value)
+{
+    return QString::number(value, 'g', 17);
 }
 
 void PropertyXMLWriter::visit(PropertyBool *property)
@@ -74,26 +121,29 @@ void PropertyXMLWriter::visit(PropertyDouble *property)
     addTextElem(property->propertyName(), QStringLiteral("%1").arg(property->value(), 0, 'g', -1));
 }
 
+static PropertyXMLWriter::Attributes coordinates(const QPointF &point)
+{
+    return {{QStringLiteral("x"), exact(point.x())}, {QStringLiteral("y"), exact(point.y())}};
+}
+
 void PropertyXMLWriter::visit(PropertyPointF *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    element.setAttribute(QStringLiteral("x"), property->value().x());
-    element.setAttribute(QStringLiteral("y"), property->value().y());
+    addEmptyElem(property->propertyName(), coordinates(property->value()));
 }
 
 void PropertyXMLWriter::visit(PropertySizeF *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    element.setAttribute(QStringLiteral("w"), property->value().width());
-    element.setAttribute(QStringLiteral("h"), property->value().height());
+    const QSizeF size = property->value();
+    addEmptyElem(property->propertyName(), {{QStringLiteral("w"), exact(size.width())},
+                                            {QStringLiteral("h"), exact(size.height())}});
 }
 
 void PropertyXMLWriter::visit(PropertyVector3D *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    element.setAttribute(QStringLiteral("x"), double(property->value().x()));
-    element.setAttribute(QStringLiteral("y"), double(property->value().y()));
-    element.setAttribute(QStringLiteral("z"), double(property->value().z()));
+    const QVector3D vector = property->value();
+    Attributes attributes = coordinates(vector.toPointF());
+    attributes.insert(QStringLiteral("z"), exact(double(vector.z())));
+    addEmptyElem(property->propertyName(), attributes);
 }
 
 void PropertyXMLWriter::visit(PropertyColor *property)
@@ -110,7 +160,7 @@ void PropertyXMLWriter::visit(PropertyFilename *property)
 {
     const QString path = property->value().path();
     if (path.isEmpty()) {
-        addElem(property->propertyName());
+        addEmptyElem(property->propertyName());
         return;
     }
     const QString relative = m_baseDir.relativeFilePath(path);
@@ -120,30 +170,26 @@ void PropertyXMLWriter::visit(PropertyFilename *property)
 
 void PropertyXMLWriter::visit(PropertyCircle *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    element.setAttribute(QStringLiteral("x"), property->value().centre.x());
-    element.setAttribute(QStringLiteral("y"), property->value().centre.y());
-    element.setAttribute(QStringLiteral("radius"), property->value().radius);
+    Attributes attributes = coordinates(property->value().centre);
+    attributes.insert(QStringLiteral("radius"), exact(property->value().radius));
+    addEmptyElem(property->propertyName(), attributes);
 }
 
 void PropertyXMLWriter::visit(PropertyPolygon *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    for (const QPointF &vertex : property->value()) {
-        QDomElement point = m_document.createElement(QStringLiteral("point"));
-        point.setAttribute(QStringLiteral("x"), vertex.x());
-        point.setAttribute(QStringLiteral("y"), vertex.y());
-        element.appendChild(point);
-    }
+    beginElement(property->propertyName());
+    for (const QPointF &vertex : property->value())
+        addEmptyElem(QStringLiteral("point"), coordinates(vertex));
+    endElement();
 }
 
 void PropertyXMLWriter::visit(PropertyRect *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    element.setAttribute(QStringLiteral("x"), property->value().x());
-    element.setAttribute(QStringLiteral("y"), property->value().y());
-    element.setAttribute(QStringLiteral("width"), property->value().width());
-    element.setAttribute(QStringLiteral("height"), property->value().height());
+    const QRectF rect = property->value();
+    Attributes attributes = coordinates(rect.topLeft());
+    attributes.insert(QStringLiteral("width"), exact(rect.width()));
+    attributes.insert(QStringLiteral("height"), exact(rect.height()));
+    addEmptyElem(property->propertyName(), attributes);
 }
 
 void PropertyXMLWriter::visit(PropertyByteArray *property)
@@ -152,47 +198,42 @@ void PropertyXMLWriter::visit(PropertyByteArray *property)
     if (id.isEmpty())
         id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     m_serializer->saveBinaryLargeObject(id, qCompress(property->value()));
-    addElem(property->propertyName()).setAttribute(QStringLiteral("datafile"), id);
+    addEmptyElem(property->propertyName(), {{QStringLiteral("datafile"), id}});
 }
 
 void PropertyXMLWriter::visit(PropertyReference *property)
 {
-    QDomElement element = addElem(property->propertyName());
-    element.setAttribute(QStringLiteral("type"), property->description()->targetType()->typeName());
     const PropertyPreset *preset = property->value().data();
-    if (preset->isSharedGroup()) {
-        element.setAttribute(QStringLiteral("name"), preset->name()->value());
-        return;
-    }
-    const QDomNode parent = m_currentParent;
-    m_currentParent = element;
-    visitStruct(preset->data());
-    m_currentParent = parent;
+    Attributes attributes{
+        {QStringLiteral("type"), property->description()->targetType()->typeName()}};
+    if (preset->isSharedGroup())
+        attributes.insert(QStringLiteral("name"), preset->name()->value());
+    beginElement(property->propertyName(), attributes);
+    if (!preset->isSharedGroup())
+        visitStruct(preset->data());
+    endElement();
 }
 
 void PropertyXMLWriter::visit(PropertyStringList *property)
 {
-    const QDomNode parent = m_currentParent;
-    m_currentParent = addElem(property->propertyName());
+    beginElement(property->propertyName());
     for (const QString &text : property->value())
         addTextElem(QStringLiteral("string"), text);
-    m_currentParent = parent;
+    endElement();
 }
 
 void PropertyXMLWriter::visit(PropertyList *list)
 {
-    const QDomNode parent = m_currentParent;
-    m_currentParent = addElem(list->propertyName());
+    beginElement(list->propertyName());
     visitList(list);
-    m_currentParent = parent;
+    endElement();
 }
 
 void PropertyXMLWriter::visit(PropertyStruct *structure)
 {
-    const QDomNode parent = m_currentParent;
-    m_currentParent = addElem(structure->propertyName());
+    beginElement(structure->propertyName());
     visitStruct(structure);
-    m_currentParent = parent;
+    endElement();
 }
 
 void PropertyXMLWriter::visit(PropertyPresetCollection *collection)

@@ -4,18 +4,23 @@
 
 #include <QDir>
 #include <QDomDocument>
+#include <QMap>
 #include <QString>
 
 class Property;
 class PropertySerializer;
+class QXmlStreamWriter;
 
 /**
- * Makes a document of a property tree: one element per property, named like it.
- * Paths are written relative to the base path.
+ * Makes XML of a property tree: one element per property, named like it. Paths are
+ * written relative to the base path.
  */
 class PropertyXMLWriter : public PropertyVisitor
 {
 public:
+    /** In the order in which they are written. */
+    using Attributes = QMap<QString, QString>;
+
     /** @p serializer takes the large binary values; not owned. */
     PropertyXMLWriter(const QString &basePath, PropertySerializer *serializer);
 
@@ -23,6 +28,12 @@ public:
 
     /** The document of @p root; an empty one for null. */
     QDomDocument writeToXML(Property *root);
+
+    /**
+     * Writes @p root as XmlTools::serialize() would write its document, but without
+     * making that, which takes far longer and gigabytes for a large catalogue.
+     */
+    void writeToStream(Property *root, QXmlStreamWriter *stream);
 
     void visit(PropertyBool *property) override;
     void visit(PropertyString *property) override;
@@ -48,13 +59,19 @@ public:
     void visit(GProject *project) override;
 
 protected:
-    /** Appends an element to the current one; to the document at the top. */
+    /** Appends an element to the current one of the document; at its top if there is none. */
     QDomElement addElem(const QString &name);
-    QDomElement addTextElem(const QString &name, const QString &text);
+
+    // These go to the document or to the stream.
+    void addTextElem(const QString &name, const QString &text);
+    void addEmptyElem(const QString &name, const Attributes &attributes = {});
+    void beginElement(const QString &name, const Attributes &attributes = {});
+    void endElement();
 
 private:
     QDomDocument m_document;
     QDomNode m_currentParent;
+    QXmlStreamWriter *m_stream = nullptr;
     QDir m_baseDir;
     PropertySerializer *m_serializer;
 };

@@ -149,15 +149,18 @@ QString XmlTools::withoutInvalidCharacters(const QString &text)
     return valid;
 }
 
-/** Carriage returns go as references, since whoever parses plain ones makes newlines of them. */
-static void writeText(QXmlStreamWriter &writer, const QString &text)
+void XmlTools::writeText(QXmlStreamWriter &writer, const QString &text)
 {
-    const QStringList parts = XmlTools::withoutInvalidCharacters(text).split(QLatin1Char('\r'));
-    for (int i = 0; i < parts.count(); ++i) {
-        if (i > 0)
-            writer.writeEntityReference(QStringLiteral("#13"));
-        writer.writeCharacters(parts.at(i));
+    if (writer.autoFormatting() && QStringView(text).trimmed().isEmpty())
+        return;
+    const QString valid = withoutInvalidCharacters(text);
+    int from = 0;
+    // Whoever parses a plain carriage return makes a newline of it.
+    for (int i; (i = valid.indexOf(QLatin1Char('\r'), from)) >= 0; from = i + 1) {
+        writer.writeCharacters(valid.mid(from, i - from));
+        writer.writeEntityReference(QStringLiteral("#13"));
     }
+    writer.writeCharacters(valid.mid(from));
 }
 
 static QXmlStreamAttributes validAttributes(const QXmlStreamAttributes &attributes)
@@ -221,8 +224,7 @@ void XmlTools::serialize(QXmlStreamWriter &writer, const QDomNode &node, XmlAttr
         writeElement(writer, node.toElement(), order, verbatimTags);
         break;
     case QDomNode::TextNode:
-        if (!writer.autoFormatting() || !node.nodeValue().simplified().isEmpty())
-            writeText(writer, node.nodeValue());
+        writeText(writer, node.nodeValue());
         break;
     case QDomNode::CDATASectionNode:
         writer.writeCDATA(withoutInvalidCharacters(node.nodeValue()));

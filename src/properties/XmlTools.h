@@ -41,6 +41,12 @@ public:
     static void serialize(QXmlStreamWriter &writer, const QDomNode &node, XmlAttributeOrder *order,
                           const QStringList &verbatimTags);
 
+    /**
+     * Writes @p text so that it reads back as it is, but for the characters that XML
+     * can't hold. Nothing for blanks only while @p writer formats.
+     */
+    static void writeText(QXmlStreamWriter &writer, const QString &text);
+
     /** The children of @p element as XML text. */
     static QString xmlContent(const QDomElement &element);
 

@@ -2,7 +2,6 @@
 
 #include "catalogue/disk/FileTools.h"
 #include "catalogue/records/Project.h"
-#include "properties/XmlAttributeOrder.h"
 #include "properties/XmlTools.h"
 
 #include <QXmlStreamWriter>
@@ -14,33 +13,18 @@ DataModelWriter::DataModelWriter() : PropertyXMLWriter(QStringLiteral("/"), &ser
 void DataModelWriter::writeToFile(Project *project, const QString &path)
 {
     QByteArray bytes;
-    QXmlStreamWriter writer(&bytes);
-    XmlTools::prepareWriter(writer, 4);
-    writer.writeStartDocument(QStringLiteral("1.0"));
-    writer.writeCharacters(QStringLiteral("\n"));
-    writer.writeStartElement(project->propertyName());
-    writer.writeAttribute(QStringLiteral("version"), Version.toString());
-    const QStringList names = project->propertyNames();
-    for (const QString &name : names) {
-        if (name == project->filesProp()->propertyName())
-            writeRecords(writer, project->filesProp());
-        else
-            write(writer, project->property(name));
-    }
-    writer.writeEndDocument();
+    QXmlStreamWriter stream(&bytes);
+    XmlTools::prepareWriter(stream, 4);
+    stream.writeStartDocument(QStringLiteral("1.0"));
+    stream.writeCharacters(QStringLiteral("\n"));
+    writeToStream(project, &stream);
+    stream.writeEndDocument();
     FileTools::writeAll(path, bytes);
 }
 
-void DataModelWriter::writeRecords(QXmlStreamWriter &writer, const PropertyList *records)
+void DataModelWriter::visit(GProject *project)
 {
-    writer.writeStartElement(records->propertyName());
-    for (const auto &record : records->value())
-        write(writer, record.data());
-    writer.writeEndElement();
-}
-
-void DataModelWriter::write(QXmlStreamWriter &writer, Property *property)
-{
-    XmlAttributeOrder order;
-    XmlTools::serialize(writer, writeToXML(property).documentElement(), &order, {});
+    beginElement(project->propertyName(), {{QStringLiteral("version"), Version.toString()}});
+    visitStruct(project);
+    endElement();
 }

@@ -6,7 +6,6 @@
 #include <QVersionNumber>
 
 class Project;
-class QXmlStreamWriter;
 
 /** A base of its own, so that it is there before the writer that refers to it. */
 struct DataModelSerializerHolder
@@ -26,8 +25,8 @@ public:
     /** Replaces the file whole or, throwing Error, not at all. */
     void writeToFile(Project *project, const QString &path);
 
-private:
-    // One record at a time is a document; all at once would take gigabytes.
-    void writeRecords(QXmlStreamWriter &writer, const PropertyList *records);
-    void write(QXmlStreamWriter &writer, Property *property);
+    using PropertyXMLWriter::visit;
+
+    /** Gives the root its version. */
+    void visit(GProject *project) override;
 };
