@@ -1,4 +1,7 @@
+#include "app/addons/GApplicationAddons.h"
 #include "app/base/GSettings.h"
+#include "app/base/GTranslationLoader.h"
+#include "widgets/controls/About.h"
 #include "widgets/controls/About2.h"
 #include "widgets/controls/DragDropHelper.h"
 #include "widgets/controls/GExpandingTitle.h"
@@ -42,6 +45,7 @@ private slots:
     void dropKeepsFoldersOnly();
     void dropIsBlockedByModalWindow();
     void aboutBannerIsReadable();
+    void aboutTellsTheDateInTheProgramsLanguage();
 
 private:
     QTemporaryDir m_dir;
@@ -251,6 +255,17 @@ void tst_controls::aboutBannerIsReadable()
     QVERIFY(!lines.isEmpty());
     for (const QLabel *line : lines)
         QCOMPARE(line->palette().color(line->foregroundRole()), QColor(Qt::white));
+}
+
+void tst_controls::aboutTellsTheDateInTheProgramsLanguage()
+{
+    for (const QString &code : {QStringLiteral("de"), QStringLiteral("zh-CN")}) {
+        GSettings().setUiLanguage(code);
+        GTranslationLoader::instance()->setTranslations(qApp);
+        const QString date =
+            QLocale(code).toString(GApplicationAddons::buildDate(), QLocale::LongFormat);
+        QVERIFY2(About::versionText().contains(date), qPrintable(About::versionText()));
+    }
 }
 
 QTEST_MAIN(tst_controls)

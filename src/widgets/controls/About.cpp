@@ -1,9 +1,9 @@
 #include "widgets/controls/About.h"
 
-#include "app/base/BuildConfig.h"
+#include "app/addons/GApplicationAddons.h"
+#include "app/base/GTranslationLoader.h"
 
 #include <QApplication>
-#include <QDate>
 #include <QDialogButtonBox>
 #include <QIcon>
 #include <QLabel>
@@ -14,11 +14,14 @@ namespace {
 
 constexpr int IconSize = 96;
 
-QDate buildDate()
+// The system's own way to write a date, unless its language is not that of the other texts.
+QLocale dateLocale()
 {
-    return QDate(QByteArray(BuildConfig::BuildYear).toInt(),
-                 QByteArray(BuildConfig::BuildMonth).toInt(),
-                 QByteArray(BuildConfig::BuildDay).toInt());
+    const QLocale system = QLocale::system();
+    const QLocale program(GTranslationLoader::instance()->languageCode());
+    const bool same =
+        system.language() == program.language() && system.script() == program.script();
+    return same ? system : program;
 }
 
 QLabel *addLine(QVBoxLayout *layout, const QString &text)
@@ -59,6 +62,7 @@ About::About(QWidget *parent) : QDialog(parent)
 
 QString About::versionText()
 {
-    const QString date = QLocale().toString(buildDate(), QLocale::LongFormat);
+    const QString date =
+        dateLocale().toString(GApplicationAddons::buildDate(), QLocale::LongFormat);
     return tr("Version %1\nBuilt on %2").arg(QApplication::applicationVersion(), date);
 }

@@ -10,6 +10,6 @@ class About : public QDialog
 public:
     explicit About(QWidget *parent = nullptr);
 
-    /** The version and the day of the build, in the words of the user's locale. */
+    /** The version and the day of the build, in the language of the program. */
     static QString versionText();
 };
