@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int MaxRecentFiles = 5;
-
 const QString FirstStart = QStringLiteral("firstStart");
 const QString FirstStartDate = QStringLiteral("firstStartDate");
 const QString CrashLoggerLastCheck = QStringLiteral("crashlogger-last-check");

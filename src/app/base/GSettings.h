@@ -47,7 +47,8 @@ public:
     QDateTime crashLoggerLastCheck() const;
     void setCrashLoggerLastCheck(const QDateTime &time);
 
-    /** At most five names, the latest first. */
+    static constexpr int MaxRecentFiles = 5;
+    /** At most MaxRecentFiles names, the latest first. */
     QStringList recentFiles() const;
     void addRecentFile(const QString &name);
     QString lastFileName();

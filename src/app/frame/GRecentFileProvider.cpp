@@ -8,17 +8,11 @@
 #include <QFileInfo>
 #include <QMenu>
 
-namespace {
-
-constexpr int MaxRecentFiles = 5;
-
-} // namespace
-
 QList<GRecentFileProvider *> GRecentFileProvider::mRecentFileProviders;
 
 GRecentFileProvider::GRecentFileProvider(QObject *parent) : QObject(parent)
 {
-    for (int i = 0; i < MaxRecentFiles; ++i) {
+    for (int i = 0; i < GSettings::MaxRecentFiles; ++i) {
         auto *action = new GAction(this);
         action->setVisible(false);
         connect(action, &QAction::triggered, this, &GRecentFileProvider::openRecentFile);
