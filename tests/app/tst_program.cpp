@@ -1,10 +1,11 @@
+#include "support/GuardFolder.h"
+
 #include "app/base/BuildConfig.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -30,12 +31,12 @@ private:
     QString settingsPath() const;
     bool catalogueExists() const;
 
-    std::unique_ptr<QTemporaryDir> m_profile;
+    std::unique_ptr<GuardFolder> m_profile;
 };
 
 void tst_program::init()
 {
-    m_profile = std::make_unique<QTemporaryDir>(QStringLiteral("/tmp/hl-XXXXXX"));
+    m_profile = std::make_unique<GuardFolder>();
     QSettings settings(settingsPath(), QSettings::IniFormat);
     settings.setValue(QStringLiteral("autoUpdatesEnabled"), false);
     settings.setValue(QStringLiteral("applicationDataPath"),

@@ -1,3 +1,5 @@
+#include "support/GuardFolder.h"
+
 #include "app/application/SingleApplicationPrivate.h"
 #include "app/base/BuildConfig.h"
 #include "app/base/InstanceName.h"
@@ -8,7 +10,6 @@
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <vector>
 
@@ -93,7 +94,7 @@ private:
     Process startPrimary();
     bool waitForLine(QProcess &process, const QByteArray &line);
 
-    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<GuardFolder> m_directory;
     Process m_primary;
 };
 
@@ -105,7 +106,7 @@ void tst_singleapplication::initTestCase()
 void tst_singleapplication::init()
 {
     // Key files, lock and socket lie in the temporary folder: no other process takes part.
-    m_directory = std::make_unique<QTemporaryDir>(QStringLiteral("/tmp/hl-XXXXXX"));
+    m_directory = std::make_unique<GuardFolder>();
     qputenv("TMPDIR", m_directory->path().toUtf8());
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "support/GuardFolder.h"
+
 #include <QByteArray>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 /**
  * Runs the command-line companion as a process of its own, in a home, a profile
@@ -35,5 +36,5 @@ public:
     QString temporaryPath() const { return m_root.filePath(QStringLiteral("tmp")); }
 
 private:
-    QTemporaryDir m_root;
+    GuardFolder m_root;
 };
