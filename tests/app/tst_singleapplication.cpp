@@ -89,6 +89,7 @@ private slots:
     void dropsBadClients();
     void acceptsSplitHeader();
     void refusesOtherUsers();
+    void endsAtOnceWithoutATemporaryFolder();
 
 private:
     Process startPrimary();
@@ -334,6 +335,17 @@ void tst_singleapplication::refusesOtherUsers()
     };
     QCOMPARE(connectAs(0), 0);
     QCOMPARE(connectAs(65534), EACCES);
+#endif
+}
+
+void tst_singleapplication::endsAtOnceWithoutATemporaryFolder()
+{
+#ifdef Q_OS_LINUX
+    qputenv("TMPDIR", "/proc"); // takes no files, not even those of root
+    Process process = start();
+    QVERIFY(process->waitForFinished(8000));
+    QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process->exitCode(), 1);
 #endif
 }
 

@@ -53,7 +53,8 @@ SingleApplicationPrivate::~SingleApplicationPrivate()
 void SingleApplicationPrivate::enterStart()
 {
     QDeadlineTimer deadline(StaleLockTime);
-    while (!startLock.isLocked() && !startLock.tryLock() && !deadline.hasExpired())
+    while (!startLock.isLocked() && !startLock.tryLock() &&
+           startLock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
         QThread::msleep(LockPollInterval);
 }
 

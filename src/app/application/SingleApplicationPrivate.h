@@ -46,7 +46,10 @@ public:
     /** Gives up the role in the block and the server. */
     ~SingleApplicationPrivate() override;
 
-    /** Waits, though not for ever, until no other process is coming or going. */
+    /**
+     * Waits, though not for ever, until no other process is coming or going. Where the
+     * temporary folder takes no lock file there is nothing to wait for.
+     */
     void enterStart();
 
     /** Makes or joins the block; false when neither is possible. */
