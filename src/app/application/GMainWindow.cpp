@@ -7,6 +7,7 @@
 #include "app/frame/GFileTypeRegistry.h"
 #include "widgets/style/GIcon.h"
 
+#include <algorithm>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
