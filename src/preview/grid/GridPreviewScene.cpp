@@ -30,6 +30,7 @@ GridPreviewScene::GridPreviewScene(QObject *parent) : EditorScene(parent)
         connect(application, &HooplineApplication::syncGlobalSettings, this,
                 &GridPreviewScene::refresh, Qt::QueuedConnection);
     }
+    placeSprites(m_preferredSceneWidth);
 }
 
 GridPreviewScene::~GridPreviewScene()
@@ -40,7 +41,9 @@ GridPreviewScene::~GridPreviewScene()
 
 void GridPreviewScene::setFiles(const QList<QSharedPointer<IFile>> &files)
 {
-    replaceCards(files);
+    if (files != m_files) {
+        replaceCards(files);
+    }
     // Selected cards may have gone.
     onSelectionChanged();
 }
@@ -57,6 +60,8 @@ void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
     GridEmbroideryItem *current = m_items.value(m_current);
     GridEmbroideryItem *anchor = m_items.value(m_anchor);
 
+    SceneIndexPause pause(this);
+    pause.begin();
     m_files = files;
     m_items.clear();
     m_items.reserve(files.size());
@@ -76,12 +81,10 @@ void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
 
 void GridPreviewScene::deleteCards(const QList<GridEmbroideryItem *> &cards)
 {
-    SceneIndexPause pause(this);
     if (cards.size() >= ManyCards) {
         // The scene looks for an item that leaves it among all others, from the
         // lowest on. So they go to the bottom, the first of them lowest; the
-        // look-up makes the scene sort.
-        pause.begin();
+        // look-up makes a scene without an index sort.
         for (int i = 0; i < cards.size(); ++i) {
             cards.at(i)->setZValue(i - cards.size());
         }
