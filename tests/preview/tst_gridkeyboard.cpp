@@ -49,6 +49,10 @@ private:
     {
         QTest::keyClick(m_view, key, modifiers);
     }
+    void click(int index, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::mouseClick(m_view->viewport(), Qt::LeftButton, modifiers, cardRect(index).center());
+    }
     Files files(int first, int last) const { return m_files.mid(first, last - first + 1); }
     Files selected() const { return m_models->selection()->selectedFiles(); }
     int current() const { return m_scene->currentIndex(); }
@@ -197,9 +201,16 @@ void tst_GridKeyboard::controlMovesWithoutSelecting()
 
 void tst_GridKeyboard::clickMovesTheStart()
 {
-    QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, cardRect(4).center());
+    click(4);
     press(Qt::Key_Right, Qt::ShiftModifier);
     QCOMPARE(selected(), files(4, 5));
+    click(1, Qt::ShiftModifier);
+    QCOMPARE(selected(), files(1, 4));
+    click(0, Qt::ControlModifier);
+    click(2, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(selected(), files(0, 4));
+    QTest::mouseClick(m_view->viewport(), Qt::RightButton, Qt::NoModifier, cardRect(1).center());
+    QCOMPARE(selected(), files(0, 4));
 }
 
 void tst_GridKeyboard::announcesOnce()

@@ -199,14 +199,27 @@ void GridGraphicsView::focusOutEvent(QFocusEvent *event)
 
 void GridGraphicsView::mousePressEvent(QMouseEvent *event)
 {
-    if (m_gridScene != nullptr && event->button() == Qt::LeftButton) {
-        const int index = m_gridScene->indexAt(mapToScene(event->pos()));
-        // The frame is for those who have no pointer on the card.
-        m_usedByKeys = false;
-        m_gridScene->setFocusShown(false);
-        if (index >= 0) {
-            m_gridScene->beginAt(index);
-        }
+    if (m_gridScene == nullptr || event->button() == Qt::MiddleButton) {
+        EditorGraphicsView::mousePressEvent(event);
+        return;
+    }
+    if (event->button() != Qt::LeftButton) {
+        // The base class would begin a rubber band, and the selection would be lost
+        // to whoever only wants the context menu.
+        return;
+    }
+    // The frame is for those who have no pointer on the card.
+    m_usedByKeys = false;
+    m_gridScene->setFocusShown(false);
+    const int index = m_gridScene->indexAt(mapToScene(event->pos()));
+    const bool onCard = index >= 0 && itemAt(event->pos()) == m_gridScene->cardAt(index);
+    if (onCard && (event->modifiers() & Qt::ShiftModifier)) {
+        // The scene knows no ranges.
+        m_gridScene->moveTo(index, selectingWith(event->modifiers()));
+        return;
+    }
+    if (index >= 0) {
+        m_gridScene->beginAt(index);
     }
     EditorGraphicsView::mousePressEvent(event);
 }
