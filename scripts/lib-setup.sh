@@ -7,6 +7,12 @@ build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n)
 
+# A home that holds no compiler cache yet gets none from here: it lies in the build folder.
+if [ -z "${CCACHE_DIR:-}" ] && [ ! -d "${XDG_CACHE_HOME:-$HOME/.cache}/ccache" ] &&
+    [ ! -d "$HOME/.ccache" ]; then
+    export CCACHE_DIR=$root/build/ccache
+fi
+
 # install_missing PACKAGE...
 # Installs those Debian packages that are not there, and nothing when all are.
 install_missing() {
