@@ -2,19 +2,26 @@
 
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"
+#include "embroidery/ReadHelper.h"
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 
+using Embroidery::IOException;
+
 namespace {
 
-QString md5OfFile(const QString &name)
+/** The bytes of the file; of one that the engine refuses for its size no more than it takes. */
+QByteArray bytesOf(const QString &name)
 {
+    const QFileInfo info(name);
+    // Reading a device or a pipe might never end.
+    if (info.exists() && !info.isFile() && !info.isDir())
+        throw IOException(QStringLiteral("Not a regular file: ") + name);
     QFile file(name);
-    QCryptographicHash hash(QCryptographicHash::Md5);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
-        throw Embroidery::IOException(QStringLiteral("Failed to open file: ") + name);
-    return QString::fromLatin1(hash.result().toHex());
+    if (!file.open(QIODevice::ReadOnly))
+        throw IOException(QStringLiteral("Failed to open file: ") + name);
+    return file.read(Embroidery::ReadHelper::MaximumSize + 1);
 }
 
 } // namespace
@@ -23,21 +30,12 @@ DesignFile DesignFile::read(const QString &name)
 {
     DesignFile file;
     file.m_name = name;
-    const QFileInfo info(name);
-    if (info.exists() && !info.isFile() && !info.isDir()) {
-        // Reading a device or a pipe might never end.
-        file.m_error = tr("Not a regular file: %1").arg(name);
-        return file;
-    }
-    if (info.size() > LargestSize) {
-        file.m_error = tr("File too large: %1").arg(name);
-        return file;
-    }
     try {
-        const auto pattern = Embroidery::EmbroideryIO::readFile(name, {});
-        file.m_md5 = md5OfFile(name);
-        file.m_pattern = pattern;
-    } catch (const Embroidery::IOException &exception) {
+        const QByteArray bytes = bytesOf(name);
+        file.m_pattern = Embroidery::EmbroideryIO::readByteArray(name, bytes);
+        file.m_md5 =
+            QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
+    } catch (const IOException &exception) {
         file.m_error = exception.message;
     }
     return file;
