@@ -11,8 +11,11 @@ CommandLine::CommandLine(const QString &usage, const QString &description,
       m_arguments(arguments)
 {
     m_parser.setApplicationDescription(description);
-    m_parser.addHelpOption();
-    m_parser.addVersionOption();
+    // The parser's own help option brings one for options of Qt along, which have no use here.
+    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
+                        QCoreApplication::translate("CommandLine", "Print this help.")});
+    m_parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
+                        QCoreApplication::translate("CommandLine", "Print the version.")});
 }
 
 bool CommandLine::parse()
@@ -21,16 +24,20 @@ bool CommandLine::parse()
         m_exitStatus = fail(m_parser.errorText());
         return false;
     }
-    if (isSet("help") || isSet("help-all")) {
-        StandardOutput().write(helpText().toUtf8());
-        return false;
-    }
-    if (isSet("version")) {
-        StandardOutput().writeLine(QStringLiteral("hoopline-cli ") +
-                                   QCoreApplication::applicationVersion());
-        return false;
-    }
-    return true;
+    if (isSet("help"))
+        answer(helpText());
+    else if (isSet("version"))
+        answer(QStringLiteral("hoopline-cli %1\n").arg(QCoreApplication::applicationVersion()));
+    else
+        return true;
+    return false;
+}
+
+void CommandLine::answer(const QString &text)
+{
+    StandardOutput output;
+    output.write(text.toUtf8());
+    m_exitStatus = output.flush() ? Success : Failure;
 }
 
 int CommandLine::fail(const QString &message) const

@@ -32,6 +32,7 @@ public:
     int exitStatus() const { return m_exitStatus; }
 
 private:
+    void answer(const QString &text);
     QString helpText() const;
 
     QString m_usage;

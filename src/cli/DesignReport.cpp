@@ -107,6 +107,12 @@ void DesignReport::writeTable(const DesignFile &file)
 
 void DesignReport::writeRow(const QString &label, const QString &text)
 {
-    m_output.writeLine(QStringLiteral("  ") + Console::printable(label).leftJustified(LabelWidth) +
-                       QLatin1Char(' ') + Console::printable(text));
+    // Texts of several lines, such as comments, go on below their first line.
+    QString margin = Console::printable(label);
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        m_output.writeLine(QStringLiteral("  %1 %2").arg(margin.leftJustified(LabelWidth),
+                                                         Console::printable(line)));
+        margin.clear();
+    }
 }

@@ -22,7 +22,8 @@ int InspectCommand::run(const QStringList &arguments)
     line.addOption({QStringLiteral("points"), tr("With --json, list every point.")});
     line.addOption({QStringLiteral("render"), tr("Write the preview of the one file as PNG."),
                     QStringLiteral("OUT.png")});
-    line.addOption({QStringLiteral("size"), tr("Longer side of the preview in pixels."),
+    line.addOption({QStringLiteral("size"),
+                    tr("Longer side of the preview in pixels; 400 if not given."),
                     QStringLiteral("N"), QStringLiteral("400")});
     if (!line.parse())
         return line.exitStatus();

@@ -2,6 +2,7 @@
 #include "app/base/Error.h"
 #include "app/base/FileNameEncoding.h"
 #include "app/base/GDebug.h"
+#include "app/base/GTranslationLoader.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
@@ -11,32 +12,36 @@
 #include <exception>
 #include <QGuiApplication>
 
+// Q_INIT_RESOURCE declares what it calls in the namespace around it, so this is outside of one.
+static void loadTranslations(QCoreApplication &app)
+{
+    Q_INIT_RESOURCE(tnw_translations);
+    Q_INIT_RESOURCE(translations);
+    GTranslationLoader::instance()->setTranslations(&app);
+}
+
 namespace {
 
 constexpr int CriticalMessagesOnly = 4;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("main", text);
-}
 
 int runWithoutCommand(const QStringList &arguments)
 {
     CommandLine line(
         QStringLiteral("hoopline-cli scan|inspect|list [options] [ARGUMENT...]"),
-        translated("The companion of Hoopline Organizer that needs no window.\n"
-                   "\n"
-                   "Commands; each has a --help of its own:\n"
-                   "  scan     Add folders to the catalogue, bring it into line with the disk.\n"
-                   "  inspect  Read designs and tell about them.\n"
-                   "  list     Print the designs of the catalogue."),
+        QCoreApplication::translate(
+            "main", "The companion of Hoopline Organizer that needs no window.\n"
+                    "\n"
+                    "Commands; each has a --help of its own:\n"
+                    "  scan     Add folders to the catalogue, bring it into line with the disk.\n"
+                    "  inspect  Read designs and tell about them.\n"
+                    "  list     Print the designs of the catalogue."),
         arguments);
     if (!line.parse())
         return line.exitStatus();
     if (line.positionalArguments().isEmpty())
-        return line.fail(translated("No command given."));
-    return line.fail(
-        translated("Unknown command '%1'.").arg(line.positionalArguments().constFirst()));
+        return line.fail(QCoreApplication::translate("main", "No command given."));
+    return line.fail(QCoreApplication::translate("main", "Unknown command '%1'.")
+                         .arg(line.positionalArguments().constFirst()));
 }
 
 int run(QStringList arguments)
@@ -68,6 +73,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("Hoopline Organizer"));
     QCoreApplication::setOrganizationName(QLatin1String(BuildConfig::Organisation));
     QCoreApplication::setApplicationVersion(QLatin1String(BuildConfig::Version));
+    loadTranslations(app);
 
     try {
         return run(app.arguments());

@@ -112,6 +112,7 @@ void CliListTest::printsTable()
     const auto lines = result.out.trimmed().split('\n');
     QCOMPARE(lines.size(), 3);
     QVERIFY(lines.at(1).startsWith("*  " + m_cli.workPath("designs/item10.dst").toUtf8()));
+    QCOMPARE(lines.at(2), QByteArray("1 design"));
 }
 
 void CliListTest::listsNothingWithoutCatalogue()

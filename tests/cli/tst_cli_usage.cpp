@@ -1,4 +1,5 @@
 #include "CliProcess.h"
+#include "support/DstDesign.h"
 #include <QtTest>
 
 class CliUsageTest : public QObject
@@ -11,6 +12,9 @@ private slots:
     void refusesWrongUsage_data();
     void refusesWrongUsage();
     void tellsItsVersion();
+    void failsWhenOutputIsLost_data();
+    void failsWhenOutputIsLost();
+    void speaksTheLanguageOfTheSystem();
 };
 
 void CliUsageTest::answersHelp_data()
@@ -72,6 +76,38 @@ void CliUsageTest::tellsItsVersion()
     const auto result = CliProcess().run({"--version"});
     QCOMPARE(result.status, 0);
     QVERIFY(result.out.startsWith("hoopline-cli 1."));
+}
+
+void CliUsageTest::failsWhenOutputIsLost_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("help") << QStringList{"--help"};
+    QTest::newRow("inspect") << QStringList{"inspect", "--json", "a.dst"};
+    QTest::newRow("list") << QStringList{"list"};
+}
+
+void CliUsageTest::failsWhenOutputIsLost()
+{
+    if (!QFile::exists("/dev/full"))
+        QSKIP("there is no device that is always full here");
+    QFETCH(QStringList, arguments);
+    const CliProcess cli;
+    QVERIFY(DstDesign::square().writeTo(cli.workPath("a.dst")));
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    QVERIFY(cli.start(process, arguments));
+    QCOMPARE(CliProcess::finish(process).status, 1);
+}
+
+void CliUsageTest::speaksTheLanguageOfTheSystem()
+{
+    qputenv("LC_ALL", "de_DE.UTF-8");
+    const auto result = CliProcess().run({"sing"});
+    qputenv("LC_ALL", "C.UTF-8");
+    QCOMPARE(result.error,
+             QByteArray("hoopline-cli: Unbekannter Befehl \342\200\236sing\342\200\234."
+                        "\nAufruf: hoopline-cli scan|inspect|list [options] "
+                        "[ARGUMENT...]\n"));
 }
 
 QTEST_GUILESS_MAIN(CliUsageTest)

@@ -56,16 +56,13 @@
         <source>Usage: %1</source>
         <translation>Aufruf: %1</translation>
     </message>
-</context>
-<context>
-    <name>DesignFile</name>
     <message>
-        <source>Not a regular file: %1</source>
-        <translation>Keine gewöhnliche Datei: %1</translation>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
     </message>
     <message>
-        <source>File too large: %1</source>
-        <translation>Datei zu groß: %1</translation>
+        <source>Print the version.</source>
+        <translation>Die Version ausgeben.</translation>
     </message>
 </context>
 <context>
@@ -318,10 +315,6 @@
         <translation>Die Vorschau der einen Datei als PNG schreiben.</translation>
     </message>
     <message>
-        <source>Longer side of the preview in pixels.</source>
-        <translation>Längere Seite der Vorschau in Pixeln.</translation>
-    </message>
-    <message>
         <source>No file given.</source>
         <translation>Keine Datei angegeben.</translation>
     </message>
@@ -340,6 +333,10 @@
     <message>
         <source>Failed to write %1</source>
         <translation>%1 konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Longer side of the preview in pixels; 400 if not given.</source>
+        <translation>Längere Seite der Vorschau in Pixeln; ohne Angabe 400.</translation>
     </message>
 </context>
 <context>
@@ -813,6 +810,31 @@
     <message>
         <source>remove tag</source>
         <translation>Schlagwort entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The companion of Hoopline Organizer that needs no window.
+
+Commands; each has a --help of its own:
+  scan     Add folders to the catalogue, bring it into line with the disk.
+  inspect  Read designs and tell about them.
+  list     Print the designs of the catalogue.</source>
+        <translation>Der Begleiter von Hoopline Organizer, der kein Fenster braucht.
+
+Befehle; jeder hat sein eigenes --help:
+  scan     Ordner zum Katalog hinzufügen und ihn mit der Festplatte abgleichen.
+  inspect  Stickmuster lesen und Auskunft über sie geben.
+  list     Die Stickmuster des Katalogs ausgeben.</translation>
+    </message>
+    <message>
+        <source>No command given.</source>
+        <translation>Kein Befehl angegeben.</translation>
+    </message>
+    <message>
+        <source>Unknown command &apos;%1&apos;.</source>
+        <translation>Unbekannter Befehl „%1“.</translation>
     </message>
 </context>
 </TS>

@@ -55,16 +55,13 @@
         <source>Usage: %1</source>
         <translation>用法：%1</translation>
     </message>
-</context>
-<context>
-    <name>DesignFile</name>
     <message>
-        <source>Not a regular file: %1</source>
-        <translation>不是普通文件：%1</translation>
+        <source>Print this help.</source>
+        <translation>显示此帮助。</translation>
     </message>
     <message>
-        <source>File too large: %1</source>
-        <translation>文件过大：%1</translation>
+        <source>Print the version.</source>
+        <translation>显示版本。</translation>
     </message>
 </context>
 <context>
@@ -316,10 +313,6 @@
         <translation>将该文件的预览写为 PNG。</translation>
     </message>
     <message>
-        <source>Longer side of the preview in pixels.</source>
-        <translation>预览较长边的像素数。</translation>
-    </message>
-    <message>
         <source>No file given.</source>
         <translation>未指定文件。</translation>
     </message>
@@ -338,6 +331,10 @@
     <message>
         <source>Failed to write %1</source>
         <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Longer side of the preview in pixels; 400 if not given.</source>
+        <translation>预览较长边的像素数；未指定时为 400。</translation>
     </message>
 </context>
 <context>
@@ -808,6 +805,31 @@
     <message>
         <source>remove tag</source>
         <translation>移除标签</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The companion of Hoopline Organizer that needs no window.
+
+Commands; each has a --help of its own:
+  scan     Add folders to the catalogue, bring it into line with the disk.
+  inspect  Read designs and tell about them.
+  list     Print the designs of the catalogue.</source>
+        <translation>Hoopline Organizer 的命令行工具，无需窗口。
+
+命令（均支持 --help）：
+  scan     将文件夹添加到目录，并使目录与磁盘一致。
+  inspect  读取花样并显示其信息。
+  list     输出目录中的花样。</translation>
+    </message>
+    <message>
+        <source>No command given.</source>
+        <translation>未指定命令。</translation>
+    </message>
+    <message>
+        <source>Unknown command &apos;%1&apos;.</source>
+        <translation>未知命令“%1”。</translation>
     </message>
 </context>
 </TS>
