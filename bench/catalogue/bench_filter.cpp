@@ -1,4 +1,3 @@
-#include "catalogue/models/FileOrder.h"
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "LargeCatalogue.h"
@@ -16,7 +15,6 @@ private slots:
     void pass();
     void refreshOfAnUnchangedCatalogue();
     void sortAlone();
-    void orderAgain();
     void tagOfOneFile();
 
 private:
@@ -81,17 +79,6 @@ void BenchFilter::sortAlone()
     {
         auto sorted = files;
         LocaleAwareFunctions::sort(sorted);
-    }
-}
-
-void BenchFilter::orderAgain()
-{
-    const QList<QSharedPointer<IFile>> files = m_project->files();
-    FileOrder order;
-    order.setFiles(files);
-    QBENCHMARK
-    {
-        order.setFiles(files);
     }
 }
 

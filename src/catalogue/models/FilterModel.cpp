@@ -1,5 +1,6 @@
 #include "catalogue/models/FilterModel.h"
 
+#include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
 #include "properties/ChangeManager.h"
 
@@ -74,10 +75,11 @@ QList<QSharedPointer<IFile>> FilterModel::filteredFiles() const
 const QList<QSharedPointer<IFile>> &FilterModel::orderedFiles() const
 {
     if (!m_orderIsValid) {
-        m_order.setFiles(m_watchedFiles);
+        m_orderedFiles = m_watchedFiles;
+        LocaleAwareFunctions::sort(m_orderedFiles);
         m_orderIsValid = true;
     }
-    return m_order.files();
+    return m_orderedFiles;
 }
 
 void FilterModel::observedObjectChanged(const Observable *observable)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "catalogue/models/FileOrder.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/SearchExpression.h"
 #include "properties/Observer.h"
@@ -55,7 +54,7 @@ private:
     QList<QSharedPointer<IFile>> m_watchedFiles;
 
     // Put in order only when somebody asks after a change.
-    mutable FileOrder m_order;
+    mutable QList<QSharedPointer<IFile>> m_orderedFiles;
     mutable bool m_orderIsValid = false;
     mutable QList<QSharedPointer<IFile>> m_filteredFiles;
     mutable bool m_filteredFilesAreValid = false;

@@ -3,9 +3,22 @@
 #include "catalogue/records/IFile.h"
 
 #include <algorithm>
+#include <QCollator>
 #include <QLocale>
 #include <utility>
 #include <vector>
+
+static QCollator naturalOrder()
+{
+    QLocale locale = QLocale::system();
+    // The C locale compares code by code and knows no natural order.
+    if (locale.language() == QLocale::C)
+        locale = QLocale(QLocale::English);
+    QCollator collator(locale);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    collator.setNumericMode(true);
+    return collator;
+}
 
 /** Sorts by the collation key of @p textOf each element, made once per element. */
 template <class T, class TextOf>
@@ -13,7 +26,7 @@ static void sortByKey(QList<T> &list, TextOf textOf)
 {
     if (list.count() < 2)
         return;
-    const QCollator collator = LocaleAwareFunctions::collator();
+    const QCollator collator = naturalOrder();
     std::vector<std::pair<QCollatorSortKey, T>> keyed;
     keyed.reserve(std::size_t(list.count()));
     for (const T &element : std::as_const(list))
@@ -43,16 +56,4 @@ QString LocaleAwareFunctions::toString(const QSizeF &size, bool inch)
     const QString pattern = inch ? QStringLiteral("%1\" x %2\"") : QStringLiteral("%1mm x %2mm");
     return pattern.arg(size.width() / unit, 0, 'f', precision)
         .arg(size.height() / unit, 0, 'f', precision);
-}
-
-QCollator LocaleAwareFunctions::collator()
-{
-    QLocale locale = QLocale::system();
-    // The C locale compares code by code and knows no natural order.
-    if (locale.language() == QLocale::C)
-        locale = QLocale(QLocale::English);
-    QCollator collator(locale);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
-    return collator;
 }

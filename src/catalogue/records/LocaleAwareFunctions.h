@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCollator>
 #include <QList>
 #include <QSharedPointer>
 #include <QSizeF>
@@ -24,7 +23,4 @@ public:
      * millimetres; empty for a size that isn't known.
      */
     static QString toString(const QSizeF &size, bool inch);
-
-    /** What the sorting compares with. */
-    static QCollator collator();
 };
