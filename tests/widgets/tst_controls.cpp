@@ -3,28 +3,21 @@
 #include "app/base/GTranslationLoader.h"
 #include "widgets/controls/About.h"
 #include "widgets/controls/About2.h"
-#include "widgets/controls/DragDropHelper.h"
 #include "widgets/controls/GExpandingTitle.h"
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/controls/GResizingTextEdit.h"
 #include "widgets/controls/GSideBar.h"
 #include "widgets/controls/GSideBarBoxAdvanced.h"
-#include "widgets/controls/GToolBar.h"
 #include "widgets/controls/GTreeView.h"
 #include "widgets/style/WidgetStyles.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QDragEnterEvent>
 #include <QLabel>
-#include <QMimeData>
-#include <QPushButton>
 #include <QSplitter>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
-#include <QUrl>
 #include <QVBoxLayout>
 
 class tst_controls : public QObject
@@ -37,13 +30,8 @@ private slots:
     void messageIsPlainText();
     void sideBarKeepsItsState();
     void titleFoldsByKeyboard();
-    void fixedTitleStaysOpen();
-    void titleButtonsHaveNames();
-    void toolBarButtonsTakeFocus();
     void treeDescribesItsEmptiness();
     void textEditGrowsUpToAMost();
-    void dropKeepsFoldersOnly();
-    void dropIsBlockedByModalWindow();
     void aboutBannerIsReadable();
     void aboutTellsTheDateInTheProgramsLanguage();
 
@@ -132,37 +120,9 @@ void tst_controls::titleFoldsByKeyboard()
     QVERIFY(!box.contentLayout()->parentWidget()->isVisible());
     QTest::keyClick(arrow, Qt::Key_Space);
     QVERIFY(box.contentLayout()->parentWidget()->isVisible());
-}
-
-void tst_controls::fixedTitleStaysOpen()
-{
-    GSideBarBox box(QStringLiteral("Folders"));
     box.setExpandable(false);
-    box.show();
     QTest::mouseClick(box.titleBar(), Qt::LeftButton, {}, QPoint(20, 10));
     QVERIFY(box.isExpanded());
-}
-
-void tst_controls::titleButtonsHaveNames()
-{
-    GExpandingTitle title(QStringLiteral("Tags"));
-    QToolButton *button = title.addButton(GIcon(), QStringLiteral("Add tag"));
-    QCOMPARE(button->accessibleName(), QStringLiteral("Add tag"));
-    QCOMPARE(button->toolTip(), QStringLiteral("Add tag"));
-    QVERIFY(button->focusPolicy() & Qt::TabFocus);
-}
-
-void tst_controls::toolBarButtonsTakeFocus()
-{
-    GToolBar bar(QStringLiteral("Toolbar"));
-    QAction action(QStringLiteral("&Rescan"));
-    bar.addAction(&action);
-    bar.addSeparator();
-    bar.addExpandingSeparator();
-    auto *button = qobject_cast<QToolButton *>(bar.widgetForAction(&action));
-    QVERIFY(button->focusPolicy() & Qt::TabFocus);
-    QCOMPARE(button->accessibleName(), QStringLiteral("Rescan"));
-    QVERIFY(!bar.isMovable());
 }
 
 void tst_controls::treeDescribesItsEmptiness()
@@ -197,51 +157,6 @@ void tst_controls::textEditGrowsUpToAMost()
     QVERIFY(edit->height() < 600);
     edit->clear();
     QTRY_COMPARE(edit->height(), small);
-}
-
-void tst_controls::dropKeepsFoldersOnly()
-{
-    const QString folder = m_dir.filePath(QStringLiteral("a \"b\" & c\nd"));
-    QVERIFY(QDir().mkdir(folder));
-    const QString file = m_dir.filePath(QStringLiteral("x.pes"));
-    QFile(file).open(QIODevice::WriteOnly);
-
-    QWidget target;
-    DragDropHelper helper(&target, DragDropHelper::Directories);
-    QSignalSpy dropped(&helper, &DragDropHelper::filesDropped);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(file), QUrl(QStringLiteral("https://example.org/"))});
-    QDragEnterEvent refused(QPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    helper.dragEnterEvent(&refused);
-    QVERIFY(!refused.isAccepted());
-
-    data.setUrls({QUrl::fromLocalFile(file), QUrl::fromLocalFile(folder)});
-    QDragEnterEvent enter(QPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    helper.dragEnterEvent(&enter);
-    QVERIFY(enter.isAccepted());
-    QVERIFY(helper.isDragActive());
-    QDropEvent drop(QPointF(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    helper.dropEvent(&drop);
-    QVERIFY(drop.isAccepted());
-    QVERIFY(!helper.isDragActive());
-    QCOMPARE(dropped.count(), 0);
-    QTRY_COMPARE(dropped.count(), 1);
-    QCOMPARE(dropped.first().first().toStringList(), QStringList{folder});
-}
-
-void tst_controls::dropIsBlockedByModalWindow()
-{
-    QWidget target;
-    target.show();
-    DragDropHelper helper(&target, DragDropHelper::Directories);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(m_dir.path())});
-    QDialog dialog;
-    dialog.setModal(true);
-    dialog.show();
-    QDragEnterEvent enter(QPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    helper.dragEnterEvent(&enter);
-    QVERIFY(!enter.isAccepted());
 }
 
 /** As the program has it: style sheets that hand their colours on keep palettes from doing so. */
