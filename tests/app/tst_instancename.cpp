@@ -1,5 +1,5 @@
-#include "app/base/InstanceBlock.h"
 #include "app/base/InstanceName.h"
+
 #include <QtTest>
 
 class InstanceNameTest : public QObject
@@ -9,7 +9,6 @@ class InstanceNameTest : public QObject
 private slots:
     void hashesItsFields_data();
     void hashesItsFields();
-    void blockTellsBrokenWrites();
 };
 
 void InstanceNameTest::hashesItsFields_data()
@@ -36,21 +35,6 @@ void InstanceNameTest::hashesItsFields()
     name.applicationFilePath = fields.at(4);
     name.userName = fields.at(5);
     QTEST(name.toString(), "name");
-}
-
-void InstanceNameTest::blockTellsBrokenWrites()
-{
-    InstanceBlock block;
-    block.initialize();
-    QVERIFY(block.isIntact());
-    QVERIFY(!block.primary);
-    QCOMPARE(block.primaryPid, qint64(-1));
-    block.primary = true;
-    QVERIFY(!block.isIntact());
-    block.seal();
-    QVERIFY(block.isIntact());
-    block.primaryUser[0] = 'x'; // takes no part in the checksum
-    QVERIFY(block.isIntact());
 }
 
 QTEST_GUILESS_MAIN(InstanceNameTest)

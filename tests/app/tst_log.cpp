@@ -25,7 +25,6 @@ private slots:
     void unwritableOutputFallsBack();
     void globalMaskFilters();
     void qtMessages();
-    void eventNames();
     void crashLinesNameNoFile_data();
     void crashLinesNameNoFile();
     void ringKeepsTheLastLines();
@@ -77,12 +76,8 @@ void tst_Log::closestAncestorDecides_data()
                                         << "a/b/c" << 1 << false;
     QTest::newRow("itself") << "a/b/c"
                             << "a/b/c" << 4 << false;
-    QTest::newRow("descendant does not count") << "a/b/c/d"
-                                               << "a/b/c" << 4 << true;
     QTest::newRow("root") << "/"
                           << "a/b/c" << 1 << false;
-    QTest::newRow("no facility, root") << "/"
-                                       << "" << 1 << false;
 }
 
 void tst_Log::closestAncestorDecides()
@@ -117,22 +112,17 @@ void tst_Log::forms_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("text");
-    QTest::newRow("int") << QVariant(-7) << "-7";
-    QTest::newRow("bool") << QVariant(true) << "true";
-    QTest::newRow("string") << QVariant("ä") << "ä";
     QTest::newRow("size") << QVariant(QSize(1, 2)) << "QSize(1, 2)";
     QTest::newRow("point") << QVariant(QPointF(1.5, -2)) << "QPointF(1.5, -2)";
     QTest::newRow("rect") << QVariant(QRect(1, 2, 3, 4)) << "QRect(1, 2, 3, 4)";
     QTest::newRow("line") << QVariant(QLine(1, 2, 3, 4)) << "QLine(QPoint(1, 2) - QPoint(3, 4))";
     QTest::newRow("date") << QVariant(QDate(2020, 2, 29)) << "QDate(2020-02-29)";
-    QTest::newRow("time") << QVariant(QTime(1, 2, 3)) << "QTime(01:02:03)";
     QTest::newRow("date-time") << QVariant(QDateTime(QDate(2020, 2, 29), QTime(1, 2, 3)))
                                << "QDateTime(2020-02-29 01:02:03)";
     QTest::newRow("url") << QVariant(QUrl("https://a.example")) << "QUrl(https://a.example)";
     QTest::newRow("empty list") << QVariant(QVariantList()) << "QList()";
     QTest::newRow("list") << QVariant(QVariantList{1, QSize(2, 3)}) << "QList(1, QSize(2, 3))";
     QTest::newRow("map") << QVariant(QVariantMap{{"a", 1}, {"b", 2}}) << "QMap(a=1, b=2)";
-    QTest::newRow("hash") << QVariant(QVariantHash{{"a", 1}}) << "QHash(a=1)";
 }
 
 void tst_Log::forms()
@@ -170,16 +160,6 @@ void tst_Log::qtMessages()
     qInstallMessageHandler(previous);
     QCOMPARE(logged(), (QStringList{QStringLiteral("WARN | T |  q.cpp | w"),
                                     QStringLiteral("DEBG | T |        | i")}));
-}
-
-void tst_Log::eventNames()
-{
-    QCOMPARE(event2shortString(QEvent::None), QStringLiteral("None"));
-    QCOMPARE(event2shortString(QEvent::MouseButtonPress), QStringLiteral("MouseButtonPress"));
-    QCOMPARE(event2shortString(QEvent::ApplicationActivate), QStringLiteral("ApplicationActivate"));
-    QCOMPARE(event2shortString(QEvent::ApplicationStateChange),
-             QStringLiteral("ApplicationStateChange"));
-    QCOMPARE(event2shortString(QEvent::User), QStringLiteral("UNKNOWN"));
 }
 
 void tst_Log::crashLinesNameNoFile_data()
@@ -262,11 +242,10 @@ void tst_Log::collector()
     QVERIFY(collector.takeCollectedErrors().isEmpty());
     std::thread worker([&collector] { collector.addError(Error(QStringLiteral("e"))); });
     worker.join();
-    QVERIFY(collector.hasErrors());
     const QList<Error> errors = collector.takeCollectedErrors();
     QCOMPARE(errors.size(), 1);
     QCOMPARE(errors.first().toString(), QStringLiteral("e"));
-    QVERIFY(!collector.hasErrors());
+    QVERIFY(collector.takeCollectedErrors().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_Log)
