@@ -21,7 +21,6 @@ private slots:
     void failuresAreTold();
     void fullDiskLeavesTheOldFile();
     void copiesAndRemovesTrees();
-    void commonPrefix();
 
 private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
@@ -100,13 +99,6 @@ void TestFileTools::copiesAndRemovesTrees()
     FileTools::removeDir(path("to"));
     QVERIFY(!QFile::exists(path("to")));
     QVERIFY(QFile::exists(path("from/s/b")));
-}
-
-void TestFileTools::commonPrefix()
-{
-    QCOMPARE(FileTools::longestCommonPathPrefix({}), QString());
-    QCOMPARE(FileTools::longestCommonPathPrefix({"/a/bc", "/a/bd"}), QStringLiteral("/a/"));
-    QCOMPARE(FileTools::longestCommonPathPrefix({"a/b", "c/d"}), QString());
 }
 
 QTEST_GUILESS_MAIN(TestFileTools)

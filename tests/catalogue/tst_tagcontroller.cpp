@@ -10,7 +10,6 @@ class TagControllerTest : public QObject
 private slots:
     void listsTags();
     void renamesAndRemovesEverywhere();
-    void reconcilesGlobalList();
     void makesTagsOfPaths();
 };
 
@@ -48,18 +47,6 @@ void TagControllerTest::renamesAndRemovesEverywhere()
     undo->undo();
     QCOMPARE(both->tags(), (QStringList{"blue", "red"}));
     QVERIFY(catalogue.project->allTags().isEmpty());
-}
-
-void TagControllerTest::reconcilesGlobalList()
-{
-    Catalogue catalogue;
-    catalogue.project->setAllTags({"unused", "b"});
-    catalogue.add("/d/a", {"b", "a"});
-    TagController tags(catalogue.project);
-    tags.addFileTagsToGlobalList();
-    QCOMPARE(catalogue.project->allTags(), (QStringList{"a", "b", "unused"}));
-    tags.removeUnusedTagsFromGlobalList();
-    QCOMPARE(catalogue.project->allTags(), (QStringList{"a", "b"}));
 }
 
 void TagControllerTest::makesTagsOfPaths()
