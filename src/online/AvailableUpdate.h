@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QUrl>
 
@@ -8,6 +9,8 @@ struct AvailableUpdate
 {
     QString version;
     QString title;
+    /** Invalid when the feed tells none. */
+    QDate releaseDate;
     /** A page about the release. */
     QUrl releaseNotes;
     QUrl download;

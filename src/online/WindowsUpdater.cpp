@@ -12,9 +12,11 @@
 #include <QAuthenticator>
 #include <QDomDocument>
 #include <QInputDialog>
+#include <QMainWindow>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QRegularExpression>
+#include <QTimer>
 
 namespace {
 
@@ -24,6 +26,7 @@ constexpr auto IgnoreSkipped = QNetworkRequest::Attribute(QNetworkRequest::User 
 
 constexpr int MaxLoggedBody = 2048;
 constexpr int MaxVersionLength = 32;
+constexpr int BusyDelay = 500; // milliseconds
 
 bool attribute(const QNetworkReply *reply, QNetworkRequest::Attribute name)
 {
@@ -48,6 +51,8 @@ AvailableUpdate release(const QDomElement &item)
     AvailableUpdate update;
     update.version = enclosure.attribute(QStringLiteral("sparkle:version"));
     update.title = text(QStringLiteral("title"));
+    update.releaseDate =
+        QDate::fromString(text(QStringLiteral("tnw:releaseDate")), QStringLiteral("yyyy-MM-dd"));
     update.releaseNotes = QUrl(text(QStringLiteral("sparkle:releaseNotesLink")), QUrl::StrictMode);
     update.download = QUrl(enclosure.attribute(QStringLiteral("url")), QUrl::StrictMode);
     return update;
@@ -69,6 +74,17 @@ AvailableUpdate newestRelease(const QDomElement &channel)
     return best;
 }
 
+// Not the active window, which may be a dialog about to go or belong to another program.
+QWidget *mainWindow()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (qobject_cast<QMainWindow *>(widget) && widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 WindowsUpdater::WindowsUpdater() : m_manager(new QNetworkAccessManager(this))
@@ -76,6 +92,9 @@ WindowsUpdater::WindowsUpdater() : m_manager(new QNetworkAccessManager(this))
     connect(m_manager, &QNetworkAccessManager::finished, this, &WindowsUpdater::replyFinished);
     connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
             &WindowsUpdater::authenticationRequired);
+    // The end of the program still turns the event loop; a late answer has nobody to ask.
+    connect(qApp, &QCoreApplication::aboutToQuit, m_manager,
+            [this] { m_manager->disconnect(this); });
 }
 
 WindowsUpdater::~WindowsUpdater()
@@ -158,7 +177,12 @@ void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool i
 void WindowsUpdater::offer(const AvailableUpdate &update)
 {
     delete m_dialog;
-    m_dialog = new UpdateDialog(update, QApplication::activeWindow());
+    // What the user is busy with, a scan perhaps, comes first.
+    if (QApplication::activeModalWidget()) {
+        QTimer::singleShot(BusyDelay, this, [this, update] { offer(update); });
+        return;
+    }
+    m_dialog = new UpdateDialog(update, mainWindow());
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->open();
 }
