@@ -16,6 +16,9 @@ namespace {
 
 constexpr int TextWidth = 340;
 constexpr int PictureSize = 64;
+constexpr int PictureGap = 14;
+constexpr int TextGap = 8;
+constexpr int ButtonGap = 16;
 
 QLabel *plainLabel(const QString &text)
 {
@@ -34,11 +37,14 @@ UpdateDialog::UpdateDialog(const AvailableUpdate &update, QWidget *parent)
 {
     setWindowTitle(tr("Software Update"));
     auto *texts = new QVBoxLayout;
+    texts->setSpacing(TextGap);
     addTexts(texts);
     auto *top = new QHBoxLayout;
+    top->setSpacing(PictureGap);
     addPicture(top);
     top->addLayout(texts);
     auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(ButtonGap);
     layout->addLayout(top);
     addButtons(layout);
 }
@@ -97,12 +103,15 @@ void UpdateDialog::addButtons(QVBoxLayout *layout)
     installButton->setObjectName(QStringLiteral("install"));
     laterButton->setObjectName(QStringLiteral("later"));
     skipButton->setObjectName(QStringLiteral("skip"));
+    layout->addWidget(buttons);
     installButton->setEnabled(m_update.canBeInstalled());
-    (m_update.canBeInstalled() ? installButton : laterButton)->setDefault(true);
+    // The focus too, or the Enter key would press the first button that can have it.
+    auto *defaultButton = m_update.canBeInstalled() ? installButton : laterButton;
+    defaultButton->setDefault(true);
+    defaultButton->setFocus();
     connect(installButton, &QPushButton::clicked, this, &UpdateDialog::install);
     connect(laterButton, &QPushButton::clicked, this, &QDialog::reject);
     connect(skipButton, &QPushButton::clicked, this, &UpdateDialog::skip);
-    layout->addWidget(buttons);
 }
 
 void UpdateDialog::install()
