@@ -16,6 +16,7 @@ namespace {
 constexpr int MaxRedirects = 5;
 // Of a server's answer; an error page may be long.
 constexpr int MaxShownText = 1000;
+constexpr int ProgressWidth = 320;
 
 bool mayFollow(const QUrl &from, const QUrl &target)
 {
@@ -97,6 +98,7 @@ void FeedbackDialog::showProgress()
     m_progress->setWindowTitle(tr("Sending feedback"));
     m_progress->setWindowModality(Qt::WindowModal);
     m_progress->setMinimumDuration(0);
+    m_progress->setMinimumWidth(ProgressWidth);
     connect(m_progress, &QProgressDialog::canceled, this, &FeedbackDialog::cancelUpload);
     m_progress->show();
 }
