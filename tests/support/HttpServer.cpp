@@ -1,14 +1,15 @@
-#include "online/HttpServer.h"
+#include "support/HttpServer.h"
 
+#include <memory>
 #include <QFile>
 #include <QSslKey>
 #include <QSslSocket>
 #include <QTcpSocket>
-#include <QTimer>
 
 namespace {
 
 constexpr qint64 Chunk = 256 * 1024;
+constexpr qint64 HugeBody = 100 * 1024 * 1024;
 
 QByteArray tlsFile(const QString &name)
 {
@@ -39,6 +40,35 @@ bool parse(const QByteArray &received, HttpServer::Request &request)
 HttpServer::HttpServer(Handler handler, bool tls) : m_handler(std::move(handler)), m_tls(tls)
 {
     listen(QHostAddress::LocalHost);
+}
+
+HttpServer::Response HttpServer::text(const QByteArray &body)
+{
+    Response response;
+    response.body = body;
+    return response;
+}
+
+HttpServer::Response HttpServer::redirect(const QByteArray &location)
+{
+    Response response;
+    response.status = 302;
+    response.headers = {{"Location", location}};
+    return response;
+}
+
+QMap<QByteArray, HttpServer::Response> HttpServer::oddAnswers()
+{
+    Response garbage;
+    garbage.raw = "\x01\xff what?\n\n";
+    Response error = text("<rss><channel/></rss>");
+    error.status = 500;
+    Response huge;
+    huge.filler = HugeBody;
+    return {{"garbage", garbage},
+            {"error status", error},
+            {"redirect to a file", redirect("file:///etc/passwd")},
+            {"100 MB", huge}};
 }
 
 QUrl HttpServer::url(const QString &path) const
@@ -75,14 +105,13 @@ void HttpServer::receive(QTcpSocket *socket)
         return;
     received.clear();
     m_requests.append(request);
-    const Response response = m_handler(request);
-    if (!response.silent)
-        QTimer::singleShot(response.delayMs, socket,
-                           [socket, response] { respond(socket, response); });
+    respond(socket, m_handler(request));
 }
 
 void HttpServer::respond(QTcpSocket *socket, const Response &response)
 {
+    if (response.silent)
+        return;
     if (!response.raw.isEmpty()) {
         socket->write(response.raw);
         socket->disconnectFromHost();

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QMap>
+#include <QMetaType>
 #include <QPair>
 #include <QTcpServer>
 #include <QUrl>
@@ -37,7 +38,6 @@ public:
         qint64 filler = 0;
         /** The connection stays open and nothing is ever said. */
         bool silent = false;
-        int delayMs = 0;
         /** Sent as it is instead of a response, when not empty. */
         QByteArray raw;
     };
@@ -46,6 +46,12 @@ public:
 
     /** Listens on a free port. @param tls with a certificate that nobody should accept */
     explicit HttpServer(Handler handler, bool tls = false);
+
+    static Response text(const QByteArray &body);
+    static Response redirect(const QByteArray &location);
+
+    /** By name, what no client should expect and every client should survive. */
+    static QMap<QByteArray, Response> oddAnswers();
 
     QUrl url(const QString &path = QStringLiteral("/")) const;
     int connections() const { return m_connections; }
@@ -64,3 +70,5 @@ private:
     QList<Request> m_requests;
     QMap<QTcpSocket *, QByteArray> m_received;
 };
+
+Q_DECLARE_METATYPE(HttpServer::Response)
