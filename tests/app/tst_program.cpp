@@ -1,6 +1,7 @@
 #include "support/GuardFolder.h"
 
 #include "app/base/BuildConfig.h"
+#include "support/HttpServer.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,6 +25,8 @@ private slots:
     void cleanup() { m_profile.reset(); }
     void flushesSettings();
     void firstStartMakesACatalogue();
+    void freshProfileOnlyAsksForUpdates_data();
+    void freshProfileOnlyAsksForUpdates();
     void secondStartLeavesSettingsOfARunningProgram();
     void reportsCrashesOnRequest();
 
@@ -87,6 +90,45 @@ void tst_program::firstStartMakesACatalogue()
     QCOMPARE(settings.value(QStringLiteral("firstStart")), QVariant(QStringLiteral("false")));
     QCOMPARE(settings.value(QStringLiteral("statisticsUUID")).toString().size(), 32);
     QVERIFY(!settings.value(QStringLiteral("sendStatisticsEnabled")).toBool());
+}
+
+void tst_program::freshProfileOnlyAsksForUpdates_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("asked");
+    const QString updates = QUrl(QLatin1String(BuildConfig::BaseUrl)).host() + ":443";
+    const QString metrics = "t40817263." + QString(BuildConfig::MetricsDomain) + ":443";
+    QTest::newRow("fresh") << QStringList() << QStringList(updates);
+    // Told twice: as a property and as an event.
+    QTest::newRow("asked not to track")
+        << QStringList("--do-not-track") << QStringList{metrics, metrics, updates};
+}
+
+// All traffic goes through a proxy that counts, and lets nothing pass.
+void tst_program::freshProfileOnlyAsksForUpdates()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, asked);
+    HttpServer proxy([](const HttpServer::Request &) {
+        HttpServer::Response refusal;
+        refusal.status = 502;
+        return refusal;
+    });
+    for (const char *variable : {"http_proxy", "https_proxy", "all_proxy"})
+        qputenv(variable, proxy.url(QString()).toEncoded());
+    QVERIFY(QFile::remove(settingsPath()));
+    QProcess process;
+    start(process, arguments);
+    QTRY_VERIFY_WITH_TIMEOUT(proxy.requests().size() >= asked.size(), Patience);
+    QTest::qWait(300);
+    process.kill();
+    QVERIFY(process.waitForFinished(Patience));
+    QStringList targets;
+    for (const HttpServer::Request &request : proxy.requests())
+        targets.append(QString::fromLatin1(request.target));
+    targets.sort();
+    QCOMPARE(targets, asked);
+    QCOMPARE(proxy.connections(), asked.size());
 }
 
 void tst_program::secondStartLeavesSettingsOfARunningProgram()
