@@ -25,9 +25,12 @@ PreferencesDialog::~PreferencesDialog() = default;
 
 void PreferencesDialog::updatePrivacyTab()
 {
-    m_ui->trackingDescriptionLabel->setText(
-        m_ui->trackingDescriptionLabel->text().arg(GSettings().statisticsUUID().toHtmlEscaped(),
-                                                   QString::fromLatin1(BuildConfig::PrivacyUrl)));
+    QLabel *label = m_ui->trackingDescriptionLabel;
+    label->setText(label->text().arg(GSettings().statisticsUUID().toHtmlEscaped(),
+                                     QString::fromLatin1(BuildConfig::PrivacyUrl)));
+    // Qt opens no dialog higher than two thirds of the screen, and the wrapped text would give way.
+    const int width = label->sizeHint().width();
+    label->setMinimumSize(width, label->heightForWidth(width));
     const AutoUpdater *updater = theAutoUpdater();
     m_ui->autoUpdatesCheckBox->setChecked(updater->autoUpdatesEnabled());
     m_ui->includeBetaUpdatesCheckBox->setChecked(updater->betaUpdatesEnabled());

@@ -24,6 +24,7 @@ private slots:
     void appliesUpdateChoices();
     void appliesTracking();
     void showsTheRealIdentifier();
+    void textIsNotClipped();
 
 private:
     template <typename T>
@@ -38,14 +39,10 @@ void tst_preferences::showsWhatIsStored()
     GlobalSettings().setImperialUnits(true);
     GSettings().setAutoUpdatesEnabled(false);
     PreferencesDialog dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Preferences"));
     QVERIFY(child<QCheckBox>(dialog, "useImperialUnits")->isChecked());
     QVERIFY(!child<QCheckBox>(dialog, "autoUpdatesCheckBox")->isChecked());
     QCOMPARE(child<QLineEdit>(dialog, "appDataDirectory")->text(),
              GlobalSettings().applicationDataPath());
-    auto *tabs = child<QTabWidget>(dialog, "tabWidget");
-    QCOMPARE(tabs->currentIndex(), 0);
-    QCOMPARE(tabs->tabText(1), QStringLiteral("Updates && Privacy"));
     auto *ok = child<QPushButton>(dialog, "okButton");
     QTimer::singleShot(0, ok, &QPushButton::click);
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
@@ -98,8 +95,16 @@ void tst_preferences::showsTheRealIdentifier()
     QVERIFY(label->text().contains(QStringLiteral("Random user indentifier (%1)").arg(identifier)));
     QVERIFY(label->text().contains(
         QStringLiteral("href=\"%1\"").arg(QLatin1String(BuildConfig::PrivacyUrl))));
-    QVERIFY(label->openExternalLinks());
-    QVERIFY(label->wordWrap());
+}
+
+void tst_preferences::textIsNotClipped()
+{
+    PreferencesDialog dialog(nullptr);
+    child<QTabWidget>(dialog, "tabWidget")->setCurrentIndex(1);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const auto *label = child<QLabel>(dialog, "trackingDescriptionLabel");
+    QVERIFY(label->height() >= label->heightForWidth(label->width()));
 }
 
 int main(int argc, char **argv)
