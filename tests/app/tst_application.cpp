@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QSplitter>
 #include <QtTest>
+#include <QWindow>
 
 namespace {
 
@@ -255,8 +256,10 @@ void tst_application::keepsWindowState()
     QVERIFY(GSettings().contains(key + QStringLiteral("windowState")));
     QVERIFY(GSettings().contains(key + QStringLiteral("panes")));
     auto window = create();
+    window->winId();
+    QSignalSpy seen(window->windowHandle(), &QWindow::visibleChanged);
     window->restoreWindowState(QString());
-    QVERIFY(window->isHidden());
+    QVERIFY(window->isHidden() && seen.isEmpty());
     QCOMPARE(window->size(), QSize(420, 310));
     QCOMPARE(window->property("own").toString(), QStringLiteral("stored"));
     const auto sizes = window->findChild<QSplitter *>()->sizes();

@@ -140,10 +140,14 @@ void GMainWindow::restoreWindowState(const QString &group)
     settings.endGroup();
     settings.endGroup();
 
-    // The native window takes up the geometry only when it is shown.
+    // The native window takes up the geometry only when it is shown. Not on the screen: a
+    // busy window manager that hears of it late would take the window away after it has
+    // been shown for good.
     if (!isVisible()) {
+        setAttribute(Qt::WA_DontShowOnScreen);
         setVisible(true);
         setVisible(false);
+        setAttribute(Qt::WA_DontShowOnScreen, false);
     }
 }
 
