@@ -35,7 +35,12 @@ int paintedPixels(const QImage &image)
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            count += qAlpha(image.pixel(x, y)) != 0 ? 1 : 0;
+            const int alpha = qAlpha(image.pixel(x, y));
+            // Threads have hard edges.
+            if (alpha != 0 && alpha != 255) {
+                return -1;
+            }
+            count += alpha != 0 ? 1 : 0;
         }
     }
     return count;
@@ -50,26 +55,16 @@ class tst_PreviewRenderer : public QObject
     Q_OBJECT
 
 private slots:
-    void noPatternNoImage();
     void imageSize_data();
     void imageSize();
-    void emptyPatternIsTransparent();
-    void hugeSizesAreRefused();
+    void whatCannotBeDrawnGivesNoImage();
     void stitchIsShadedAlongItsLength();
     void laterStitchesCoverEarlierOnes();
     void singlePointStitchIsARoundDot();
-    void everyPixelIsOpaqueOrClear();
-    void farStitchIsShownAtTheImagesOrigin();
+    void wayFromTheOriginIsClipped();
     void shadeColor_data();
     void shadeColor();
-    void colorConversions();
 };
-
-void tst_PreviewRenderer::noPatternNoImage()
-{
-    QVERIFY(PreviewRenderer().render(Pattern(), 400.0).isNull());
-    QVERIFY(PreviewRenderer::renderToPixmap(Pattern(), 400.0).isNull());
-}
 
 void tst_PreviewRenderer::imageSize_data()
 {
@@ -79,7 +74,6 @@ void tst_PreviewRenderer::imageSize_data()
 
     const QSize none(0, 0);
     QTest::newRow("square") << Points{{0, 0}, {1000, 1000}} << 400.0 << QSize(400, 400);
-    QTest::newRow("wide") << Points{{0, 0}, {1000, 500}} << 400.0 << QSize(400, 200);
     QTest::newRow("tall") << Points{{0, 0}, {250, 1000}} << 400.0 << QSize(100, 400);
     QTest::newRow("fraction is rounded up")
         << Points{{0, 0}, {1000, 501}} << 400.0 << QSize(400, 201);
@@ -89,7 +83,7 @@ void tst_PreviewRenderer::imageSize_data()
     QTest::newRow("wholly negative reaches the origin")
         << Points{{-1000, -1000}, {-500, -500}} << 400.0 << QSize(400, 400);
     QTest::newRow("single point") << Points{{5, 5}, {5, 5}} << 400.0 << none;
-    QTest::newRow("no size") << Points{{0, 0}, {1000, 500}} << 0.0 << none;
+    QTest::newRow("no stitches") << Points() << 400.0 << QSize(400, 400);
     QTest::newRow("negative size") << Points{{0, 0}, {1000, 500}} << -400.0 << none;
 }
 
@@ -101,21 +95,12 @@ void tst_PreviewRenderer::imageSize()
     const QImage image = PreviewRenderer().render(polyline(points), size);
     QCOMPARE(image.size(), expected);
     QCOMPARE(PreviewRenderer::renderToPixmap(polyline(points), size).size(), expected);
-    if (!image.isNull()) {
-        QCOMPARE(image.format(), QImage::Format_ARGB32);
-        QVERIFY(paintedPixels(image) > 0);
-    }
+    QCOMPARE(paintedPixels(image) > 0, !image.isNull() && !points.isEmpty());
 }
 
-void tst_PreviewRenderer::emptyPatternIsTransparent()
+void tst_PreviewRenderer::whatCannotBeDrawnGivesNoImage()
 {
-    const QImage image = PreviewRenderer().render(EmbPattern::create(), 400.0);
-    QCOMPARE(image.size(), QSize(400, 400));
-    QCOMPARE(paintedPixels(image), 0);
-}
-
-void tst_PreviewRenderer::hugeSizesAreRefused()
-{
+    QVERIFY(PreviewRenderer::renderToPixmap(Pattern(), 400.0).isNull());
     const Pattern pattern = polyline({{0, 0}, {1000, 500}});
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double size : {1e6, 1e300, infinity, std::nan("")}) {
@@ -185,25 +170,8 @@ void tst_PreviewRenderer::singlePointStitchIsARoundDot()
     QCOMPARE(qAlpha(image.pixel(207, 207)), 0);
 }
 
-void tst_PreviewRenderer::everyPixelIsOpaqueOrClear()
+void tst_PreviewRenderer::wayFromTheOriginIsClipped()
 {
-    const QImage image =
-        PreviewRenderer().render(polyline({{0, 0}, {300, 100}, {20, 180}, {260, 300}}), 400.0);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const int alpha = qAlpha(image.pixel(x, y));
-            QVERIFY2(alpha == 0 || alpha == 255, qPrintable(QString::number(alpha)));
-        }
-    }
-}
-
-void tst_PreviewRenderer::farStitchIsShownAtTheImagesOrigin()
-{
-    const QImage near = PreviewRenderer().render(polyline({{0, 0}, {100, 50}}), 400.0);
-    const QImage far = PreviewRenderer().render(polyline({{10000, 5000}, {10100, 5050}}), 400.0);
-    QCOMPARE(far.size(), near.size());
-    QCOMPARE(far.pixel(200, 100), near.pixel(200, 100));
-
     // Stitching without a move starts at the origin; that segment is clipped.
     const Pattern joined = EmbPattern::create();
     joined->stitchAbs(1000, 1000);
@@ -235,16 +203,6 @@ void tst_PreviewRenderer::shadeColor()
     QFETCH(QVector3D, normal);
     QFETCH(QColor, expected);
     QCOMPARE(PreviewRenderer().shadeColor(color, normal), expected);
-}
-
-void tst_PreviewRenderer::colorConversions()
-{
-    QCOMPARE(PreviewRenderer::rgbVector(0xff3300ff), QVector3D(0.2f, 0.0f, 1.0f));
-    QVector4D v = PreviewRenderer::rgbaVector(0x663300ff);
-    QCOMPARE(v, QVector4D(0.2f, 0.0f, 1.0f, 0.4f));
-    v.setX(1.7f);
-    v.setY(0.999f);
-    QCOMPARE(PreviewRenderer::rgbaColor(v) & 0xffffff, 0xfffeffu);
 }
 
 QTEST_MAIN(tst_PreviewRenderer)
