@@ -121,8 +121,8 @@ void DstReader::dstReadStitches()
     std::array<char, RecordSize> b{};
     // Records behind the end record are read all the same.
     while (readFully(b.data(), RecordSize) == RecordSize) {
-        const auto dx = static_cast<float>(decodedx(b[0], b[1], b[2]));
-        const auto dy = static_cast<float>(decodedy(b[0], b[1], b[2]));
+        const int dx = decodedx(b[0], b[1], b[2]);
+        const int dy = decodedy(b[0], b[1], b[2]);
         const int flags = static_cast<unsigned char>(b[2]);
         if ((flags & 0xF3) == 0xF3) {
             design.end(dx, dy);

@@ -90,7 +90,6 @@ QList<StitchBlock> EmbPattern::asStitchBlock()
 {
     threadForIndex(0);
     QList<StitchBlock> blocks;
-    QVector<QPointF> run;
     QPointF position(0, 0);
     const QVector<int> &commands = m_points->commands();
     const auto isStitch = [&commands](int i) {
@@ -107,8 +106,7 @@ QList<StitchBlock> EmbPattern::asStitchBlock()
         }
         if (color == -1)
             color = 0;
-        run.clear();
-        run.append(position);
+        QVector<QPointF> run{position};
         for (; i < n && isStitch(i); ++i) {
             position = m_points->pos(i);
             run.append(position);

@@ -22,7 +22,7 @@ void ExpReader::read()
         if (readFully(b, 2) != 2)
             throw IOException(QStringLiteral("Unexpected end of file"));
         if (b[0] != ControlRecord) {
-            design.stitch(static_cast<float>(signed8(b[0])), static_cast<float>(-signed8(b[1])));
+            design.stitch(signed8(b[0]), -signed8(b[1]));
             continue;
         }
         const int code = b[1] & 0xFF;
@@ -36,19 +36,17 @@ void ExpReader::read()
 void ExpReader::control(int code, int x, int y)
 {
     EmbPattern &design = pattern();
-    const auto dx = static_cast<float>(x);
-    const auto dy = static_cast<float>(y);
     switch (code) {
     case 0x01:
         design.color_change();
         if (x != 0 || y != 0)
-            design.move(dx, dy);
+            design.move(x, y);
         break;
     case 0x02:
-        design.stitch(dx, dy);
+        design.stitch(x, y);
         break;
     case 0x04:
-        design.move(dx, dy);
+        design.move(x, y);
         break;
     case 0x80:
         design.trim();

@@ -82,8 +82,8 @@ void HusReader::addStitches(const Streams &streams, int count)
     EmbPattern &design = pattern();
     design.reserve(qMax(0, count) + 1);
     for (int i = 0; i < count; ++i) {
-        const auto dx = static_cast<float>(signed8(byteAt(streams.x, i, 0)));
-        const auto dy = static_cast<float>(-signed8(byteAt(streams.y, i, 0)));
+        const int dx = signed8(byteAt(streams.x, i, 0));
+        const int dy = -signed8(byteAt(streams.y, i, 0));
         switch (byteAt(streams.commands, i, StitchCommandByte)) {
         case MoveCommandByte:
             design.move(dx, dy);

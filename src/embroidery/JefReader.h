@@ -1,23 +1,22 @@
 #pragma once
 
-#include "embroidery/EmbReader.h"
+#include "embroidery/JanomeReader.h"
 
 namespace Embroidery {
 
 /** Reads "jef": a header with a palette of chart indices, then pairs of bytes. */
-class JefReader : public EmbReader
+class JefReader : public JanomeReader
 {
 public:
     JefReader();
 
 protected:
-    using EmbReader::read;
+    using JanomeReader::read;
     void read() override;
 
 private:
     void readPalette(int count);
-    void readStitches();
-    bool control(int code, int x, int y);
+    bool control(int code, int x, int y) override;
 };
 
 } // namespace Embroidery

@@ -128,15 +128,13 @@ void PecReader::readPecStitches()
         } else {
             y = shortDelta(b);
         }
-        const auto dx = static_cast<float>(x);
-        const auto dy = static_cast<float>(y);
         if (flags & JumpFlag) {
-            design.move(dx, dy);
+            design.move(x, y);
         } else if (flags & TrimFlag) {
             design.trim();
-            design.move(dx, dy);
+            design.move(x, y);
         } else {
-            design.stitch(dx, dy);
+            design.stitch(x, y);
         }
     }
 }

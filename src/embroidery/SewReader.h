@@ -1,23 +1,22 @@
 #pragma once
 
-#include "embroidery/EmbReader.h"
+#include "embroidery/JanomeReader.h"
 
 namespace Embroidery {
 
 /** Reads "sew": a palette of chart indices, and pairs of bytes at a fixed offset. */
-class SewReader : public EmbReader
+class SewReader : public JanomeReader
 {
 public:
     SewReader();
 
 protected:
-    using EmbReader::read;
+    using JanomeReader::read;
     void read() override;
 
 private:
     void readPalette();
-    void readStitches();
-    void control(int code, int x, int y);
+    bool control(int code, int x, int y) override;
 };
 
 } // namespace Embroidery

@@ -48,13 +48,13 @@ bool XxxReader::readRecord()
     if (a == 0x7D || a == 0x7E) {
         const int x = signed16(readInt16LE());
         const int y = signed16(readInt16LE());
-        pattern().move(static_cast<float>(x), static_cast<float>(-y));
+        pattern().move(x, -y);
         return true;
     }
     if (a == 0x7F)
         return readControl();
     const int b = readInt8();
-    pattern().stitch(static_cast<float>(signed8(a)), static_cast<float>(-signed8(b)));
+    pattern().stitch(signed8(a), -signed8(b));
     return true;
 }
 
@@ -63,19 +63,17 @@ bool XxxReader::readControl()
     const int code = readInt8();
     const int x = signed8(readInt8());
     const int y = -signed8(readInt8());
-    const auto dx = static_cast<float>(x);
-    const auto dy = static_cast<float>(y);
     switch (code) {
     case 8:
         pattern().color_change();
         return true;
     case 3:
         if (x != 0 || y != 0)
-            pattern().move(dx, dy);
+            pattern().move(x, y);
         pattern().trim();
         return true;
     case 1:
-        pattern().move(dx, dy);
+        pattern().move(x, y);
         return true;
     default:
         return false;
