@@ -1,12 +1,13 @@
 #include "embroidery/EmbPattern.h"
 #include "embroidery/HusReader.h"
 #include "embroidery/support/FormatBytes.h"
-#include "embroidery/support/HusCompressor.h"
 #include "embroidery/support/PatternText.h"
+#include "writers/HusCompressor.h"
 
 #include <QtTest>
 
 using namespace TestSupport;
+using HusCompressor::compress;
 
 namespace {
 
@@ -15,8 +16,7 @@ const QString corrupt = QStringLiteral("! Error decompressing file");
 
 QByteArray compressedFile(int stitchCount, const char *commands, const char *x, const char *y)
 {
-    return husFile(stitchCount, {3}, husCompress(hex(commands)), husCompress(hex(x)),
-                   husCompress(hex(y)));
+    return husFile(stitchCount, {3}, compress(hex(commands)), compress(hex(x)), compress(hex(y)));
 }
 
 } // namespace
@@ -64,7 +64,7 @@ void TestHusReader::stitches()
 
 void TestHusReader::palette()
 {
-    const QByteArray stream = husCompress(QByteArray());
+    const QByteArray stream = compress(QByteArray());
     const auto pattern = design("hus", husFile(0, {3, 29, 65535}, stream, stream, stream));
     QCOMPARE(threadsText(*pattern), QStringLiteral("#ff0000 Red//Husqvarna/Husqvarna; "
                                                    "#000000 Black//Husqvarna/Husqvarna; "
@@ -97,7 +97,7 @@ void TestHusReader::streamOffsets()
     QFETCH(int, x);
     QFETCH(int, y);
     QFETCH(QString, points);
-    const QByteArray stream = husCompress(QByteArray());
+    const QByteArray stream = compress(QByteArray());
     QByteArray file = husFile(0, {}, stream, stream, stream);
     const auto shifted = [&](int index, int by) {
         const int sound = 42 + index * stream.size();
@@ -111,7 +111,7 @@ void TestHusReader::streamOffsets()
 void TestHusReader::cutFiles()
 {
     const QByteArray file = compressedFile(2, "80 81", "01 02", "03 04");
-    const int lastStream = file.size() - husCompress(hex("03 04")).size();
+    const int lastStream = file.size() - compress(hex("03 04")).size();
     for (int size = 0; size < lastStream; ++size)
         QCOMPARE(read("hus", file.left(size)), endOfFile);
     QCOMPARE(read("hus", file.left(lastStream)), corrupt);

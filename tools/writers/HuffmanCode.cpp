@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <numeric>
 #include <queue>
 #include <utility>
 #include <vector>
@@ -55,18 +56,32 @@ QVector<int> limitedDepths(QVector<int> frequencies)
     }
 }
 
+QVector<int> combDepths(const QVector<int> &frequencies, int symbolCount)
+{
+    QVector<int> symbols(frequencies.size());
+    std::iota(symbols.begin(), symbols.end(), 0);
+    std::stable_sort(symbols.begin(), symbols.end(),
+                     [&](int a, int b) { return frequencies[a] > frequencies[b]; });
+    QVector<int> depths(frequencies.size(), 0);
+    for (int i = 0; i < symbolCount; ++i)
+        depths[symbols[i]] = std::min(i + 1, symbolCount - 1);
+    return depths;
+}
+
 } // namespace
 
-HuffmanCode::HuffmanCode(const QVector<int> &frequencies)
+HuffmanCode::HuffmanCode(const QVector<int> &frequencies, CodeShape shape)
     : m_lengths(frequencies.size(), 0), m_codes(frequencies.size(), 0), m_onlySymbol(-1)
 {
     const auto occurs = [](int frequency) { return frequency > 0; };
     const auto first = std::find_if(frequencies.begin(), frequencies.end(), occurs);
-    if (std::count_if(frequencies.begin(), frequencies.end(), occurs) < 2) {
+    const int symbolCount = int(std::count_if(frequencies.begin(), frequencies.end(), occurs));
+    if (symbolCount < 2) {
         m_onlySymbol = first == frequencies.end() ? 0 : int(first - frequencies.begin());
         return;
     }
-    m_lengths = limitedDepths(frequencies);
+    const bool isComb = shape == CodeShape::Comb && symbolCount <= LongestCode + 1;
+    m_lengths = isComb ? combDepths(frequencies, symbolCount) : limitedDepths(frequencies);
     unsigned int code = 0;
     for (int length = 1; length <= LongestCode; ++length) {
         for (int symbol = 0; symbol < m_lengths.size(); ++symbol) {

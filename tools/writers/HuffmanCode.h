@@ -6,12 +6,17 @@ namespace DesignWriters {
 
 class BitSink;
 
+enum class CodeShape {
+    Huffman, //!< the best code for the frequencies
+    Comb     //!< lengths 1, 2, 3… in the order of frequency, as long as they fit in 16 bits
+};
+
 /** A static Huffman code with codes of at most 16 bits, numbered by length and then by symbol. */
 class HuffmanCode
 {
 public:
-    /** The best code for symbols that occur this often. */
-    explicit HuffmanCode(const QVector<int> &frequencies);
+    /** A code for symbols that occur this often. */
+    explicit HuffmanCode(const QVector<int> &frequencies, CodeShape shape = CodeShape::Huffman);
 
     /** The code length of each symbol; 0 for all when fewer than two symbols occur. */
     const QVector<int> &lengths() const { return m_lengths; }

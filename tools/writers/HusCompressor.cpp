@@ -1,13 +1,11 @@
 #include "writers/HusCompressor.h"
 
 #include "writers/BitSink.h"
-#include "writers/HuffmanCode.h"
-
-#include <QVector>
 
 #include <algorithm>
 
 using DesignWriters::BitSink;
+using DesignWriters::CodeShape;
 using DesignWriters::HuffmanCode;
 
 namespace HusCompressor {
@@ -15,21 +13,12 @@ namespace HusCompressor {
 namespace {
 
 constexpr int MainSymbols = 511;
-constexpr int EndSymbol = 510;
 constexpr int SmallSymbols = 19;
 constexpr int DistanceSymbols = 15;
 constexpr int MatchBase = 253;
 constexpr int ShortestMatch = 3;
 constexpr int LongestMatch = 256;
 constexpr int FarthestMatch = 1023;
-constexpr int BlockSize = 32768;
-
-/** A literal, the end, or a match with the distance back to its source. */
-struct Token
-{
-    int symbol;
-    int distance;
-};
 
 /** The longest match for what stands at `at`, or one of length 0. */
 void findMatch(const QByteArray &bytes, int at, int &bestLength, int &bestDistance)
@@ -49,7 +38,7 @@ void findMatch(const QByteArray &bytes, int at, int &bestLength, int &bestDistan
     }
 }
 
-QVector<Token> tokens(const QByteArray &bytes)
+QVector<Token> tokensOf(const QByteArray &bytes)
 {
     QVector<Token> result;
     for (int at = 0; at < bytes.size();) {
@@ -163,13 +152,13 @@ QVector<LengthToken> lengthTokens(const QVector<int> &lengths)
     return result;
 }
 
-void putMainCode(BitSink &sink, const HuffmanCode &code)
+void putMainCode(BitSink &sink, const HuffmanCode &code, CodeShape smallShape)
 {
     const QVector<LengthToken> list = lengthTokens(code.lengths());
     QVector<int> frequencies(SmallSymbols, 0);
     for (const LengthToken &token : list)
         ++frequencies[token.symbol];
-    const HuffmanCode small(frequencies);
+    const HuffmanCode small(frequencies, smallShape);
     putSmallCode(sink, small, 3);
     sink.put(unsigned(usedLength(code.lengths())), 9);
     if (code.onlySymbol() >= 0) {
@@ -182,7 +171,7 @@ void putMainCode(BitSink &sink, const HuffmanCode &code)
     }
 }
 
-void putBlock(BitSink &sink, const QVector<Token> &block)
+void putBlock(BitSink &sink, const QVector<Token> &block, const Options &options)
 {
     QVector<int> symbols(MainSymbols, 0);
     QVector<int> distances(DistanceSymbols, 0);
@@ -191,10 +180,10 @@ void putBlock(BitSink &sink, const QVector<Token> &block)
         if (isMatch(token))
             ++distances[distanceSymbol(token.distance)];
     }
-    const HuffmanCode mainCode(symbols);
-    const HuffmanCode distanceCode(distances);
+    const HuffmanCode mainCode(symbols, options.mainShape);
+    const HuffmanCode distanceCode(distances, options.smallShape);
     sink.put(unsigned(block.size()), 16);
-    putMainCode(sink, mainCode);
+    putMainCode(sink, mainCode, options.smallShape);
     putSmallCode(sink, distanceCode, -1);
     for (const Token &token : block) {
         mainCode.put(sink, token.symbol);
@@ -209,13 +198,17 @@ void putBlock(BitSink &sink, const QVector<Token> &block)
 
 } // namespace
 
-QByteArray compress(const QByteArray &bytes)
+QByteArray encode(const QVector<Token> &tokens, const Options &options)
 {
-    const QVector<Token> all = tokens(bytes);
     BitSink sink;
-    for (int from = 0; from < all.size(); from += BlockSize)
-        putBlock(sink, all.mid(from, BlockSize));
+    for (int from = 0; from < tokens.size(); from += options.tokensPerBlock)
+        putBlock(sink, tokens.mid(from, options.tokensPerBlock), options);
     return sink.bytes();
+}
+
+QByteArray compress(const QByteArray &bytes, const Options &options)
+{
+    return encode(tokensOf(bytes), options);
 }
 
 } // namespace HusCompressor
