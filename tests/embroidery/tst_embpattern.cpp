@@ -55,7 +55,6 @@ private slots:
     void boundsOfANegativeDesignReachTheOrigin();
     void boundsShrinkAfterAMoveFromTheEdge();
     void emptyMetadataRemovesTheKey();
-    void threadIsOpaque();
     void randomThreads();
 };
 
@@ -191,15 +190,6 @@ void TestEmbPattern::emptyMetadataRemovesTheKey()
     QVERIFY(pattern->getMetadata().isEmpty());
     QCOMPARE(pattern->metadata(EmbPattern::PROP_NAME, QStringLiteral("none")),
              QStringLiteral("none"));
-}
-
-void TestEmbPattern::threadIsOpaque()
-{
-    const EmbThread thread(0x123456, QString(), QString(), QString(), QString());
-    QCOMPARE(thread.getRGB(), 0xFF123456U);
-    QCOMPARE(thread.getHexColor(), QStringLiteral("#123456"));
-    const EmbThread channels(0xAB, 0xCD, 0xEF, QString(), QString(), QString(), QString());
-    QCOMPARE(channels.getHexColor(), QStringLiteral("#abcdef"));
 }
 
 void TestEmbPattern::randomThreads()
