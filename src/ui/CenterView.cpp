@@ -13,7 +13,8 @@
 CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
                        FilterSelectionModel *model)
     : QWidget(parent), m_model(model), m_filterBar(new FilterBar(this, project, model->filter())),
-      m_browser(new PreviewBrowser(this, project, model))
+      m_browser(new PreviewBrowser(this, project, model)),
+      m_hint(new EmptyHint(m_browser, project, model->filter()))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -21,9 +22,13 @@ CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
     layout->addWidget(m_filterBar);
     layout->addWidget(m_browser, 1);
 
-    auto *hint = new EmptyHint(m_browser, project, model->filter());
-    connect(hint, &EmptyHint::addFolderRequested, this, &CenterView::addFolderRequested);
-    connect(hint, &EmptyHint::allDesignsRequested, this, &CenterView::showAllDesigns);
+    connect(m_hint, &EmptyHint::addFolderRequested, this, &CenterView::addFolderRequested);
+    connect(m_hint, &EmptyHint::allDesignsRequested, this, &CenterView::showAllDesigns);
+}
+
+void CenterView::setScanning(bool scanning)
+{
+    m_hint->setSuspended(scanning);
 }
 
 void CenterView::showAllDesigns()

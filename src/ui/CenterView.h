@@ -3,6 +3,7 @@
 #include <QSharedPointer>
 #include <QWidget>
 
+class EmptyHint;
 class FilterBar;
 class FilterSelectionModel;
 class PreviewBrowser;
@@ -17,6 +18,9 @@ public:
     /** @param model not owned, must outlive the view */
     CenterView(QWidget *parent, const QSharedPointer<Project> &project,
                FilterSelectionModel *model);
+
+    /** Keeps back what an empty sheet tells while a scan fills it. */
+    void setScanning(bool scanning);
 
 public slots:
     void zoomIn();
@@ -37,4 +41,5 @@ private:
     FilterSelectionModel *m_model;
     FilterBar *m_filterBar;
     PreviewBrowser *m_browser;
+    EmptyHint *m_hint;
 };

@@ -51,6 +51,12 @@ void EmptyHint::createWidgets()
     layout->addStretch();
 }
 
+void EmptyHint::setSuspended(bool suspended)
+{
+    m_suspended = suspended;
+    refresh();
+}
+
 void EmptyHint::observedObjectChanged(const Observable *)
 {
     refresh();
@@ -95,7 +101,7 @@ void EmptyHint::refresh()
     const bool wantsFolder = m_reason == Reason::NoFolders || m_reason == Reason::NoDesigns;
     m_label->setText(text());
     m_button->setText(wantsFolder ? tr("Add folder...") : tr("Show all designs"));
-    setVisible(m_reason != Reason::None);
+    setVisible(m_reason != Reason::None && !m_suspended);
 }
 
 void EmptyHint::onButtonClicked()

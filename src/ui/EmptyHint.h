@@ -19,6 +19,9 @@ public:
     /** Covers @p sheet, its parent, while no design is shown. @p filter is not owned. */
     EmptyHint(QWidget *sheet, const QSharedPointer<Project> &project, IFilterModel *filter);
 
+    /** Hides the hint while what the sheet will show is still being found out. */
+    void setSuspended(bool suspended);
+
     void observedObjectChanged(const Observable *observable) override;
 
 signals:
@@ -43,4 +46,5 @@ private:
     QLabel *m_label = nullptr;
     QPushButton *m_button = nullptr;
     Reason m_reason = Reason::None;
+    bool m_suspended = false;
 };

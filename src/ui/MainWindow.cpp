@@ -23,6 +23,7 @@
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <QSplashScreen>
 #include <QSplitter>
 
@@ -173,6 +174,8 @@ bool MainWindow::isModified() const
 void MainWindow::runWithProgress(const std::function<void()> &operation)
 {
     const QScopedValueRollback<bool> running(m_operationRunning, true);
+    m_center->setScanning(true);
+    const auto scanned = qScopeGuard([this] { m_center->setScanning(false); });
     m_progressDialog->show();
     operation();
     m_progressDialog->hide();

@@ -75,6 +75,7 @@ private slots:
     void keepsCatalogueAndLayout();
     void emptySheetLeadsToAFolder();
     void emptySheetTellsOfEmptyFolders();
+    void emptySheetIsSilentDuringAScan();
     void emptySheetLeadsOutOfTheFilter();
     void selectsWhatTheFilterShows();
     void transferAsksForASelection();
@@ -300,6 +301,25 @@ void tst_mainwindow::emptySheetTellsOfEmptyFolders()
     hintButton()->click();
     QVERIFY(!hint()->isVisible());
     QVERIFY(!tree->selectionModel()->hasSelection());
+}
+
+// What it would tell behind the progress dialog may be wrong a second later.
+void tst_mainwindow::emptySheetIsSilentDuringAScan()
+{
+    open();
+    int looks = 0;
+    bool told = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (m_window->findChild<ProgressDialog *>()->isVisible()) {
+            ++looks;
+            told = told || hint()->isVisible();
+        }
+    });
+    timer.start(0);
+    m_window->filesDropped({createFolder(QStringLiteral("roses"), {QStringLiteral("a.dst")})});
+    QVERIFY(looks > 0);
+    QVERIFY(!told);
 }
 
 void tst_mainwindow::emptySheetLeadsOutOfTheFilter()
