@@ -5,7 +5,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
-    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n)
+    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n lowdown)
 
 # A home that holds no compiler cache yet gets none from here: it lies in the build folder.
 if [ -z "${CCACHE_DIR:-}" ] && [ ! -d "${XDG_CACHE_HOME:-$HOME/.cache}/ccache" ] &&

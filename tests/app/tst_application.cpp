@@ -7,12 +7,14 @@
 #include "online/services/GUrlProvider.h"
 
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QFileOpenEvent>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QSplitter>
+#include <QTemporaryDir>
 #include <QtTest>
 #include <QWindow>
 
@@ -77,6 +79,8 @@ private slots:
     void cleanup();
     void queuesFilesUntilStarted();
     void hasItsDocuments();
+    void helpLeadsSomewhere();
+    void openPage(const QUrl &url) { m_opened = url; }
     void offersHelpWithoutDocumentationAndFeedback();
     void barrier_data();
     void barrier();
@@ -88,6 +92,9 @@ private slots:
     void closesOnceConfirmed();
     void opensAFileInItsWindow();
     void quitsWhenTheWindowsAreGone();
+
+private:
+    QUrl m_opened;
 };
 
 void tst_application::init()
@@ -124,6 +131,27 @@ void tst_application::hasItsDocuments()
 {
     const QUrl url = app()->urlProvider()->acknowledgementsUrl();
     QVERIFY2(QFile::exists(url.toLocalFile()), qPrintable(url.toString()));
+}
+
+void tst_application::helpLeadsSomewhere()
+{
+    for (const char *scheme : {"file", "https"})
+        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "openPage");
+    const QString usual = GApplicationAddons::resourcesDirectory().path();
+    QTemporaryDir directory;
+    GApplicationAddons::setResourcesDirectory(directory.path());
+    app()->tutorialsAction()->trigger();
+    QCOMPARE(m_opened, app()->urlProvider()->tutorialsUrl(false, QString()));
+
+    QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("documents")));
+    QFile manual(directory.filePath(QStringLiteral("documents/manual.html")));
+    QVERIFY(manual.open(QIODevice::WriteOnly));
+    app()->tutorialsAction()->trigger();
+    QCOMPARE(m_opened.toLocalFile(), manual.fileName());
+
+    GApplicationAddons::setResourcesDirectory(usual);
+    for (const char *scheme : {"file", "https"})
+        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
 }
 
 void tst_application::offersHelpWithoutDocumentationAndFeedback()

@@ -108,6 +108,7 @@ private:
     void createApplicationLevelActions();
     void createApplicationLevelMenuBar();
     void displayCriticalError(const QString &text);
+    void openHelp(const QUrl &page);
     GMainWindow *windowShowing(const QString &fileName) const;
     GMainWindow *lastUnusedWindowFor(const QString &fileName) const;
     void loadInto(GMainWindow *window, const QString &fileName, bool reused);

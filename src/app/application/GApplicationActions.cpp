@@ -178,14 +178,22 @@ void GApplication::showAbout()
     dialog->exec();
 }
 
+void GApplication::openHelp(const QUrl &page)
+{
+    // Names under this domain are reserved and lead nowhere: the build has no server of a maker.
+    const bool hasServer = !page.host().endsWith(QLatin1String(".example"));
+    const QUrl manual = urlProvider()->manualUrl();
+    QDesktopServices::openUrl(hasServer || manual.isEmpty() ? page : manual);
+}
+
 void GApplication::showDocumentation()
 {
-    QDesktopServices::openUrl(urlProvider()->documentationUrl());
+    openHelp(urlProvider()->documentationUrl());
 }
 
 void GApplication::showTutorials()
 {
-    QDesktopServices::openUrl(urlProvider()->tutorialsUrl(false, QString()));
+    openHelp(urlProvider()->tutorialsUrl(false, QString()));
 }
 
 void GApplication::showAcknowledgements()

@@ -6,6 +6,7 @@
 #include "online/services/SystemInquiry.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QUrlQuery>
 
 namespace {
@@ -26,6 +27,12 @@ QUrl withQuery(const QString &address, const QUrlQuery &query)
     QUrl url(address);
     url.setQuery(query);
     return url;
+}
+
+QString documentPath(const QString &name)
+{
+    const QDir resources = resourcesDirectorySource ? resourcesDirectorySource() : QDir();
+    return resources.absoluteFilePath(QStringLiteral("documents/") + name);
 }
 
 // A query item may hold a "+" or a blank, which servers take for each other
@@ -109,9 +116,13 @@ QUrl GUrlProvider::shareUrl(const QString &service) const
 
 QUrl GUrlProvider::acknowledgementsUrl() const
 {
-    const QDir resources = resourcesDirectorySource ? resourcesDirectorySource() : QDir();
-    return QUrl::fromLocalFile(
-        resources.absoluteFilePath(QStringLiteral("documents/Acknowledgements.html")));
+    return QUrl::fromLocalFile(documentPath(QStringLiteral("Acknowledgements.html")));
+}
+
+QUrl GUrlProvider::manualUrl() const
+{
+    const QString path = documentPath(QStringLiteral("manual.html"));
+    return QFile::exists(path) ? QUrl::fromLocalFile(path) : QUrl();
 }
 
 QString GUrlProvider::baseUrlString() const

@@ -32,6 +32,8 @@ public:
     virtual QUrl shareUrl(const QString &service) const;
     /** A local file. */
     virtual QUrl acknowledgementsUrl() const;
+    /** The manual that came with the program, a local file; empty when it is not there. */
+    QUrl manualUrl() const;
     /** The production or the staging server, without a trailing slash. */
     virtual QString baseUrlString() const;
 
