@@ -1,6 +1,6 @@
 #include "widgets/style/DesktopColorScheme.h"
 
-#include "widgets/style/TnwMacStyle.h"
+#include "widgets/style/Palettes.h"
 #include "widgets/style/WidgetHelper.h"
 
 #include <QApplication>
@@ -68,5 +68,5 @@ void DesktopColorScheme::apply(const QVariant &scheme)
 {
     const bool dark = unwrapped(scheme).toUInt() == PrefersDark;
     if (dark != WidgetHelper::isDarkMode())
-        QApplication::setPalette(dark ? TnwMacStyle::darkPalette() : TnwMacStyle::lightPalette());
+        QApplication::setPalette(dark ? Palettes::dark() : Palettes::light());
 }

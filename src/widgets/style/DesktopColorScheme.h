@@ -7,7 +7,7 @@
  * Follows the desktop's wish for a light or a dark look where the platform's
  * theme does not carry it into the palette: it asks the desktop portal
  * (org.freedesktop.portal.Settings, "org.freedesktop.appearance" "color-scheme")
- * and sets the application's palette to one of TnwMacStyle's when the answer
+ * and sets the application's palette to one of Palettes' when the answer
  * comes and whenever it changes. Without a portal nothing happens. Never blocks.
  * GUI thread.
  */

@@ -2,120 +2,20 @@
 
 #include "widgets/style/FlatControls.h"
 #include "widgets/style/GIcon.h"
-#include "widgets/style/WidgetHelper.h"
+#include "widgets/style/Palettes.h"
 #include "widgets/style/WidgetStyles.h"
 
+#include <QComboBox>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QStyleFactory>
 #include <QStyleOption>
 
 namespace {
 
-constexpr qreal LeastContrast = 4.5;
 constexpr qreal Radius = 4.0;
 constexpr int RowPadding = 8;
-
-/** The names of colours as a palette needs them, apart from those that it can derive. */
-struct Shades
-{
-    QColor window, text, base, alternate, button, light, midlight, mid, dark, highlight;
-    QColor highlightedText, link, toolTip, toolTipText, disabledButton;
-};
-
-/** Moves \a text towards black or white until it can be read on \a background. */
-QColor readable(const QColor &text, const QColor &background)
-{
-    if (WidgetHelper::contrast(text, background) >= LeastContrast)
-        return text;
-    const QColor goal = WidgetHelper::contrast(Qt::white, background) >
-                                WidgetHelper::contrast(Qt::black, background)
-                            ? Qt::white
-                            : Qt::black;
-    for (qreal share = 0.1; share < 1.0; share += 0.1) {
-        const QColor candidate = WidgetHelper::mixed(goal, text, share);
-        if (WidgetHelper::contrast(candidate, background) >= LeastContrast)
-            return candidate;
-    }
-    return goal;
-}
-
-void makeReadable(QPalette &palette, QPalette::ColorGroup group, QPalette::ColorRole text,
-                  QPalette::ColorRole background)
-{
-    const QColor color = readable(palette.color(group, text), palette.color(group, background));
-    if (color != palette.color(group, text))
-        palette.setColor(group, text, color);
-}
-
-void setPlaceholderColor(QPalette &palette, QPalette::ColorGroup group)
-{
-    const QColor base = palette.color(group, QPalette::Base);
-    const QColor soft = WidgetHelper::mixed(palette.color(group, QPalette::Text), base, 0.62);
-    palette.setColor(group, QPalette::PlaceholderText, readable(soft, base));
-}
-
-void makeReadable(QPalette &palette)
-{
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        makeReadable(palette, group, QPalette::WindowText, QPalette::Window);
-        makeReadable(palette, group, QPalette::Text, QPalette::Base);
-        makeReadable(palette, group, QPalette::ButtonText, QPalette::Button);
-        makeReadable(palette, group, QPalette::HighlightedText, QPalette::Highlight);
-        makeReadable(palette, group, QPalette::ToolTipText, QPalette::ToolTipBase);
-        for (QPalette::ColorRole link : {QPalette::Link, QPalette::LinkVisited}) {
-            makeReadable(palette, group, link, QPalette::Base);
-            makeReadable(palette, group, link, QPalette::Window);
-        }
-        setPlaceholderColor(palette, group);
-    }
-}
-
-QPalette paletteOf(const Shades &shades)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, shades.window);
-    palette.setColor(QPalette::WindowText, shades.text);
-    palette.setColor(QPalette::Base, shades.base);
-    palette.setColor(QPalette::AlternateBase, shades.alternate);
-    palette.setColor(QPalette::Text, shades.text);
-    palette.setColor(QPalette::Button, shades.button);
-    palette.setColor(QPalette::ButtonText, shades.text);
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Light, shades.light);
-    palette.setColor(QPalette::Midlight, shades.midlight);
-    palette.setColor(QPalette::Mid, shades.mid);
-    palette.setColor(QPalette::Dark, shades.dark);
-    palette.setColor(QPalette::Shadow, Qt::black);
-    palette.setColor(QPalette::Highlight, shades.highlight);
-    palette.setColor(QPalette::HighlightedText, shades.highlightedText);
-    palette.setColor(QPalette::Link, shades.link);
-    palette.setColor(QPalette::LinkVisited, shades.link);
-    palette.setColor(QPalette::ToolTipBase, shades.toolTip);
-    palette.setColor(QPalette::ToolTipText, shades.toolTipText);
-
-    palette.setColor(QPalette::Disabled, QPalette::Button, shades.disabledButton);
-    const QColor faded =
-        readable(WidgetHelper::mixed(shades.text, shades.window, 0.62), shades.window);
-    for (QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
-        palette.setColor(QPalette::Disabled, role, faded);
-    palette.setColor(QPalette::Disabled, QPalette::Base, shades.window);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, shades.mid);
-    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, shades.text);
-    makeReadable(palette);
-    return palette;
-}
-
-/** Where the desktop has no palette, Qt hands out the one of the base style in its stead. */
-bool haveSameColors(const QPalette &first, const QPalette &second)
-{
-    for (QPalette::ColorRole role : {QPalette::Window, QPalette::WindowText, QPalette::Base,
-                                     QPalette::Button, QPalette::Highlight}) {
-        if (first.color(QPalette::Active, role) != second.color(QPalette::Active, role))
-            return false;
-    }
-    return true;
-}
+constexpr int FieldPadding = 3;
 
 void drawRoundedBox(QPainter *painter, const QRect &rect, const QBrush &fill, const QPen &pen)
 {
@@ -193,62 +93,45 @@ void drawFocusFrame(const QStyleOption *option, QPainter *painter)
     drawRoundedBox(painter, rect, Qt::NoBrush, QPen(color, onSelection ? 1.0 : 1.5));
 }
 
+void drawMenuPanel(const QStyleOption *option, QPainter *painter)
+{
+    painter->save();
+    painter->setPen(option->palette.color(QPalette::Dark));
+    painter->setBrush(option->palette.base());
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
+bool hasFrame(const QStyleOption *option)
+{
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    return frame && frame->lineWidth > 0;
+}
+
 } // namespace
 
 TnwMacStyle::TnwMacStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
-QPalette TnwMacStyle::lightPalette()
-{
-    Shades shades;
-    shades.window = QColor(0xf4, 0xf5, 0xf5);
-    shades.text = QColor(0x21, 0x29, 0x2e);
-    shades.base = QColor(0xff, 0xff, 0xff);
-    shades.alternate = QColor(0xf7, 0xf9, 0xf9);
-    shades.button = QColor(0xfc, 0xfc, 0xfc);
-    shades.light = QColor(0xff, 0xff, 0xff);
-    shades.midlight = QColor(0xe4, 0xe9, 0xe9);
-    shades.mid = QColor(0xcd, 0xd4, 0xd5);
-    shades.dark = QColor(0xb0, 0xb9, 0xbb);
-    shades.highlight = WidgetStyles::Primary500;
-    shades.highlightedText = QColor(0xff, 0xff, 0xff);
-    shades.link = WidgetStyles::Primary600;
-    shades.disabledButton = QColor(0xe4, 0xed, 0xed);
-    shades.toolTip = QColor(0x2b, 0x35, 0x3a);
-    shades.toolTipText = QColor(0xf1, 0xf4, 0xf4);
-    return paletteOf(shades);
-}
-
-QPalette TnwMacStyle::darkPalette()
-{
-    Shades shades;
-    shades.window = QColor(0x26, 0x2b, 0x2e);
-    shades.text = QColor(0xe3, 0xe8, 0xe9);
-    shades.base = QColor(0x1d, 0x21, 0x24);
-    shades.alternate = QColor(0x22, 0x27, 0x2a);
-    shades.button = QColor(0x34, 0x3b, 0x3f);
-    shades.light = QColor(0x4b, 0x54, 0x59);
-    shades.midlight = QColor(0x3b, 0x43, 0x48);
-    shades.mid = QColor(0x49, 0x53, 0x58);
-    shades.dark = QColor(0x5b, 0x66, 0x6b);
-    shades.highlight = WidgetStyles::Primary600;
-    shades.highlightedText = QColor(0xff, 0xff, 0xff);
-    shades.link = WidgetStyles::Primary200;
-    shades.disabledButton = QColor(0x2e, 0x3c, 0x40);
-    shades.toolTip = QColor(0x3d, 0x46, 0x4b);
-    shades.toolTipText = QColor(0xf1, 0xf4, 0xf4);
-    return paletteOf(shades);
-}
-
 QPalette TnwMacStyle::standardPalette() const
 {
-    return lightPalette();
+    return Palettes::light();
 }
 
 void TnwMacStyle::polish(QPalette &palette)
 {
-    if (haveSameColors(palette, baseStyle()->standardPalette()))
-        palette = lightPalette();
-    makeReadable(palette);
+    // Where the desktop has no palette, Qt hands out the one of the base style in its stead.
+    if (Palettes::haveSameColors(palette, baseStyle()->standardPalette()))
+        palette = Palettes::light();
+    Palettes::makeReadable(palette);
+}
+
+void TnwMacStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    // The delegate that a combo box brings along does not ask the style for the height of a row.
+    auto *combo = qobject_cast<QComboBox *>(widget);
+    if (combo && !qobject_cast<QStyledItemDelegate *>(combo->itemDelegate()))
+        combo->setItemDelegate(new QStyledItemDelegate(combo));
 }
 
 void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
@@ -267,7 +150,20 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
         // The end of a field with a list: the field has a frame already and the arrow is enough.
         return;
     case PE_FrameDefaultButton:
+    case PE_FrameMenu:
         return;
+    case PE_PanelMenu:
+        drawMenuPanel(option, painter);
+        return;
+    case PE_IndicatorBranch:
+        if (option->state & State_Selected) {
+            QStyleOption onSelection(*option);
+            onSelection.palette.setColor(QPalette::ButtonText,
+                                         option->palette.color(QPalette::HighlightedText));
+            QProxyStyle::drawPrimitive(element, &onSelection, painter, widget);
+            return;
+        }
+        break;
     case PE_IndicatorCheckBox:
         FlatControls::drawCheckBox(option, painter);
         return;
@@ -349,10 +245,24 @@ QRect TnwMacStyle::subControlRect(ComplexControl control, const QStyleOptionComp
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
+QRect TnwMacStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                  const QWidget *widget) const
+{
+    // A frame around the text alone would look like a field to write in.
+    if (element == SE_ItemViewItemFocusRect)
+        return option->rect;
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_LineEditContents && hasFrame(option))
+        return rect.adjusted(FieldPadding, 0, -FieldPadding, 0);
+    return rect;
+}
+
 QSize TnwMacStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
                                     const QSize &size, const QWidget *widget) const
 {
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_LineEdit && hasFrame(option))
+        result.rwidth() += 2 * FieldPadding;
     if (type == CT_ItemViewItem)
         result.setHeight(qMax(result.height(), option->fontMetrics.height() + RowPadding));
     return result;
@@ -388,6 +298,8 @@ int TnwMacStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWi
     case SH_DialogButtonBox_ButtonsHaveIcons:
     // The wheel scrolls the panel; it must not choose a tag or a filter on its way.
     case SH_ComboBox_AllowWheelScrolling:
+    // Every list opens below its field.
+    case SH_ComboBox_Popup:
         return 0;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);

@@ -15,12 +15,9 @@ class TnwMacStyle : public QProxyStyle
 public:
     TnwMacStyle();
 
-    /** The program's own palettes. */
-    static QPalette lightPalette();
-    static QPalette darkPalette();
-
     QPalette standardPalette() const override;
     void polish(QPalette &palette) override;
+    void polish(QWidget *widget) override;
     using QProxyStyle::polish;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -30,6 +27,8 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget = nullptr) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option,
                          const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget) const override;
