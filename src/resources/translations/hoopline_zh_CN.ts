@@ -124,15 +124,15 @@
     <name>EmptyHint</name>
     <message>
         <source>Add a folder with embroidery designs to begin.</source>
-        <translation>请先添加一个包含刺绣花样的文件夹。</translation>
+        <translation>请先添加一个包含绣花花样的文件夹。</translation>
     </message>
     <message>
         <source>No embroidery designs were found in your folders. Add another folder, or put designs there and rescan.</source>
-        <translation>您的文件夹中没有找到刺绣花样。请添加其他文件夹，或将花样放入其中后重新扫描。</translation>
+        <translation>您的文件夹中没有找到绣花花样。请添加其他文件夹，或将花样放入其中后重新扫描。</translation>
     </message>
     <message>
         <source>No embroidery designs were found in this folder.</source>
-        <translation>此文件夹中没有找到刺绣花样。</translation>
+        <translation>此文件夹中没有找到绣花花样。</translation>
     </message>
     <message>
         <source>No design matches the filter.</source>
@@ -436,11 +436,11 @@
     </message>
     <message>
         <source>&amp;Zoom in</source>
-        <translation>放大(&amp;Z)</translation>
+        <translation>放大(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Zoom out</source>
-        <translation>缩小(&amp;Z)</translation>
+        <translation>缩小(&amp;O)</translation>
     </message>
     <message>
         <source>Transfer to machine</source>
