@@ -17,8 +17,6 @@ private slots:
     void isThere_data();
     void isThere();
     void iconsDraw();
-    void picturesHaveTheirSize_data();
-    void picturesHaveTheirSize();
     void translates_data();
     void translates();
     void countsFiles_data();
@@ -36,11 +34,26 @@ void TestResources::initTestCase()
 void TestResources::isThere_data()
 {
     QTest::addColumn<QString>("path");
-    for (const char *path :
-         {":/about.html", ":/about.de.html", ":/about.zh-CN.html", ":/tracking.html",
-          ":/tracking.de.html", ":/tracking.zh-CN.html", ":/tracking.txt", ":/tracking.de.txt",
-          ":/tracking.zh-CN.txt", ":/translations/de.qm", ":/translations/en.qm",
-          ":/translations/zh_CN.qm", ":/tnw_translations/de.qm", ":/tnw_translations/zh_CN.qm"})
+    for (const char *path : {":/about.html",
+                             ":/about.de.html",
+                             ":/about.zh-CN.html",
+                             ":/tracking.html",
+                             ":/tracking.de.html",
+                             ":/tracking.zh-CN.html",
+                             ":/tracking.txt",
+                             ":/tracking.de.txt",
+                             ":/tracking.zh-CN.txt",
+                             ":/hoopline.png",
+                             ":/hoopline-mac.png",
+                             ":/SplashScreen@2x.png",
+                             ":/loading.png",
+                             ":/render-error.png",
+                             ":/treeview-empty.svg",
+                             ":/treeview-empty.dark.svg",
+                             ":/tnw_tools/feedback/bug.svg",
+                             ":/tnw_tools/feedback/feedback.svg",
+                             ":/tnw_tools/feedback/idea.svg",
+                             ":/tnw_tools/feedback/question.svg"})
         QTest::newRow(path) << QString::fromLatin1(path);
     for (const char *icon :
          {"addFolder", "exportToUsb", "folder_gray", "removeFolder", "small_all", "small_clear",
@@ -88,33 +101,6 @@ void TestResources::iconsDraw()
             QVERIFY2(inked > 15, qPrintable(path));
         }
     }
-}
-
-void TestResources::picturesHaveTheirSize_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("icon") << ":/hoopline.png" << QSize(256, 256);
-    QTest::newRow("mac icon") << ":/hoopline-mac.png" << QSize(512, 512);
-    QTest::newRow("splash") << ":/SplashScreen@2x.png" << QSize(960, 600);
-    QTest::newRow("loading") << ":/loading.png" << QSize(400, 400);
-    QTest::newRow("error") << ":/render-error.png" << QSize(400, 400);
-    QTest::newRow("empty") << ":/treeview-empty.svg" << QSize(96, 96);
-    QTest::newRow("empty, dark") << ":/treeview-empty.dark.svg" << QSize(96, 96);
-    for (const char *picture : {"feedback", "question", "idea", "bug"})
-        QTest::newRow(picture)
-            << QStringLiteral(":/tnw_tools/feedback/%1.svg").arg(QLatin1String(picture))
-            << QSize(115, 290);
-}
-
-void TestResources::picturesHaveTheirSize()
-{
-    QFETCH(QString, path);
-    QFETCH(QSize, size);
-    if (path.endsWith(QStringLiteral(".svg")))
-        QCOMPARE(QSvgRenderer(path).defaultSize(), size);
-    else
-        QCOMPARE(QImage(path).size(), size);
 }
 
 void TestResources::translates_data()
