@@ -1,26 +1,35 @@
 #!/usr/bin/env bash
-# screenshots.sh OUTDIR
+# screenshots.sh OUTDIR [SECTION...]
 # Drives the program under a virtual display over samples/ and saves a picture of
 # every window and state there. The README's and the manual's pictures come from
 # here. Profiles are throw-away; nothing of whoever runs this is touched.
+# The sections, all when none is named: main light dark de zh-CN scales progress crash.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
-out=${1:?usage: screenshots.sh OUTDIR}
+out=${1:?usage: screenshots.sh OUTDIR [SECTION...]}
+sections=${*:2}
 mkdir -p "$out"
 out=$(cd "$out" && pwd)
 
 install_missing "${build_packages[@]}" xvfb xdotool x11-utils imagemagick openbox fonts-dejavu-core \
     fonts-noto-core fonts-noto-cjk
-build release hoopline-organizer hoopline-cli
-bin=$root/build/release/bin
+# A build of its own, whose maker's server is the one that this script runs.
+feed_port=18765
+cmake -S "$root" -B "$root/build/pictures" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DHOOPLINE_TESTS=OFF -DHOOPLINE_BASE_URL=http://127.0.0.1:$feed_port >/dev/null
+cmake --build "$root/build/pictures" --target hoopline-organizer hoopline-cli feedback-form
+bin=$root/build/pictures/bin
 
 # Short, as sockets are named below it.
 work=$(mktemp -d /tmp/hoopline-shots.XXXXXX)
 app=
+feed=
+manager=
 pids=()
+scale=1
 cleanup() {
-    kill $app "${pids[@]}" 2>/dev/null || true
+    kill $app $feed $manager "${pids[@]}" 2>/dev/null || true
     wait 2>/dev/null || true
     rm -rf "$work"
 }
@@ -33,9 +42,14 @@ start_display() {
     DISPLAY=:$(cat "$work/display")
     export DISPLAY QT_QPA_PLATFORM=xcb TMPDIR=$work
     unset WAYLAND_DISPLAY
+}
+
+# start_manager: a new window manager. One that saw its clients being killed may hang.
+start_manager() {
+    [ -z "$manager" ] || { kill "$manager"; wait "$manager" 2>/dev/null || true; }
     openbox >/dev/null 2>&1 &
-    pids+=($!)
-    sleep 1
+    manager=$!
+    sleep 0.5
 }
 
 # use_profile NAME: a fresh profile; the program knows nothing.
@@ -69,6 +83,31 @@ BackgroundNormal=38,43,46
 ForegroundNormal=227,232,233
 COLOURS
 }
+
+# start_feed: the maker's server, which knows a newer version.
+start_feed() {
+    cat >"$work/feed.py" <<'FEED'
+import http.server, sys
+
+ITEM = b"""<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>
+<title>Hoopline Organizer 1.2.0</title>
+<sparkle:releaseNotesLink>https://www.hoopline.example/notes</sparkle:releaseNotesLink>
+<enclosure url="https://www.hoopline.example/download" sparkle:version="1.2.0"/>
+</item></channel></rss>"""
+
+class Feed(http.server.BaseHTTPRequestHandler):
+    def do_POST(self):
+        self.send_response(200)
+        self.end_headers()
+        self.wfile.write(ITEM)
+
+http.server.HTTPServer(("127.0.0.1", int(sys.argv[1])), Feed).serve_forever()
+FEED
+    python3 "$work/feed.py" "$feed_port" 2>/dev/null &
+    feed=$!
+    sleep 1
+}
+stop_feed() { kill "$feed"; wait "$feed" 2>/dev/null || true; }
 
 use_light() { unset XDG_CURRENT_DESKTOP KDE_FULL_SESSION KDE_SESSION_VERSION; }
 
@@ -107,8 +146,12 @@ main_window() {
     done
 }
 
-start() {
-    "$bin/hoopline-organizer" "$@" 2>"$work/log" &
+start() { start_program hoopline-organizer "$@"; }
+
+# start_program NAME ARGUMENT...
+start_program() {
+    start_manager
+    "$bin/$1" "${@:2}" 2>"$work/log" &
     app=$!
     window=
     for _ in $(seq 150); do
@@ -138,9 +181,13 @@ focus() { xdotool windowactivate --sync "$window" 2>/dev/null || true; sleep 0.3
 key() { xdotool key --clearmodifiers "$@"; sleep 0.4; }
 type_text() { xdotool type --delay 40 "$1"; sleep 0.6; }
 
-# click X Y [BUTTON]: in the main window, in its own pixels.
-click() { xdotool mousemove --window "$window" "$1" "$2" click "${3:-1}"; sleep 0.4; }
-point() { xdotool mousemove --window "$window" "$1" "$2"; sleep 0.5; }
+# point X Y, click X Y [BUTTON]: in the main window, in pixels before scaling.
+point() {
+    xdotool mousemove --window "$window" \
+        "$(awk "BEGIN { print int($1 * $scale) }")" "$(awk "BEGIN { print int($2 * $scale) }")"
+    sleep 0.3
+}
+click() { point "$1" "$2"; xdotool click "${3:-1}"; sleep 0.4; }
 away() { xdotool mousemove 2590 1690; sleep 0.2; }
 
 # settle: waits until the main window has stopped changing.
@@ -184,10 +231,11 @@ open_menu() {
     for ((i = 0; i < $1; i++)); do key Right; done
 }
 open_preferences() { open_menu 0; key Up; key Up; key Return; sleep 0.8; }
+open_update() { open_menu 2; key Up; key Up; key Return; sleep 1.5; }
 open_about() { open_menu 2; key Up; key Return; sleep 0.8; }
 
 main_window_shots() {
-    use_profile light
+    use_profile main
     start
     shot main-empty
     open_menu 0
@@ -238,10 +286,62 @@ main_window_shots() {
     stop
 }
 
-dialog_shots() {
+# window_shots SUFFIX ARGUMENT...: what a user meets, in a new profile.
+window_shots() {
     local suffix=$1
-    start "${@:2}"
+    use_profile "windows$suffix"
+    "${colours:-use_light}"
+    shift
+    start "$@"
     away
+    shot "main-empty$suffix"
+    stop
+
+    fill_profile
+    start "$@"
+    click 380 250
+    click 845 332; type_text "blue"; key Return
+    away
+    shot "main$suffix"
+    menu_shots
+    click 200 600
+    panel_shots
+    dialog_shots
+    stop
+    start_feed
+    start "$@"
+    shot_top "update$suffix"
+    key Escape
+    stop
+    stop_feed
+    feedback_shots "$@"
+}
+
+menu_shots() {
+    open_menu 0
+    shot_over "menu-file$suffix"
+    key Escape Escape
+    open_menu 2
+    shot_over "menu-help$suffix"
+    key Escape Escape
+    click 380 250 3
+    shot_over "menu-card$suffix"
+    key Escape
+    point 20 41
+    sleep 1
+    shot_over "tool-tip$suffix"
+}
+
+panel_shots() {
+    click 340 81
+    shot_over "file-types$suffix"
+    key Escape
+    click 395 115
+    shot_over "sizes$suffix"
+    key Escape
+}
+
+dialog_shots() {
     open_preferences
     shot_top "preferences-settings$suffix"
     key ctrl+Tab
@@ -250,12 +350,25 @@ dialog_shots() {
     open_about
     shot_top "about$suffix"
     key Escape
+    open_update
+    shot_top "update-failed$suffix"
+    key Escape
     click 54 41
-    shot_top "remove-folder$suffix"
+    shot_over "remove-folder$suffix"
     key Escape
+    key ctrl+d
     click 230 41
-    shot_top "nothing-selected$suffix"
+    shot_over "nothing-selected$suffix"
     key Escape
+}
+
+feedback_shots() {
+    start_program feedback-form "$@"
+    local tab
+    for tab in feedback question feature bug; do
+        shot_top "feedback-$tab$suffix"
+        key ctrl+Tab
+    done
     stop
 }
 
@@ -296,47 +409,38 @@ crash_shots() {
     stop
 }
 
-start_display
-gather_designs
-
-use_light
-main_window_shots
-dialog_shots ""
-progress_shots
-crash_shots
-
-use_profile dark
-fill_profile
-use_dark
-start
-resize 1280 820
-click 380 250
-away
-shot main-dark
-stop
-dialog_shots -dark
-use_light
-
-for language in de zh-CN; do
-    use_profile "$language"
+dark_shots() {
+    use_profile dark
     fill_profile
-    start "--language=$language"
+    use_dark
+    start
+    resize 1280 820
     click 380 250
     away
-    shot "main-$language"
-    open_menu 0
-    shot_over "menu-file-$language"
-    key Escape
+    shot main-dark
     stop
-    dialog_shots "-$language" "--language=$language"
-done
+    colours=use_dark window_shots -dark
+    use_light
+}
 
-use_profile large
-fill_profile
-export QT_SCALE_FACTOR=2
-start
-xdotool mousemove --window "$window" 760 500 click 1
-away
-shot main-200-percent
-unset QT_SCALE_FACTOR
-stop
+# wants SECTION: whether it was asked for.
+wants() { [ -z "$sections" ] || [[ " $sections " == *" $1 "* ]]; }
+
+start_display
+gather_designs
+use_light
+
+! wants main || main_window_shots
+! wants light || window_shots ""
+! wants dark || dark_shots
+for language in de zh-CN; do
+    ! wants "$language" || window_shots "-$language" "--language=$language"
+done
+if wants scales; then
+    for scale in 1.25 1.5 2; do
+        QT_SCALE_FACTOR=$scale window_shots "-at-$scale"
+    done
+    scale=1
+fi
+! wants progress || progress_shots
+! wants crash || crash_shots
