@@ -184,3 +184,20 @@ void FlatControls::drawHeaderRest(const QStyleOption *option, QPainter *painter)
 {
     drawBaseLine(option, painter);
 }
+
+void FlatControls::drawMenuPanel(const QStyleOption *option, QPainter *painter)
+{
+    painter->save();
+    painter->setPen(option->palette.color(QPalette::Dark));
+    painter->setBrush(option->palette.base());
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
+void FlatControls::drawMenuSeparator(const QStyleOptionMenuItem *option, QPainter *painter)
+{
+    constexpr int Inset = 6;
+    const QRect &rect = option->rect;
+    painter->fillRect(QRect(rect.left() + Inset, rect.center().y(), rect.width() - 2 * Inset, 1),
+                      option->palette.mid());
+}

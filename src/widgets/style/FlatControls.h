@@ -7,6 +7,7 @@ class QColor;
 class QPainter;
 class QStyleOption;
 class QStyleOptionHeader;
+class QStyleOptionMenuItem;
 class QStyleOptionProgressBar;
 class QStyleOptionSlider;
 class QStyleOptionTab;
@@ -42,5 +43,11 @@ void drawHeaderSection(const QStyleOptionHeader *option, QPainter *painter);
 
 /** What is left of the line of headings. */
 void drawHeaderRest(const QStyleOption *option, QPainter *painter);
+
+/** The ground of a menu with its frame. */
+void drawMenuPanel(const QStyleOption *option, QPainter *painter);
+
+/** The line between two groups of a menu's entries. */
+void drawMenuSeparator(const QStyleOptionMenuItem *option, QPainter *painter);
 
 } // namespace FlatControls

@@ -5,17 +5,20 @@
 #include "widgets/style/Palettes.h"
 #include "widgets/style/WidgetStyles.h"
 
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeView>
 
 namespace {
 
 constexpr qreal Radius = 4.0;
 constexpr int RowPadding = 8;
 constexpr int FieldPadding = 3;
+constexpr int ButtonPadding = 12;
 
 void drawRoundedBox(QPainter *painter, const QRect &rect, const QBrush &fill, const QPen &pen)
 {
@@ -68,13 +71,13 @@ void drawPushButtonPanel(const QStyleOptionButton *option, QPainter *painter)
 }
 
 /** The outline of a field that is written or chosen in. */
-void drawFieldFrame(const QStyleOption *option, QPainter *painter)
+void drawFieldFrame(const QStyleOption *option, QPainter *painter, const QBrush &fill)
 {
     const bool enabled = option->state & QStyle::State_Enabled;
     QPen pen(option->palette.color(enabled ? QPalette::Dark : QPalette::Mid), 1.0);
     if (enabled && (option->state & QStyle::State_HasFocus))
         pen = focusPen();
-    drawRoundedBox(painter, option->rect, Qt::NoBrush, pen);
+    drawRoundedBox(painter, option->rect, fill, pen);
 }
 
 void drawToolBar(const QStyleOption *option, QPainter *painter)
@@ -93,13 +96,17 @@ void drawFocusFrame(const QStyleOption *option, QPainter *painter)
     drawRoundedBox(painter, rect, Qt::NoBrush, QPen(color, onSelection ? 1.0 : 1.5));
 }
 
-void drawMenuPanel(const QStyleOption *option, QPainter *painter)
+/** The option of a branch does not tell whether its row is selected. */
+bool isInSelectedRow(const QStyleOption *option, const QWidget *widget)
 {
-    painter->save();
-    painter->setPen(option->palette.color(QPalette::Dark));
-    painter->setBrush(option->palette.base());
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    painter->restore();
+    const auto *tree = qobject_cast<const QTreeView *>(widget);
+    return tree && tree->selectionModel() &&
+           tree->selectionModel()->isSelected(tree->indexAt(option->rect.center()));
+}
+
+bool isInPopup(const QWidget *widget)
+{
+    return widget && widget->window()->windowType() == Qt::Popup;
 }
 
 bool hasFrame(const QStyleOption *option)
@@ -139,7 +146,9 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
 {
     switch (element) {
     case PE_FrameFocusRect:
-        drawFocusFrame(option, painter);
+        // Whatever is chosen in a list that drops down has the focus.
+        if (!isInPopup(widget))
+            drawFocusFrame(option, painter);
         return;
     case PE_PanelButtonTool:
         drawToolButtonPanel(option, painter);
@@ -153,13 +162,15 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
     case PE_FrameMenu:
         return;
     case PE_PanelMenu:
-        drawMenuPanel(option, painter);
+        FlatControls::drawMenuPanel(option, painter);
         return;
     case PE_IndicatorBranch:
-        if (option->state & State_Selected) {
+        if (isInSelectedRow(option, widget)) {
             QStyleOption onSelection(*option);
-            onSelection.palette.setColor(QPalette::ButtonText,
-                                         option->palette.color(QPalette::HighlightedText));
+            const QColor ink = option->palette.color(QPalette::HighlightedText);
+            for (QPalette::ColorRole role :
+                 {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+                onSelection.palette.setColor(role, ink);
             QProxyStyle::drawPrimitive(element, &onSelection, painter, widget);
             return;
         }
@@ -173,8 +184,13 @@ void TnwMacStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
     case PE_FrameTabBarBase:
         return;
     case PE_Frame:
+        // What scrolls leaves the round corners to the frame.
+        drawFieldFrame(option, painter,
+                       qobject_cast<const QAbstractScrollArea *>(widget) ? option->palette.base()
+                                                                         : QBrush(Qt::NoBrush));
+        return;
     case PE_FrameLineEdit:
-        drawFieldFrame(option, painter);
+        drawFieldFrame(option, painter, Qt::NoBrush);
         return;
     default:
         break;
@@ -189,6 +205,14 @@ void TnwMacStyle::drawControl(ControlElement element, const QStyleOption *option
     case CE_ToolBar:
         drawToolBar(option, painter);
         return;
+    case CE_MenuItem: {
+        const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+        if (item && item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty()) {
+            FlatControls::drawMenuSeparator(item, painter);
+            return;
+        }
+        break;
+    }
     case CE_ProgressBarGroove:
         FlatControls::drawProgressGroove(option, painter);
         return;
@@ -263,6 +287,8 @@ QSize TnwMacStyle::sizeFromContents(ContentsType type, const QStyleOption *optio
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_LineEdit && hasFrame(option))
         result.rwidth() += 2 * FieldPadding;
+    if (type == CT_PushButton)
+        result.setWidth(qMax(result.width(), size.width() + 2 * ButtonPadding));
     if (type == CT_ItemViewItem)
         result.setHeight(qMax(result.height(), option->fontMetrics.height() + RowPadding));
     return result;
@@ -282,6 +308,11 @@ int TnwMacStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
         return 24;
     case PM_ScrollBarExtent:
         return 14;
+    case PM_DefaultFrameWidth:
+        // Room for the focus ring around what scrolls.
+        return qobject_cast<const QAbstractScrollArea *>(widget)
+                   ? 2
+                   : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
