@@ -207,7 +207,7 @@ void tst_accessibility::servesKeyboardAndScreenReader_data()
         return new FeedbackDialog(nullptr, {}, {QStringLiteral("log")}, QStringLiteral("text"));
     });
     row("update", [] {
-        return new UpdateDialog({QStringLiteral("9.0"), QStringLiteral("Nine"),
+        return new UpdateDialog({QStringLiteral("9.0"), QStringLiteral("Nine"), QDate(),
                                  QUrl(QStringLiteral("https://example.org/notes")),
                                  QUrl(QStringLiteral("https://example.org/file"))});
     });
