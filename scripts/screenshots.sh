@@ -264,6 +264,7 @@ main_window_shots() {
     click 1101 332; type_text "animals"; key Return; type_text "blue"; key Return
     away
     shot selection
+    click 380 250
     key space
     shot_over preview-sheet
     key Escape
