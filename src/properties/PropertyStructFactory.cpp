@@ -19,34 +19,35 @@ void PropertyStructFactory::addToContainer(Property *property)
     m_target->addProperty(property);
 }
 
+template <class P, class Description>
+void PropertyStructFactory::addValue(const Description *description)
+{
+    addToContainer(new P(m_project, description->propertyName(), description->defaultValue()));
+}
+
 void PropertyStructFactory::visit(const PropertyDescriptionInt *description)
 {
-    addToContainer(
-        new PropertyInt(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyInt>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionUnsignedInt *description)
 {
-    addToContainer(new PropertyUnsignedInt(m_project, description->propertyName(),
-                                           description->defaultValue()));
+    addValue<PropertyUnsignedInt>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionDouble *description)
 {
-    addToContainer(
-        new PropertyDouble(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyDouble>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionString *description)
 {
-    addToContainer(
-        new PropertyString(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyString>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionBool *description)
 {
-    addToContainer(
-        new PropertyBool(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyBool>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionEnum *description)
@@ -72,24 +73,20 @@ void PropertyStructFactory::visit(const PropertyDescriptionPreset *)
 
 void PropertyStructFactory::visit(const PropertyDescriptionPointF *description)
 {
-    addToContainer(
-        new PropertyPointF(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyPointF>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionSizeF *description)
 {
-    addToContainer(
-        new PropertySizeF(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertySizeF>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionVector3D *description)
 {
-    addToContainer(
-        new PropertyVector3D(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyVector3D>(description);
 }
 
 void PropertyStructFactory::visit(const PropertyDescriptionColor *description)
 {
-    addToContainer(
-        new PropertyColor(m_project, description->propertyName(), description->defaultValue()));
+    addValue<PropertyColor>(description);
 }

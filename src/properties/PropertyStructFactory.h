@@ -31,6 +31,8 @@ public:
 
 private:
     void addToContainer(Property *property);
+    template <class P, class Description>
+    void addValue(const Description *description);
 
     GProject *m_project;
     PropertyStruct *m_target;
