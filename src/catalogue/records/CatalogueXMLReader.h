@@ -15,7 +15,8 @@ class QXmlStreamReader;
  * Reads the catalogue with never more than one record of it as a document: a
  * hundred thousand of them would take gigabytes. Records are made aside while the
  * file is judged, so that the catalogue stays as it is until all of it is known to
- * be well-formed.
+ * be well-formed. They hold no references, for which the preset collections would
+ * have to be read before them.
  */
 class CatalogueXMLReader : public PropertyXMLReader
 {
