@@ -89,10 +89,13 @@ void ProjectControllerTest::savesWhatScanChanged()
     QCOMPARE(m_controller->lastScan().added, 1);
     QVERIFY(m_controller->project()->undoStack()->isClean());
     QCOMPARE(m_controller->selectionModel()->filter()->filteredFiles().size(), 2);
+    // What a rescan finds is saved, too, though the user has edited nothing.
+    QVERIFY(DstDesign::square().writeTo(path("c.dst")));
+    m_controller->scanSmartFolders();
 
     ProjectController again;
     again.loadProject();
-    QCOMPARE(again.project()->files().size(), 2);
+    QCOMPARE(again.project()->files().size(), 3);
     QCOMPARE(again.project()->smartFolders(), QStringList{m_folder->designs()});
 
     overwrite("mark");
