@@ -51,7 +51,10 @@ bool flushFile(const QString &path)
 
 } // namespace
 
-DriveTransfer::DriveTransfer(const QString &target) : m_target(target), m_volume(target) {}
+DriveTransfer::DriveTransfer(const QString &target, const QStorageInfo &volume)
+    : m_target(target), m_volume(volume)
+{
+}
 
 bool DriveTransfer::isDriveThere() const
 {

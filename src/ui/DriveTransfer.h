@@ -11,8 +11,12 @@
 class DriveTransfer
 {
 public:
-    /** @param target root path of the mounted drive */
-    explicit DriveTransfer(const QString &target);
+    /**
+     * @param target root path of the mounted drive
+     * @param volume the drive as it was when the user chose it; with another one, or none, in
+     *     its place nothing is copied
+     */
+    DriveTransfer(const QString &target, const QStorageInfo &volume);
 
     /**
      * Copies @p source as it is, replacing a file of that name. A source that is

@@ -76,10 +76,19 @@ void ExportDialog::accept()
     QDialog::accept();
 }
 
+/** The volume as it was listed, which tells a drive that was pulled since. */
+QStorageInfo ExportDialog::volumeAt(const QString &target) const
+{
+    for (const QStorageInfo &volume : m_volumes)
+        if (volume.rootPath() == target)
+            return volume;
+    return QStorageInfo(target);
+}
+
 /** The name of the file that could not be copied; empty when all went well. */
 QString ExportDialog::copyTo(const QString &target)
 {
-    const DriveTransfer transfer(target);
+    const DriveTransfer transfer(target, volumeAt(target));
     ProgressDialog progress(this);
     progress.setSteps(m_files.size());
     progress.show();

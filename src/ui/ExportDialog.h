@@ -35,6 +35,7 @@ public slots:
 private:
     void updateDriveList(const QList<QStorageInfo> &volumes);
     void fillDriveList();
+    QStorageInfo volumeAt(const QString &target) const;
     QString copyTo(const QString &target);
 
     const std::unique_ptr<Ui::ExportDialogUI> m_ui;

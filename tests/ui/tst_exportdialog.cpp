@@ -33,12 +33,14 @@ private slots:
     void tellsOfAFullDrive();
     void tellsOfAWriteProtectedDrive();
     void noticesAPulledDrive();
+    void noticesADrivePulledSinceItWasListed();
     void leavesDesignsOnTheDriveAlone();
     void emptyListCopiesNothing();
 
 private:
     QString createDesign(const QString &name, const QByteArray &content);
     QString transfer(const QStringList &sources, const QString &target);
+    static QString pressCopy(ExportDialog *dialog);
     static QByteArray contentOf(const QString &path);
 
     std::unique_ptr<QTemporaryDir> m_designs;
@@ -64,7 +66,7 @@ QByteArray tst_exportdialog::contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
-/** Runs the dialog as the user does; returns the texts of the message it ended with, if any. */
+/** Runs the dialog as the user does; returns what pressCopy() does. */
 QString tst_exportdialog::transfer(const QStringList &sources, const QString &target)
 {
     const auto project = projectWithFiles(sources);
@@ -75,8 +77,14 @@ QString tst_exportdialog::transfer(const QStringList &sources, const QString &ta
     auto *drives = dialog.findChild<QComboBox *>(QStringLiteral("disksComboBox"));
     drives->clear();
     drives->addItem(QStringLiteral("stick"), target);
-    auto *copy = dialog.findChild<QPushButton *>(QStringLiteral("copyButton"));
-    copy->setEnabled(true);
+    dialog.findChild<QPushButton *>(QStringLiteral("copyButton"))->setEnabled(true);
+    return pressCopy(&dialog);
+}
+
+/** The texts of the message that the dialog ended with, if any. */
+QString tst_exportdialog::pressCopy(ExportDialog *dialog)
+{
+    auto *copy = dialog->findChild<QPushButton *>(QStringLiteral("copyButton"));
     QString message;
     QTimer answer;
     connect(&answer, &QTimer::timeout, &answer, [&] {
@@ -87,7 +95,7 @@ QString tst_exportdialog::transfer(const QStringList &sources, const QString &ta
     });
     answer.start(10);
     QTimer::singleShot(0, copy, &QPushButton::click);
-    const int result = dialog.exec();
+    const int result = dialog->exec();
     return result == QDialog::Accepted ? message : QStringLiteral("not accepted");
 }
 
@@ -258,6 +266,23 @@ void tst_exportdialog::noticesAPulledDrive()
         QStringLiteral("Failed to copy file rose.dst|Cannot copy file to %1").arg(drive.path()));
     QVERIFY(pulled);
     QVERIFY(drive.files().isEmpty());
+}
+
+void tst_exportdialog::noticesADrivePulledSinceItWasListed()
+{
+    DriveFixture stick;
+    if (!stick.isFat())
+        QSKIP("No FAT image can be mounted here.");
+    const auto project = projectWithFiles({createDesign(QStringLiteral("rose.dst"), "rose")});
+    ExportDialog dialog(nullptr, project->files());
+    auto *drives = dialog.findChild<QComboBox *>();
+    QTRY_VERIFY(drives->findData(stick.path()) >= 0);
+    drives->setCurrentIndex(drives->findData(stick.path()));
+    QVERIFY(stick.pull());
+    QCOMPARE(
+        pressCopy(&dialog),
+        QStringLiteral("Failed to copy file rose.dst|Cannot copy file to %1").arg(stick.path()));
+    QVERIFY(stick.files().isEmpty());
 }
 
 void tst_exportdialog::leavesDesignsOnTheDriveAlone()
