@@ -89,7 +89,7 @@ start_feed() {
     cat >"$work/feed.py" <<'FEED'
 import http.server, sys
 
-ITEM = b"""<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>
+ITEM = b"""<rss xmlns:sparkle="https://www.hoopline.example/feed"><channel><item>
 <title>Hoopline Organizer 1.2.0</title>
 <sparkle:releaseNotesLink>https://www.hoopline.example/notes</sparkle:releaseNotesLink>
 <enclosure url="https://www.hoopline.example/download" sparkle:version="1.2.0"/>
@@ -137,12 +137,13 @@ client_windows() {
 # newest_window: the dialog that came up last.
 newest_window() { client_windows | grep -vx "$window" | tail -1 || true; }
 
-# main_window: the only window as large as that.
+# main_window: the only window as large as that; the splash screen grows with the scale too.
 main_window() {
-    local id width
+    local id width least
+    least=$(awk "BEGIN { print int(900 * $scale) }")
     for id in $(client_windows); do
         width=$(xwininfo -id "$id" 2>/dev/null | awk '/Width:/ { print $2 }' || true)
-        [ "${width:-0}" -lt 900 ] || { echo "$id"; return; }
+        [ "${width:-0}" -lt "$least" ] || { echo "$id"; return; }
     done
 }
 
