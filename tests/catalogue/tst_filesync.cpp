@@ -12,6 +12,10 @@
 #include <QImage>
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
 class FileSyncTest : public QObject
 {
     Q_OBJECT
@@ -216,22 +220,32 @@ void FileSyncTest::leavesBareRecordsWhenLoadingIsAborted()
 
 void FileSyncTest::readsNextTimeWhatCannotBeReadNow()
 {
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("The sanitizer needs a descriptor to look at an exception, and finds none.");
+#elif defined(Q_OS_UNIX)
     write("a.dst", DstDesign::square("Before"));
     sync();
     write("a.dst", DstDesign::square("Changed", 60).stitch(1, 1));
-    // A folder in the design's place cannot be read, whoever runs the test.
-    m_listener.onProceed = [this](const QString &text) {
-        if (!text.startsWith(QLatin1String("Loading")))
-            return;
-        QVERIFY(QFile::rename(path("a.dst"), path("aside")));
-        QVERIFY(QDir().mkdir(path("a.dst")));
+    // Without a free descriptor a file can be looked at, but not opened, whoever runs the test.
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_NOFILE, &before), 0);
+    m_listener.onProceed = [&before](const QString &text) {
+        const rlimit none{0, before.rlim_max};
+        if (text.startsWith(QLatin1String("Loading")))
+            setrlimit(RLIMIT_NOFILE, &none);
     };
-    QVERIFY_EXCEPTION_THROWN(sync(), Error);
-    QVERIFY(QDir().rmdir(path("a.dst")));
-    QVERIFY(QFile::rename(path("aside"), path("a.dst")));
+    bool failed = false;
+    try {
+        sync();
+    } catch (const Error &) {
+        failed = true;
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+    QVERIFY(failed);
     m_listener = ScriptedListener();
     QCOMPARE(sync(), (QList<int>{0, 1, 0, 0, 0}));
     QCOMPARE(file("a.dst")->name(), QStringLiteral("Changed"));
+#endif
 }
 
 void FileSyncTest::keepsPreviewsInStep()
