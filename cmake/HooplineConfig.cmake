@@ -20,5 +20,5 @@ string(TIMESTAMP HOOPLINE_BUILD_YEAR "%Y" UTC)
 string(TIMESTAMP HOOPLINE_BUILD_MONTH "%m" UTC)
 string(TIMESTAMP HOOPLINE_BUILD_DAY "%d" UTC)
 
-configure_file("${PROJECT_SOURCE_DIR}/src/app/base/BuildConfig.h.in"
-    "${PROJECT_BINARY_DIR}/generated/app/base/BuildConfig.h" @ONLY)
+configure_file("${PROJECT_SOURCE_DIR}/src/base/BuildConfig.h.in"
+    "${PROJECT_BINARY_DIR}/generated/base/BuildConfig.h" @ONLY)

@@ -1,4 +1,4 @@
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"

@@ -1,6 +1,6 @@
 #include "ui/PanelFixture.h"
 
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/ISelectionModel.h"

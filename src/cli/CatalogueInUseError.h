@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 
 /** Another process works on the catalogue, and going on would lose one side's changes. */
 class CatalogueInUseError : public Error

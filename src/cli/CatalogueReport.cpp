@@ -1,6 +1,6 @@
 #include "cli/CatalogueReport.h"
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/records/IThread.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "cli/JsonWriter.h"

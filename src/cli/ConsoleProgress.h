@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/IProgressAbortListener.h"
+#include "base/IProgressAbortListener.h"
 #include <QElapsedTimer>
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "cli/OrganiserGuard.h"
 
-#include "app/base/InstanceName.h"
+#include "base/InstanceName.h"
 #include <QCoreApplication>
 #include <QLocalSocket>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/InstanceBlock.h"
+#include "base/InstanceBlock.h"
 #include <QSharedMemory>
 #include <QString>
 

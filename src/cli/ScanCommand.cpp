@@ -1,6 +1,6 @@
 #include "cli/ScanCommand.h"
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "cli/CatalogueInUseError.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"

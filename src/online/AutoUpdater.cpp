@@ -1,8 +1,8 @@
 #include "online/AutoUpdater.h"
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/BuildConfig.h"
-#include "app/base/GSettings.h"
+#include "base/BuildConfig.h"
+#include "base/GSettings.h"
 #include "online/services/GUrlProvider.h"
 
 #include <QtDebug>

@@ -1,7 +1,7 @@
 #include "online/BreakpadCrashHandler.h"
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/GDebug.h"
+#include "base/GDebug.h"
 #include "online/CrashReportWriter.h"
 #include "online/services/SystemInquiry.h"
 

@@ -4,7 +4,7 @@
 
 #ifdef Q_OS_LINUX
 
-#include "app/base/GLogServer.h"
+#include "base/GLogServer.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/ReplyLimits.h"
 #include "online/services/GUrlProvider.h"

@@ -1,6 +1,6 @@
 #include "online/GCrashLogCollector.h"
 
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 #include "online/LocalCrashLogs.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "online/PlistLoader.h"
 
-#include "app/base/Error.h"
-#include "catalogue/disk/FileTools.h"
+#include "base/Error.h"
+#include "base/files/FileTools.h"
 #include "properties/XmlTools.h"
 
 #include <QDomDocument>

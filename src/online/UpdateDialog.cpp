@@ -1,7 +1,7 @@
 #include "online/UpdateDialog.h"
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

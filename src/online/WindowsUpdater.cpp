@@ -1,6 +1,6 @@
 #include "online/WindowsUpdater.h"
 
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 #include "online/AvailableUpdate.h"
 #include "online/metrics/ReplyLimits.h"
 #include "online/services/VersionCompare.h"

@@ -1,6 +1,6 @@
 #include "properties/ChangeManager.h"
 
-#include "app/base/GDebug.h"
+#include "base/GDebug.h"
 #include "properties/Observer.h"
 #include "properties/Property.h"
 

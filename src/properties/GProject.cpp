@@ -1,6 +1,6 @@
 #include "properties/GProject.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/GUndoStack.h"
 #include "properties/PropertyDescriptionPreset.h"
 #include "properties/PropertyVisitor.h"

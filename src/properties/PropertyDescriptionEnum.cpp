@@ -1,6 +1,6 @@
 #include "properties/PropertyDescriptionEnum.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescriptionVisitor.h"
 
 PropertyDescriptionEnum::PropertyDescriptionEnum(const QString &propertyName,

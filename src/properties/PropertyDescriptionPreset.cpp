@@ -1,6 +1,6 @@
 #include "properties/PropertyDescriptionPreset.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescriptionVisitor.h"
 
 PropertyDescriptionPreset::PropertyDescriptionPreset(const QString &typeName,

@@ -1,6 +1,6 @@
 #include "properties/PropertyEnum.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescriptionEnum.h"
 #include "properties/PropertyVisitor.h"
 

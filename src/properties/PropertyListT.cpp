@@ -1,6 +1,6 @@
 #include "properties/PropertyListT.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 
 #include <QObject>
 

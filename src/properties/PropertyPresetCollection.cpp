@@ -1,6 +1,6 @@
 #include "properties/PropertyPresetCollection.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescriptionPreset.h"
 #include "properties/PropertyValues.h"
 #include "properties/PropertyVisitor.h"

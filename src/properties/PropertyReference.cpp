@@ -1,6 +1,6 @@
 #include "properties/PropertyReference.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescriptionPreset.h"
 #include "properties/PropertyDescriptionReference.h"
 #include "properties/PropertyPreset.h"

@@ -1,6 +1,6 @@
 #include "properties/PropertyStruct.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescription.h"
 #include "properties/PropertyStructFactory.h"
 #include "properties/PropertyVisitor.h"

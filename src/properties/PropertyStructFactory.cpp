@@ -1,6 +1,6 @@
 #include "properties/PropertyStructFactory.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/PropertyDescriptionEnum.h"
 #include "properties/PropertyDescriptionReference.h"
 #include "properties/PropertyDescriptionValues.h"

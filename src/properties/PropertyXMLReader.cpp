@@ -1,6 +1,6 @@
 #include "properties/PropertyXMLReader.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/GProject.h"
 #include "properties/PropertyByteArray.h"
 #include "properties/PropertyEnum.h"

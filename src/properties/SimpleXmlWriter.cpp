@@ -1,6 +1,6 @@
 #include "properties/SimpleXmlWriter.h"
 
-#include "app/base/GDebug.h"
+#include "base/GDebug.h"
 #include "properties/XmlTools.h"
 
 SimpleXmlWriter::SimpleXmlWriter(QByteArray *output, const QString &rootElement,

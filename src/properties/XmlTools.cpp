@@ -1,6 +1,6 @@
 #include "properties/XmlTools.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/XmlAttributeOrder.h"
 
 #include <QDomDocument>

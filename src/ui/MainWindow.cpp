@@ -1,9 +1,9 @@
 #include "ui/MainWindow.h"
 
-#include "app/base/Error.h"
-#include "app/base/GlobalSettings.h"
 #include "app/frame/GAction.h"
 #include "app/frame/GFileDialog.h"
+#include "base/Error.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"

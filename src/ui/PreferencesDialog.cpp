@@ -1,8 +1,8 @@
 #include "ui/PreferencesDialog.h"
 
 #include "app/application/HooplineApplication.h"
-#include "app/base/BuildConfig.h"
-#include "app/base/GlobalSettings.h"
+#include "base/BuildConfig.h"
+#include "base/GlobalSettings.h"
 #include "online/AutoUpdater.h"
 #include "online/metrics/Metrics.h"
 #include "ui_PreferencesDialog.h"

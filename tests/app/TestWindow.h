@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/application/GMainWindow.h"
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 
 #include <QApplication>
 

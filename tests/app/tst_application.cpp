@@ -1,9 +1,9 @@
 #include "TestWindow.h"
 
 #include "app/application/HooplineApplication.h"
-#include "app/base/Error.h"
 #include "app/frame/GAction.h"
 #include "app/frame/GFileTypeRegistry.h"
+#include "base/Error.h"
 #include "online/services/GUrlProvider.h"
 
 #include <QAbstractButton>

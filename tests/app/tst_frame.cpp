@@ -1,7 +1,7 @@
-#include "app/base/GSettings.h"
 #include "app/frame/GAction.h"
 #include "app/frame/GFileDialog.h"
 #include "app/frame/GRecentFileProvider.h"
+#include "base/GSettings.h"
 
 #include <QMenu>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #include "support/GuardFolder.h"
 
-#include "app/base/BuildConfig.h"
+#include "base/BuildConfig.h"
 #include "support/HttpServer.h"
 
 #include <QDir>

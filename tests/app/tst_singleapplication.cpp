@@ -1,7 +1,7 @@
 #include "support/GuardFolder.h"
 
 #include "app/application/SingleApplicationPrivate.h"
-#include "app/base/InstanceName.h"
+#include "base/InstanceName.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "catalogue/disk/FileTools.h"
+#include "base/files/FileTools.h"
 #include "catalogue/records/DataModelReader.h"
 #include "catalogue/records/Project.h"
 #include "properties/PropertyDescriptionPreset.h"

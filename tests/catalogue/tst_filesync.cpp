@@ -1,4 +1,4 @@
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "catalogue/records/IThread.h"
 #include "catalogue/sync/FileSync.h"
 #include "embroidery/EmbroideryIO.h"

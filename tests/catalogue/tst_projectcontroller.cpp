@@ -1,4 +1,4 @@
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/IFile.h"
 #include "catalogue/sync/ProjectController.h"

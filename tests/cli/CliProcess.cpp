@@ -1,6 +1,6 @@
 #include "CliProcess.h"
 
-#include "app/base/BuildConfig.h"
+#include "base/BuildConfig.h"
 #include <QDir>
 #include <QProcessEnvironment>
 

@@ -1,8 +1,8 @@
 #include "FakeOrganiser.h"
 
-#include "app/base/BuildConfig.h"
-#include "app/base/InstanceBlock.h"
-#include "app/base/InstanceName.h"
+#include "base/BuildConfig.h"
+#include "base/InstanceBlock.h"
+#include "base/InstanceName.h"
 
 static QString organiserName()
 {

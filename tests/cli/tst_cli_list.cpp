@@ -1,4 +1,4 @@
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/records/IFile.h"
 #include "catalogue/sync/ProjectController.h"
 #include "CliProcess.h"

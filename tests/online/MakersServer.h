@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/DI.h"
-#include "app/base/GSettings.h"
+#include "base/DI.h"
+#include "base/GSettings.h"
 #include "online/services/GUrlProvider.h"
 #include "support/HttpServer.h"
 

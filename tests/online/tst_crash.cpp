@@ -1,5 +1,5 @@
-#include "app/base/GDebug.h"
-#include "app/base/GSettings.h"
+#include "base/GDebug.h"
+#include "base/GSettings.h"
 #include "online/BreakpadCrashHandler.h"
 #include "online/GCrashLogCollector.h"
 

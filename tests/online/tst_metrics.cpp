@@ -1,4 +1,4 @@
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "online/metrics/FileSyncTracking.h"
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"

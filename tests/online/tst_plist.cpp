@@ -1,4 +1,4 @@
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "online/PlistLoader.h"
 
 #include <QTemporaryDir>

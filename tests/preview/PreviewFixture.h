@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/records/File.h"
 #include "catalogue/records/Project.h"
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 
 /** The text of the exception of type E that @p action throws; others pass and fail the test. */
 template <class E, class Action>

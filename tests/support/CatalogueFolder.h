@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/base/GlobalSettings.h"
-#include "app/base/GSettings.h"
+#include "base/GlobalSettings.h"
+#include "base/GSettings.h"
 #include <QDateTime>
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/base/BuildConfig.h"
-#include "app/base/InstanceName.h"
+#include "base/BuildConfig.h"
+#include "base/InstanceName.h"
 
 #include <QFileInfo>
 #include <QSharedMemory>

@@ -2,7 +2,7 @@
 #include "PanelFixture.h"
 
 #include "app/application/HooplineApplication.h"
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/Metrics.h"
 #include "online/UpdateDialog.h"

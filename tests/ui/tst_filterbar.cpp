@@ -1,6 +1,6 @@
 #include "PanelFixture.h"
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/FilterModel.h"
 #include "ui/panels/FilterBar.h"
 

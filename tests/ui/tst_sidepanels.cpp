@@ -1,6 +1,6 @@
 #include "PanelFixture.h"
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/records/Thread.h"
 #include "ui/panels/ColorsBox.h"

@@ -1,6 +1,6 @@
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/GSettings.h"
-#include "app/base/GTranslationLoader.h"
+#include "base/GSettings.h"
+#include "base/GTranslationLoader.h"
 #include "widgets/controls/About.h"
 #include "widgets/controls/About2.h"
 #include "widgets/controls/GExpandingTitle.h"

@@ -1,5 +1,5 @@
 #include "app/application/HooplineApplication.h"
-#include "app/base/GTranslationLoader.h"
+#include "base/GTranslationLoader.h"
 #include "online/metrics/Metrics.h"
 #include "ui/MainWindow.h"
 

@@ -1,9 +1,9 @@
 #include "app/addons/GApplicationAddons.h"
 
 #include "app/addons/GFileAssociationHandler.h"
-#include "app/base/BuildConfig.h"
-#include "app/base/DI.h"
-#include "app/base/GDebug.h"
+#include "base/BuildConfig.h"
+#include "base/DI.h"
+#include "base/GDebug.h"
 #include "online/services/GUrlProvider.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/ErrorCollector.h"
 #include "app/frame/GRecentFileProvider.h"
+#include "base/ErrorCollector.h"
 
 #include <memory>
 #include <QAbstractNativeEventFilter>

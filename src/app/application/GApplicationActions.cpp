@@ -2,8 +2,8 @@
 
 #include "app/application/GApplication.h"
 #include "app/application/GMainWindow.h"
-#include "app/base/DI.h"
 #include "app/frame/GAction.h"
+#include "base/DI.h"
 #include "online/services/GUrlProvider.h"
 #include "widgets/controls/About.h"
 #include "widgets/style/GIcon.h"

@@ -1,10 +1,10 @@
 #include "app/application/GMainWindow.h"
 
 #include "app/application/GApplication.h"
-#include "app/base/GSettings.h"
 #include "app/frame/GAction.h"
 #include "app/frame/GFileDialog.h"
 #include "app/frame/GFileTypeRegistry.h"
+#include "base/GSettings.h"
 #include "widgets/style/GIcon.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "app/application/HooplineApplication.h"
 
 #include "app/application/GMainWindow.h"
-#include "app/base/BuildConfig.h"
-#include "app/base/Error.h"
 #include "app/frame/GAction.h"
+#include "base/BuildConfig.h"
+#include "base/Error.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"

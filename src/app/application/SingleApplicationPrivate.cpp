@@ -1,6 +1,6 @@
 #include "app/application/SingleApplicationPrivate.h"
 
-#include "app/base/InstanceName.h"
+#include "base/InstanceName.h"
 
 #include <cstring>
 #include <QDataStream>

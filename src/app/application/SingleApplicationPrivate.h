@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/application/SingleApplication.h"
-#include "app/base/InstanceBlock.h"
+#include "base/InstanceBlock.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>

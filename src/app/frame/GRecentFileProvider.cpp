@@ -1,7 +1,7 @@
 #include "app/frame/GRecentFileProvider.h"
 
-#include "app/base/GSettings.h"
 #include "app/frame/GAction.h"
+#include "base/GSettings.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
 #include "catalogue/records/CatalogueXMLReader.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "catalogue/records/Project.h"
 #include "properties/PropertyFactory.h"
 #include "properties/XmlTools.h"

@@ -1,6 +1,6 @@
 #include "catalogue/records/DataModelReader.h"
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "catalogue/records/CatalogueXMLReader.h"
 #include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/Project.h"

@@ -1,6 +1,6 @@
 #include "catalogue/records/DataModelWriter.h"
 
-#include "catalogue/disk/FileTools.h"
+#include "base/files/FileTools.h"
 #include "catalogue/records/Project.h"
 #include "properties/XmlTools.h"
 

@@ -1,8 +1,8 @@
 #include "catalogue/sync/FileSync.h"
 
-#include "app/base/EmptyProgressListener.h"
-#include "catalogue/disk/DirectoryScanner.h"
-#include "catalogue/disk/FileTools.h"
+#include "base/EmptyProgressListener.h"
+#include "base/files/DirectoryScanner.h"
+#include "base/files/FileTools.h"
 #include "catalogue/records/File.h"
 #include "catalogue/records/Thread.h"
 #include "embroidery/EmbPattern.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/base/GlobalSettings.h"
-#include "app/base/IProgressAbortListener.h"
+#include "base/GlobalSettings.h"
+#include "base/IProgressAbortListener.h"
 #include "catalogue/records/IFile.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/SyncCounts.h"

@@ -1,9 +1,9 @@
 #include "catalogue/sync/ProjectController.h"
 
-#include "app/base/EmptyProgressListener.h"
-#include "app/base/Error.h"
-#include "app/base/GDebug.h"
-#include "app/base/GlobalSettings.h"
+#include "base/EmptyProgressListener.h"
+#include "base/Error.h"
+#include "base/GDebug.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/sync/FileSync.h"

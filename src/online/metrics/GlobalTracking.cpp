@@ -1,6 +1,6 @@
 #include "online/metrics/GlobalTracking.h"
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "online/metrics/Metrics.h"
 #include "online/services/SystemInquiry.h"
 

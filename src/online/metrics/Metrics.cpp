@@ -1,11 +1,11 @@
 #include "online/metrics/Metrics.h"
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/BuildConfig.h"
-#include "app/base/Error.h"
-#include "app/base/GSettings.h"
-#include "app/base/GTranslationLoader.h"
-#include "catalogue/disk/FileTools.h"
+#include "base/BuildConfig.h"
+#include "base/Error.h"
+#include "base/files/FileTools.h"
+#include "base/GSettings.h"
+#include "base/GTranslationLoader.h"
 #include "online/metrics/ReplyLimits.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #include "online/services/GUrlProvider.h"
 
-#include "app/base/BuildConfig.h"
-#include "app/base/GSettings.h"
-#include "app/base/GTranslationLoader.h"
+#include "base/BuildConfig.h"
+#include "base/GSettings.h"
+#include "base/GTranslationLoader.h"
 #include "online/services/SystemInquiry.h"
 
 #include <QCoreApplication>

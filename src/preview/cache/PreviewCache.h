@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/records/IFile.h"
 #include "preview/cache/PreviewCacheWorker.h"
 #include <QByteArray>

@@ -1,7 +1,7 @@
 #include "preview/grid/GridPreviewScene.h"
 
 #include "app/application/HooplineApplication.h"
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/SceneIndexPause.h"
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "preview/grid/PreviewBrowser.h"
 
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"

@@ -115,13 +115,6 @@
     </message>
 </context>
 <context>
-    <name>DirectoryScanner</name>
-    <message>
-        <source>Scanning directory &apos;%1&apos;</source>
-        <translation>Ordner „%1“ wird durchsucht</translation>
-    </message>
-</context>
-<context>
     <name>EmptyHint</name>
     <message>
         <source>Add a folder with embroidery designs to begin.</source>
@@ -191,21 +184,6 @@
     <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
-    </message>
-</context>
-<context>
-    <name>FileTools</name>
-    <message>
-        <source>Failed to load %1: %2</source>
-        <translation>%1 konnte nicht geladen werden: %2</translation>
-    </message>
-    <message>
-        <source>Failed to read %1: %2</source>
-        <translation>%1 konnte nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>Failed to write %1: %2</source>
-        <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

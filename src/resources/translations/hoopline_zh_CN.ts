@@ -114,13 +114,6 @@
     </message>
 </context>
 <context>
-    <name>DirectoryScanner</name>
-    <message>
-        <source>Scanning directory &apos;%1&apos;</source>
-        <translation>正在扫描文件夹“%1”</translation>
-    </message>
-</context>
-<context>
     <name>EmptyHint</name>
     <message>
         <source>Add a folder with embroidery designs to begin.</source>
@@ -189,21 +182,6 @@
     <message>
         <source>Copy</source>
         <translation>复制</translation>
-    </message>
-</context>
-<context>
-    <name>FileTools</name>
-    <message>
-        <source>Failed to load %1: %2</source>
-        <translation>无法载入 %1：%2</translation>
-    </message>
-    <message>
-        <source>Failed to read %1: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
-    <message>
-        <source>Failed to write %1: %2</source>
-        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,13 @@ Erstellt am %2</translation>
     </message>
 </context>
 <context>
+    <name>DirectoryScanner</name>
+    <message>
+        <source>Scanning directory &apos;%1&apos;</source>
+        <translation>Ordner „%1“ wird durchsucht</translation>
+    </message>
+</context>
+<context>
     <name>FeedbackDialog</name>
     <message>
         <source>Send feedback</source>
@@ -169,6 +176,21 @@ Erstellt am %2</translation>
     <message>
         <source>Email address</source>
         <translation>E-Mail-Adresse</translation>
+    </message>
+</context>
+<context>
+    <name>FileTools</name>
+    <message>
+        <source>Failed to load %1: %2</source>
+        <translation>%1 konnte nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>%1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

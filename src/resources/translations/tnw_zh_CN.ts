@@ -45,6 +45,13 @@ Built on %2</source>
     </message>
 </context>
 <context>
+    <name>DirectoryScanner</name>
+    <message>
+        <source>Scanning directory &apos;%1&apos;</source>
+        <translation>正在扫描文件夹“%1”</translation>
+    </message>
+</context>
+<context>
     <name>FeedbackDialog</name>
     <message>
         <source>Send feedback</source>
@@ -169,6 +176,21 @@ Built on %2</source>
     <message>
         <source>Email address</source>
         <translation>电子邮件地址</translation>
+    </message>
+</context>
+<context>
+    <name>FileTools</name>
+    <message>
+        <source>Failed to load %1: %2</source>
+        <translation>无法载入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,7 @@
 #include "ui/panels/FilterBar.h"
 
 #include "app/application/HooplineApplication.h"
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/models/IFilterModel.h"
 #include "embroidery/EmbroideryIO.h"
 #include "ui_FilterBarUI.h"

@@ -1,7 +1,7 @@
 #include "ui/panels/PropertiesBox.h"
 
 #include "app/application/HooplineApplication.h"
-#include "app/base/GlobalSettings.h"
+#include "base/GlobalSettings.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/records/Thread.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/base/Error.h"
+#include "base/Error.h"
 #include "properties/GProject.h"
 #include "properties/GUndoStack.h"
 #include "properties/PropertyDescription.h"

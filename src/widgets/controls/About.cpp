@@ -1,7 +1,7 @@
 #include "widgets/controls/About.h"
 
 #include "app/addons/GApplicationAddons.h"
-#include "app/base/GTranslationLoader.h"
+#include "base/GTranslationLoader.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -1,6 +1,6 @@
 #include "widgets/controls/About2.h"
 
-#include "app/base/GTranslationLoader.h"
+#include "base/GTranslationLoader.h"
 #include "widgets/controls/About.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "widgets/controls/GSideBar.h"
 
-#include "app/base/GSettings.h"
+#include "base/GSettings.h"
 #include "widgets/controls/GSideBarBox.h"
 #include "widgets/controls/GSideBarBoxAdvanced.h"
 

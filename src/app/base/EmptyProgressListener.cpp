@@ -1,3 +1,0 @@
-#include "app/base/EmptyProgressListener.h"
-
-EmptyProgressListener emptyProgressListener;

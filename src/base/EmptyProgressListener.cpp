@@ -1,0 +1,3 @@
+#include "base/EmptyProgressListener.h"
+
+EmptyProgressListener emptyProgressListener;

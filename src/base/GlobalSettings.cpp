@@ -1,0 +1,68 @@
+#include "base/GlobalSettings.h"
+
+#include <QLocale>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr int DefaultGridScaleFactor = 100;
+
+const QString ApplicationDataPath = QStringLiteral("applicationDataPath");
+const QString LastImportPath = QStringLiteral("lastImportPath");
+const QString GridScaleFactor = QStringLiteral("gridScaleFactor");
+const QString ImperialUnits = QStringLiteral("imperialUnits");
+
+} // namespace
+
+QString GlobalSettings::applicationDataPath()
+{
+    if (!contains(ApplicationDataPath))
+        setApplicationDataPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return value(ApplicationDataPath).toString();
+}
+
+void GlobalSettings::setApplicationDataPath(const QString &path)
+{
+    setValue(ApplicationDataPath, path);
+}
+
+QString GlobalSettings::previewImagePath(const QByteArray &hash)
+{
+    const QString directory = applicationDataPath() + QStringLiteral("/previews/");
+    if (hash.isNull())
+        return directory;
+    return directory + QString::fromLatin1(hash.toHex()) + QStringLiteral(".png");
+}
+
+QString GlobalSettings::lastImportPath() const
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return value(LastImportPath, documents).toString();
+}
+
+void GlobalSettings::setLastImportPath(const QString &path)
+{
+    setValue(LastImportPath, path);
+}
+
+int GlobalSettings::gridScaleFactor() const
+{
+    return value(GridScaleFactor, DefaultGridScaleFactor).toInt();
+}
+
+void GlobalSettings::setGridScaleFactor(int percent)
+{
+    setValue(GridScaleFactor, percent);
+}
+
+bool GlobalSettings::imperialUnits()
+{
+    if (!contains(ImperialUnits))
+        setImperialUnits(QLocale::system().measurementSystem() != QLocale::MetricSystem);
+    return value(ImperialUnits).toBool();
+}
+
+void GlobalSettings::setImperialUnits(bool imperial)
+{
+    setValue(ImperialUnits, imperial);
+}

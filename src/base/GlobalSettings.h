@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/GSettings.h"
+
+#include <QByteArray>
+
+/** The preferences of the product itself. */
+class GlobalSettings : public GSettings
+{
+public:
+    /**
+     * Root of the catalogue file and of the preview directory, without a trailing
+     * slash. Decided on the first call and stored, so that it stays when the
+     * platform's default moves.
+     */
+    QString applicationDataPath();
+    void setApplicationDataPath(const QString &path);
+
+    /**
+     * The preview file of a design with the raw MD5 digest @p hash; with a null
+     * array the preview directory, with its trailing slash.
+     */
+    QString previewImagePath(const QByteArray &hash);
+
+    /** Where the add-folder dialog starts. */
+    QString lastImportPath() const;
+    void setLastImportPath(const QString &path);
+
+    /** Zoom of the grid, in per cent. */
+    int gridScaleFactor() const;
+    void setGridScaleFactor(int percent);
+
+    /** Inches rather than millimetres. Decided by the system's locale on the first call. */
+    bool imperialUnits();
+    void setImperialUnits(bool imperial);
+};

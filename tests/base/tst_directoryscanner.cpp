@@ -1,0 +1,119 @@
+#include "base/files/DirectoryScanner.h"
+#include "base/files/FileTools.h"
+#include "support/ScriptedListener.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestDirectoryScanner : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void findsWhatIsAskedFor();
+    void abortLeavesAPartialList();
+    void longPathsAreShortened();
+    void decomposedNamesAreFound();
+    void linksCountAsWhatTheyLeadTo();
+
+private:
+    void make(const QStringList &names);
+    QString scan(const DirectoryScanner &scanner = {}) const;
+
+    QScopedPointer<QTemporaryDir> m_dir;
+};
+
+void TestDirectoryScanner::init()
+{
+    m_dir.reset(new QTemporaryDir);
+}
+
+void TestDirectoryScanner::make(const QStringList &names)
+{
+    for (const QString &name : names)
+        FileTools::writeAll(m_dir->filePath("./" + name), "x");
+}
+
+QString TestDirectoryScanner::scan(const DirectoryScanner &scanner) const
+{
+    QStringList names = scanner.findFilesRecursive(m_dir->path());
+    for (QString &name : names)
+        name.remove(0, m_dir->path().length() + 1);
+    return names.join(QLatin1Char(' '));
+}
+
+void TestDirectoryScanner::findsWhatIsAskedFor()
+{
+    make({"c/S/0", "b.dst", "A.PES", ":-)", "c/a.pes", "c/.t", "B2/Z.pes", "B2/y/q", ".d/in"});
+    const QString all = QStringLiteral(":-) A.PES b.dst B2/Z.pes B2/y/q c/a.pes c/S/0");
+    DirectoryScanner scanner;
+    QCOMPARE(scan(scanner), all);
+    scanner.setExtensions({"pes", "DST"});
+    QCOMPARE(scan(scanner), QStringLiteral("A.PES b.dst B2/Z.pes c/a.pes"));
+    scanner.setExtensions({});
+    QCOMPARE(scan(scanner), all);
+    scanner.setFilters(QStringList{"*.pes", "*/c/*"});
+    scanner.setExcludeFilters(QStringList{"*/C/a*"});
+    QCOMPARE(scan(scanner), QStringLiteral("A.PES B2/Z.pes c/S/0"));
+
+    DirectoryScanner hidden({}, {"B2", "s"});
+    hidden.setReturnHidden(true);
+    QCOMPARE(scan(hidden), QStringLiteral(":-) A.PES b.dst .d/in c/.t c/a.pes c/S/0"));
+}
+
+void TestDirectoryScanner::abortLeavesAPartialList()
+{
+    make({"a", "b/c", "d/e", "d/f/g"});
+    ScriptedListener listener;
+    listener.onProceed = [&](const QString &) { listener.aborted = listener.texts.count() == 2; };
+    DirectoryScanner scanner;
+    scanner.setAbortCheck(&listener);
+    scanner.setProgressListener(&listener);
+    QCOMPARE(scan(scanner), QStringLiteral("a b/c"));
+    QCOMPARE(listener.texts.count(), 2);
+}
+
+void TestDirectoryScanner::longPathsAreShortened()
+{
+    ScriptedListener listener;
+    DirectoryScanner scanner;
+    scanner.setProgressListener(&listener);
+    scanner.findFilesRecursive(QLatin1Char('/') + QString(39, 'x'));
+    scanner.findFilesRecursive(QLatin1Char('/') + QString(40, 'x'));
+    QCOMPARE(listener.texts, QStringList({"Scanning directory '/" + QString(39, 'x') + "'",
+                                          "Scanning directory '..." + QString(40, 'x') + "'"}));
+}
+
+void TestDirectoryScanner::decomposedNamesAreFound()
+{
+    const QString composed = QStringLiteral("r\u00e9.pes");
+    make({composed.normalized(QString::NormalizationForm_D)});
+    const QList<QFileInfo> files = DirectoryScanner().fileInfoRecursive(m_dir->path());
+    QCOMPARE(files.count(), 1);
+    QVERIFY(files.first().exists());
+    QCOMPARE(files.first().fileName().normalized(QString::NormalizationForm_C), composed);
+
+    // Two files, where the file system holds both forms: each is found once.
+    make({composed});
+    QStringList paths = DirectoryScanner().findFilesRecursive(m_dir->path());
+    QCOMPARE(paths.count(), QDir(m_dir->path()).entryList(QDir::Files).count());
+    QCOMPARE(paths.removeDuplicates(), 0);
+}
+
+void TestDirectoryScanner::linksCountAsWhatTheyLeadTo()
+{
+    make({"real/a"});
+    QVERIFY(QFile::link(m_dir->filePath("real"), m_dir->filePath("link")));
+    QVERIFY(QFile::link(m_dir->filePath("real/a"), m_dir->filePath("file")));
+    QVERIFY(QFile::link(m_dir->filePath("missing"), m_dir->filePath("dangling")));
+    QCOMPARE(scan(), QStringLiteral("file link/a real/a"));
+    // The system ends the walk along a cycle.
+    m_dir.reset(new QTemporaryDir);
+    make({"a"});
+    QVERIFY(QFile::link(m_dir->path(), m_dir->filePath("up")));
+    QVERIFY(scan().startsWith(QStringLiteral("a up/a up/up/a")));
+}
+
+QTEST_GUILESS_MAIN(TestDirectoryScanner)
+#include "tst_directoryscanner.moc"
