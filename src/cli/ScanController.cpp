@@ -2,7 +2,7 @@
 
 #include "cli/CatalogueInUseError.h"
 #include "cli/OrganiserGuard.h"
-#include "properties/GUndoStack.h"
+#include "properties/undo/GUndoStack.h"
 #include <QFileInfo>
 
 void ScanController::open()

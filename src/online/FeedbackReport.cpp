@@ -2,7 +2,7 @@
 
 #include "app/frame/GFileDialog.h"
 #include "online/services/SystemInquiry.h"
-#include "properties/SimpleXmlWriter.h"
+#include "properties/xml/SimpleXmlWriter.h"
 
 #include <QCoreApplication>
 

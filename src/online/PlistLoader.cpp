@@ -2,7 +2,7 @@
 
 #include "base/Error.h"
 #include "base/files/FileTools.h"
-#include "properties/XmlTools.h"
+#include "properties/xml/XmlTools.h"
 
 #include <QDomDocument>
 

@@ -5,7 +5,7 @@
 #include "online/metrics/ReplyLimits.h"
 #include "online/services/VersionCompare.h"
 #include "online/UpdateDialog.h"
-#include "properties/XmlTools.h"
+#include "properties/xml/XmlTools.h"
 #include "widgets/controls/GMessageBox.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "base/files/FileTools.h"
 #include "catalogue/records/DataModelReader.h"
 #include "catalogue/records/Project.h"
-#include "properties/PropertyDescriptionPreset.h"
-#include "properties/PropertyDescriptionValues.h"
+#include "properties/descriptions/PropertyDescriptionPreset.h"
+#include "properties/descriptions/PropertyDescriptionValues.h"
 #include "properties/RecordingObserver.h"
 #include "properties/ThrowHelper.h"
 

@@ -1,6 +1,6 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/sync/TagController.h"
-#include "properties/GUndoStack.h"
+#include "properties/undo/GUndoStack.h"
 #include <QtTest>
 
 class TagControllerTest : public QObject

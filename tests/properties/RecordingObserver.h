@@ -1,7 +1,7 @@
 #pragma once
 
-#include "properties/Observable.h"
-#include "properties/Observer.h"
+#include "properties/changes/Observable.h"
+#include "properties/changes/Observer.h"
 
 #include <functional>
 #include <QList>

@@ -1,8 +1,8 @@
-#include "properties/ChangeManager.h"
-#include "properties/GProject.h"
-#include "properties/GUndoStack.h"
-#include "properties/PropertyValues.h"
+#include "properties/changes/ChangeManager.h"
+#include "properties/core/GProject.h"
+#include "properties/core/PropertyValues.h"
 #include "properties/RecordingObserver.h"
+#include "properties/undo/GUndoStack.h"
 
 #include <memory>
 #include <QtTest>

@@ -1,13 +1,13 @@
-#include "properties/GProject.h"
-#include "properties/GUndoStack.h"
-#include "properties/PropertyByteArray.h"
-#include "properties/PropertyDescriptionEnum.h"
-#include "properties/PropertyDescriptionPreset.h"
-#include "properties/PropertyDescriptionValues.h"
-#include "properties/PropertyEnum.h"
-#include "properties/PropertyValues.h"
+#include "properties/core/GProject.h"
+#include "properties/core/PropertyByteArray.h"
+#include "properties/core/PropertyEnum.h"
+#include "properties/core/PropertyValues.h"
+#include "properties/descriptions/PropertyDescriptionEnum.h"
+#include "properties/descriptions/PropertyDescriptionPreset.h"
+#include "properties/descriptions/PropertyDescriptionValues.h"
 #include "properties/RecordingObserver.h"
 #include "properties/ThrowHelper.h"
+#include "properties/undo/GUndoStack.h"
 
 #include <limits>
 #include <memory>

@@ -1,9 +1,9 @@
-#include "properties/GProject.h"
-#include "properties/GUndoStack.h"
-#include "properties/PropertyListT.h"
-#include "properties/PropertyValues.h"
+#include "properties/core/GProject.h"
+#include "properties/core/PropertyValues.h"
+#include "properties/lists/PropertyListT.h"
 #include "properties/RecordingObserver.h"
 #include "properties/ThrowHelper.h"
+#include "properties/undo/GUndoStack.h"
 
 #include <QtTest>
 

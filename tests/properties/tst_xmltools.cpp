@@ -1,7 +1,7 @@
-#include "properties/SimpleXmlWriter.h"
 #include "properties/ThrowHelper.h"
-#include "properties/XmlAttributeOrder.h"
-#include "properties/XmlTools.h"
+#include "properties/xml/SimpleXmlWriter.h"
+#include "properties/xml/XmlAttributeOrder.h"
+#include "properties/xml/XmlTools.h"
 
 #include <QDomDocument>
 #include <QtTest>

@@ -2,7 +2,7 @@
 
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
-#include "properties/ChangeManager.h"
+#include "properties/changes/ChangeManager.h"
 
 FilterModel::FilterModel(const QSharedPointer<Project> &project) : m_project(project)
 {

@@ -2,7 +2,7 @@
 
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/SearchExpression.h"
-#include "properties/Observer.h"
+#include "properties/changes/Observer.h"
 
 #include <QHash>
 #include <QSet>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/models/ISelectionModel.h"
-#include "properties/Observer.h"
+#include "properties/changes/Observer.h"
 
 class Project;
 

@@ -2,8 +2,8 @@
 
 #include "base/Error.h"
 #include "catalogue/records/Project.h"
-#include "properties/PropertyFactory.h"
-#include "properties/XmlTools.h"
+#include "properties/core/PropertyFactory.h"
+#include "properties/xml/XmlTools.h"
 
 #include <QObject>
 #include <QXmlStreamReader>

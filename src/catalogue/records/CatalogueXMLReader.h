@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/PropertyXMLReader.h"
+#include "properties/xml/PropertyXMLReader.h"
 
 #include <memory>
 #include <QDomDocument>

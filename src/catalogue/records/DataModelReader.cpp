@@ -4,7 +4,7 @@
 #include "catalogue/records/CatalogueXMLReader.h"
 #include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/Project.h"
-#include "properties/ChangeManager.h"
+#include "properties/changes/ChangeManager.h"
 
 #include <QFile>
 #include <QObject>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/PropertyFactory.h"
+#include "properties/core/PropertyFactory.h"
 
 #include <QDomDocument>
 

@@ -2,7 +2,7 @@
 
 #include "base/files/FileTools.h"
 #include "catalogue/records/Project.h"
-#include "properties/XmlTools.h"
+#include "properties/xml/XmlTools.h"
 
 #include <QXmlStreamWriter>
 

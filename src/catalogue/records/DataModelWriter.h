@@ -1,7 +1,7 @@
 #pragma once
 
-#include "properties/PropertySerializer.h"
-#include "properties/PropertyXMLWriter.h"
+#include "properties/xml/PropertySerializer.h"
+#include "properties/xml/PropertyXMLWriter.h"
 
 #include <QVersionNumber>
 

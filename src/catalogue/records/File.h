@@ -2,7 +2,7 @@
 
 #include "catalogue/records/IFile.h"
 #include "catalogue/records/Thread.h"
-#include "properties/PropertyStruct.h"
+#include "properties/core/PropertyStruct.h"
 
 class Project;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "properties/PropertyListT.h"
-#include "properties/PropertyValues.h"
+#include "properties/core/PropertyValues.h"
+#include "properties/lists/PropertyListT.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/PropertyValues.h"
+#include "properties/core/PropertyValues.h"
 
 #include <QColor>
 #include <QString>

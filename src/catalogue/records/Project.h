@@ -2,8 +2,8 @@
 
 #include "catalogue/records/File.h"
 #include "catalogue/records/IProject.h"
-#include "properties/GProject.h"
-#include "properties/GUndoStack.h"
+#include "properties/core/GProject.h"
+#include "properties/undo/GUndoStack.h"
 
 /** The catalogue as a document; it gives its records their undo stack. */
 class Project : public IProject, public GProject

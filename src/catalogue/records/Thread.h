@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/records/IThread.h"
-#include "properties/PropertyStruct.h"
+#include "properties/core/PropertyStruct.h"
 
 class Project;
 

@@ -9,8 +9,8 @@
 #include "catalogue/sync/FileSync.h"
 #include "embroidery/EmbroideryIO.h"
 #include "preview/cache/PreviewCache.h"
-#include "properties/ChangeManager.h"
-#include "properties/GUndoStack.h"
+#include "properties/changes/ChangeManager.h"
+#include "properties/undo/GUndoStack.h"
 #include <QFileInfo>
 
 ProjectController::ProjectController()

@@ -2,7 +2,7 @@
 
 #include "catalogue/records/IFile.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
-#include "properties/GUndoStack.h"
+#include "properties/undo/GUndoStack.h"
 #include <algorithm>
 #include <QFileInfo>
 #include <QRegExp>

@@ -4,7 +4,7 @@
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
-#include "properties/PropertyValues.h"
+#include "properties/core/PropertyValues.h"
 #include "widgets/controls/DesktopInteraction.h"
 #include "widgets/style/WidgetStyles.h"
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 
 #include "catalogue/records/IFile.h"
 #include "preview/cache/PreviewCacheListener.h"
-#include "properties/Observer.h"
+#include "properties/changes/Observer.h"
 #include <QCoreApplication>
 #include <QGraphicsRectItem>
 #include <QPixmap>

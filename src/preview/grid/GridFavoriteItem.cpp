@@ -1,6 +1,6 @@
 #include "preview/grid/GridFavoriteItem.h"
 
-#include "properties/PropertyValues.h"
+#include "properties/core/PropertyValues.h"
 #include <QGraphicsSceneMouseEvent>
 #include <QGuiApplication>
 #include <QImageReader>

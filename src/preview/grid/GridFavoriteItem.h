@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/records/IFile.h"
-#include "properties/Observer.h"
+#include "properties/changes/Observer.h"
 #include <QGraphicsPixmapItem>
 #include <QSharedPointer>
 

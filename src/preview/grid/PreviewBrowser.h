@@ -1,6 +1,6 @@
 #pragma once
 
-#include "properties/Observer.h"
+#include "properties/changes/Observer.h"
 #include <QList>
 #include <QSharedPointer>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "properties/Observer.h"
-#include "properties/PropertyDescriptionValues.h"
+#include "properties/changes/Observer.h"
+#include "properties/descriptions/PropertyDescriptionValues.h"
 #include "widgets/controls/GSideBarBox.h"
 
 #include <QList>

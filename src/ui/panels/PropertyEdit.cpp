@@ -1,6 +1,6 @@
 #include "ui/panels/PropertyEdit.h"
 
-#include "properties/Property.h"
+#include "properties/core/Property.h"
 
 #include <QTimer>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "base/Error.h"
-#include "properties/GProject.h"
-#include "properties/GUndoStack.h"
-#include "properties/PropertyDescription.h"
+#include "properties/core/GProject.h"
+#include "properties/descriptions/PropertyDescription.h"
+#include "properties/undo/GUndoStack.h"
 #include "ui/panels/PropertyEdit.h"
 
 #include <algorithm>

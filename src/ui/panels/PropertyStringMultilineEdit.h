@@ -1,7 +1,7 @@
 #pragma once
 
-#include "properties/PropertyDescriptionValues.h"
-#include "properties/PropertyValues.h"
+#include "properties/core/PropertyValues.h"
+#include "properties/descriptions/PropertyDescriptionValues.h"
 #include "ui/panels/PropertyEditT.h"
 
 #include <QPointer>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/sync/TagController.h"
-#include "properties/Observer.h"
+#include "properties/changes/Observer.h"
 #include "widgets/controls/GSideBarBox.h"
 
 #include <QSharedPointer>

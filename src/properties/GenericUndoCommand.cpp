@@ -1,7 +1,0 @@
-#include "properties/GenericUndoCommand.h"
-
-GenericUndoCommandBase::GenericUndoCommandBase(const QString &text, QUndoCommand *parent, int id,
-                                               bool modifiesDataModel)
-    : QUndoCommand(text, parent), m_commandId(id), m_modifiesDataModel(modifiesDataModel)
-{
-}

@@ -1,8 +1,0 @@
-#include "properties/MacroBlock.h"
-
-#include "properties/GUndoStack.h"
-
-MacroBlock::~MacroBlock()
-{
-    m_stack->endMacro();
-}

@@ -1,8 +1,0 @@
-#include "properties/Observer.h"
-
-#include "properties/ChangeManager.h"
-
-Observer::~Observer()
-{
-    ChangeManager::instance().unregister(this);
-}

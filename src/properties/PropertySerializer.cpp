@@ -1,3 +1,0 @@
-#include "properties/PropertySerializer.h"
-
-void PropertySerializer::saveBinaryLargeObject(const QString &, const QByteArray &) {}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "properties/core/PropertyStruct.h"
+#include "properties/presets/PropertyPresetCollection.h"
+
+#include <memory>
+#include <QCoreApplication>
+
+class GUndoStack;
+
+/** The root of a document: a struct that owns the undo stack and is its own project. */
+class GProject : public PropertyStruct
+{
+    Q_DECLARE_TR_FUNCTIONS(GProject)
+
+public:
+    GProject(const QString &name, const QList<PropertyDescription *> &descriptions);
+    ~GProject() override;
+
+    void acceptVisitor(PropertyVisitor *visitor) override;
+
+    GUndoStack *undoStack() const { return m_undoStack.get(); }
+
+    /** The child "preset_collections". */
+    PropertyListT<PropertyPresetCollection> *presetCollections() const;
+
+    /** Throws ErrorDoesNotExist when there is no collection of this type. */
+    PropertyPresetCollection *presetCollectionByName(const QString &typeName) const;
+
+private:
+    // Goes before the children do, since its commands point to them.
+    std::unique_ptr<GUndoStack> m_undoStack;
+    PropertyListT<PropertyPresetCollection> *m_presetCollections;
+};
