@@ -1,5 +1,6 @@
 #pragma once
 
+#include "properties/core/PropertyColor.h"
 #include "properties/core/PropertyValues.h"
 
 #include <QColor>

@@ -1,7 +1,10 @@
 #include "properties/core/PropertyStructFactory.h"
 
 #include "base/Error.h"
+#include "properties/core/PropertyColor.h"
 #include "properties/core/PropertyEnum.h"
+#include "properties/core/PropertyFilename.h"
+#include "properties/core/PropertyGeometry.h"
 #include "properties/core/PropertyReference.h"
 #include "properties/core/PropertyStruct.h"
 #include "properties/core/PropertyValues.h"

@@ -2,7 +2,10 @@
 
 #include "properties/core/GProject.h"
 #include "properties/core/PropertyByteArray.h"
+#include "properties/core/PropertyColor.h"
 #include "properties/core/PropertyEnum.h"
+#include "properties/core/PropertyFilename.h"
+#include "properties/core/PropertyGeometry.h"
 #include "properties/core/PropertyReference.h"
 #include "properties/core/PropertyValues.h"
 #include "properties/descriptions/PropertyDescriptionPreset.h"
