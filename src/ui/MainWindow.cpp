@@ -9,6 +9,7 @@
 #include "catalogue/models/ISelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/ProjectController.h"
+#include "online/metrics/Metrics.h"
 #include "preview/cache/PreviewCache.h"
 #include "ui/CenterView.h"
 #include "ui/ExportDialog.h"
@@ -55,6 +56,7 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this,
             &MainWindow::hideStaleProgress);
     m_controller->setProgressAbortListener(m_progressDialog);
+    m_controller->setUsageEventSink(&Metrics::submitEvent);
     createPanes();
     createActions();
     createMenus();

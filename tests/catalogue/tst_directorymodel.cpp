@@ -1,5 +1,5 @@
 #include "catalogue/Catalogue.h"
-#include "catalogue/models/DirectoryModel.h"
+#include "catalogue/folders/DirectoryModel.h"
 
 #include <QtTest>
 

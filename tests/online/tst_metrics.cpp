@@ -1,5 +1,5 @@
 #include "base/GlobalSettings.h"
-#include "online/metrics/FileSyncTracking.h"
+#include "catalogue/sync/FileSyncTracking.h"
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"
 #include "support/HttpServer.h"
@@ -97,7 +97,7 @@ void tst_Metrics::freshProfileSendsNothing()
     QVERIFY(Metrics::instance()->id().isEmpty());
     GlobalTracking::applicationStarted();
     Metrics::instance()->initNetworkAccessManager();
-    FileSyncTracking().endSync(1, 2);
+    FileSyncTracking(&Metrics::submitEvent).endSync(1, 2);
     GlobalTracking::aboutToQuit();
     QTest::qWait(100);
     QCOMPARE(m_server->connections(), 0);
@@ -181,7 +181,7 @@ void tst_Metrics::startAndQuit()
 void tst_Metrics::synchronisationNamesNoFile()
 {
     agreed();
-    FileSyncTracking tracking;
+    FileSyncTracking tracking(&Metrics::submitEvent);
     tracking.beginSync({QStringLiteral("*.pes"), QStringLiteral("*.DST")});
     tracking.logFileCountByExtension({"/home/jo/rose.PES", "/home/jo/rose.pes", "/x.dst/rose",
                                       "/home/jo/rose.vp3", "/home/jo/rose.exp+", "dst",

@@ -1,4 +1,4 @@
-#include "catalogue/models/DirectoryModel.h"
+#include "catalogue/folders/DirectoryModel.h"
 
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"

@@ -48,8 +48,10 @@ QFileInfoList previewFiles(const QString &directory)
 
 } // namespace
 
-FileSync::FileSync(QSharedPointer<Project> project, IProgressAbortListener *listener)
-    : m_project(std::move(project)), m_listener(listener ? listener : &emptyProgressListener)
+FileSync::FileSync(QSharedPointer<Project> project, IProgressAbortListener *listener,
+                   UsageEventSink usage)
+    : m_project(std::move(project)), m_listener(listener ? listener : &emptyProgressListener),
+      m_tracking(std::move(usage))
 {
     QDir().mkpath(m_settings.previewImagePath(QByteArray()));
 }

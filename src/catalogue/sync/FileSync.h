@@ -4,8 +4,8 @@
 #include "base/IProgressAbortListener.h"
 #include "catalogue/records/IFile.h"
 #include "catalogue/records/Project.h"
+#include "catalogue/sync/FileSyncTracking.h"
 #include "catalogue/sync/SyncCounts.h"
-#include "online/metrics/FileSyncTracking.h"
 #include <QByteArray>
 #include <QSet>
 #include <QSharedPointer>
@@ -31,8 +31,10 @@ public:
     /**
      * Makes the preview directory if it is missing.
      * @param listener not owned; null when nobody listens
+     * @param usage takes the figures of the run; empty when nobody wants them
      */
-    FileSync(QSharedPointer<Project> project, IProgressAbortListener *listener);
+    FileSync(QSharedPointer<Project> project, IProgressAbortListener *listener,
+             UsageEventSink usage = {});
 
     /**
      * The whole run over the project's smart folders.

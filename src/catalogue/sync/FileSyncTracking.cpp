@@ -1,6 +1,6 @@
-#include "online/metrics/FileSyncTracking.h"
+#include "catalogue/sync/FileSyncTracking.h"
 
-#include "online/metrics/Metrics.h"
+#include <utility>
 
 namespace {
 
@@ -20,7 +20,7 @@ QString extension(const QString &name)
 
 } // namespace
 
-FileSyncTracking::FileSyncTracking()
+FileSyncTracking::FileSyncTracking(UsageEventSink sink) : m_sink(std::move(sink))
 {
     for (const char *known : KnownExtensions)
         m_fileCounts.insert(QString::fromLatin1(known), 0);
@@ -69,19 +69,21 @@ void FileSyncTracking::endRenderFile(int stitchCount)
 
 void FileSyncTracking::endSync(int smartFolderCount, int fileCount)
 {
+    if (!m_sink)
+        return;
     const int syncTime = int(m_syncTimer.elapsed());
-    Metrics::submitEvent(QStringLiteral("hl project info"),
-                         {{QStringLiteral("num smartfolders"), smartFolderCount},
-                          {QStringLiteral("num files"), fileCount}});
-    Metrics::submitEvent(QStringLiteral("hl loader info"),
-                         {{QStringLiteral("num files"), m_supportedFiles.size()},
-                          {QStringLiteral("num errors"), m_errors},
-                          {QStringLiteral("rendered files"), m_renderedFiles},
-                          {QStringLiteral("rendered stitches"), m_renderedStitches},
-                          {QStringLiteral("render time"), m_renderTime},
-                          {QStringLiteral("sync time"), syncTime}});
+    m_sink(QStringLiteral("hl project info"),
+           {{QStringLiteral("num smartfolders"), smartFolderCount},
+            {QStringLiteral("num files"), fileCount}});
+    m_sink(QStringLiteral("hl loader info"),
+           {{QStringLiteral("num files"), m_supportedFiles.size()},
+            {QStringLiteral("num errors"), m_errors},
+            {QStringLiteral("rendered files"), m_renderedFiles},
+            {QStringLiteral("rendered stitches"), m_renderedStitches},
+            {QStringLiteral("render time"), m_renderTime},
+            {QStringLiteral("sync time"), syncTime}});
     QHash<QString, QVariant> counts;
     for (auto count = m_fileCounts.cbegin(); count != m_fileCounts.cend(); ++count)
         counts.insert(count.key(), count.value());
-    Metrics::submitEvent(QStringLiteral("hl found file types"), counts);
+    m_sink(QStringLiteral("hl found file types"), counts);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/UsageEventSink.h"
 #include <QElapsedTimer>
 #include <QHash>
 #include <QSet>
@@ -14,7 +15,8 @@
 class FileSyncTracking
 {
 public:
-    FileSyncTracking();
+    /** @param sink takes the figures at the end; empty when nobody wants them */
+    explicit FileSyncTracking(UsageEventSink sink = {});
 
     /** Starts afresh. @param filters patterns of the files that can be read, "*.pes" */
     void beginSync(const QStringList &filters);
@@ -29,10 +31,11 @@ public:
     void beginRenderFile();
     void endRenderFile(int stitchCount);
 
-    /** Submits the three events of a synchronisation. */
+    /** Hands the three events of a synchronisation to the sink. */
     void endSync(int smartFolderCount, int fileCount);
 
 private:
+    UsageEventSink m_sink;
     QHash<QString, int> m_fileCounts;
     QSet<QString> m_supportedExtensions;
     QStringList m_supportedFiles;

@@ -12,6 +12,7 @@
 #include "properties/changes/ChangeManager.h"
 #include "properties/undo/GUndoStack.h"
 #include <QFileInfo>
+#include <utility>
 
 ProjectController::ProjectController()
     : m_listener(&emptyProgressListener),
@@ -25,6 +26,11 @@ ProjectController::~ProjectController() = default;
 void ProjectController::setProgressAbortListener(IProgressAbortListener *listener)
 {
     m_listener = listener ? listener : &emptyProgressListener;
+}
+
+void ProjectController::setUsageEventSink(UsageEventSink sink)
+{
+    m_usage = std::move(sink);
 }
 
 void ProjectController::loadOrCreateProject()
@@ -99,7 +105,7 @@ void ProjectController::scanSmartFolders()
 {
     ChangeManager::instance().startBulkOperation({});
     {
-        FileSync sync(m_project, m_listener);
+        FileSync sync(m_project, m_listener, m_usage);
         sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
         m_lastScan = sync.counts();
         if (sync.numChangedFiles() > 0) {

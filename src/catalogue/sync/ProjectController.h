@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/IProgressAbortListener.h"
+#include "base/UsageEventSink.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/SyncCounts.h"
@@ -30,6 +31,9 @@ public:
 
     /** @param listener not owned, must live as long as the controller; null for none */
     void setProgressAbortListener(IProgressAbortListener *listener);
+
+    /** @param sink takes the figures of each scan; none when it is empty, as at the start */
+    void setUsageEventSink(UsageEventSink sink);
 
     /** Null before the catalogue was loaded; owned by the controller. */
     FilterSelectionModel *selectionModel() const { return m_selectionModel.get(); }
@@ -92,6 +96,7 @@ private:
 
     QSharedPointer<Project> m_project;
     IProgressAbortListener *m_listener;
+    UsageEventSink m_usage;
     QDateTime m_projectFileDate;
     QString m_projectFilePath;
     std::unique_ptr<FilterSelectionModel> m_selectionModel;

@@ -1,6 +1,6 @@
 #include "ui/panels/DirectoriesBox.h"
 
-#include "catalogue/models/DirectoryModel.h"
+#include "catalogue/folders/DirectoryModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/Project.h"
 #include "widgets/controls/DragDropHelper.h"
