@@ -9,6 +9,8 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #endif
 
 class TestFileTools : public QObject
@@ -19,7 +21,10 @@ private slots:
     void init();
     void writesAndReads();
     void failuresAreTold();
+    void fullDiskLeavesTheOldFile_data();
     void fullDiskLeavesTheOldFile();
+    void keepsLinksAndPermissions();
+    void leftoversOfTheDeadGo();
     void copiesAndRemovesTrees();
 
 private:
@@ -66,23 +71,79 @@ void TestFileTools::failuresAreTold()
     QVERIFY(!errorOf([&] { FileTools::readAll(m_dir->path()); }).isEmpty());
 }
 
+void TestFileTools::fullDiskLeavesTheOldFile_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("room");
+    // What fits into a buffer fails only when that is emptied.
+    QTest::newRow("a byte") << 1 << 0;
+    QTest::newRow("a full buffer") << 16384 << 0;
+    QTest::newRow("a buffer and a byte") << 16385 << 16384;
+    QTest::newRow("many buffers") << 1000000 << 4096;
+}
+
 void TestFileTools::fullDiskLeavesTheOldFile()
 {
 #ifdef Q_OS_UNIX
+    QFETCH(int, size);
+    QFETCH(int, room);
     // A limit on the size of files stands in for a disk without room.
     FileTools::writeAll(path("file"), "precious");
     rlimit before{};
     QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{4096, before.rlim_max};
+    const rlimit small{rlim_t(room), before.rlim_max};
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
     const QString message =
-        errorOf([this] { FileTools::writeAll(path("file"), QByteArray(1000000, 'x')); });
+        errorOf([&] { FileTools::writeAll(path("file"), QByteArray(size, 'x')); });
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
     QVERIFY2(message.startsWith("Failed to write " + path("file") + ": "), qPrintable(message));
     QCOMPARE(FileTools::readAll(path("file")), QByteArray("precious"));
-    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList("file"));
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden), QStringList("file"));
+#endif
+}
+
+void TestFileTools::keepsLinksAndPermissions()
+{
+#ifdef Q_OS_UNIX
+    constexpr auto owner = QFile::ReadOwner | QFile::WriteOwner;
+    constexpr auto shared = owner | QFile::ReadGroup | QFile::WriteGroup;
+    const auto permissions = [&](const char *name) {
+        return QFile::permissions(path(name)) & (shared | QFile::ReadOther | QFile::WriteOther);
+    };
+    FileTools::writeAll(path("file"), "old");
+    QVERIFY(QFile::setPermissions(path("file"), shared));
+    QVERIFY(QFile::link("file", path("link")));
+    FileTools::writeAll(path("link"), "new");
+    QVERIFY(QFileInfo(path("link")).isSymLink());
+    QCOMPARE(FileTools::readAll(path("file")), QByteArray("new"));
+    QCOMPARE(permissions("file"), shared);
+
+    for (const char *name : {"file", "fresh"}) {
+        FileTools::writeAll(path(name), "mine", FileTools::Binary, FileReplacement::Durable,
+                            FileReplacement::Private);
+        QCOMPARE(permissions(name), owner);
+    }
+#endif
+}
+
+void TestFileTools::leftoversOfTheDeadGo()
+{
+#ifdef Q_OS_UNIX
+    const pid_t dead = fork();
+    if (dead == 0)
+        _exit(0);
+    waitpid(dead, nullptr, 0);
+    const QString ofTheDead = QStringLiteral(".hoopline-%1-0.part").arg(dead);
+    const QString ofTheLiving = QStringLiteral(".hoopline-%1-0.part").arg(getpid());
+    const QStringList strangers{".hoopline-x-0.part", "a.part"};
+    const QStringList all = QStringList(strangers) << ofTheDead << ofTheLiving;
+    for (const QString &name : all)
+        FileTools::writeAll(path(name), "half");
+    FileReplacement::removeLeftovers(m_dir->path());
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList(ofTheLiving) + strangers);
 #endif
 }
 

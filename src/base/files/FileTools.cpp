@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 static QIODevice::OpenMode withMode(QIODevice::OpenMode flags, FileTools::OpenMode mode)
 {
@@ -26,13 +25,12 @@ QByteArray FileTools::readAll(const QString &path, OpenMode mode)
     return data;
 }
 
-void FileTools::writeAll(const QString &path, const QByteArray &data, OpenMode mode)
+void FileTools::writeAll(const QString &path, const QByteArray &data, OpenMode,
+                         FileReplacement::Durability durability, FileReplacement::Access access)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QSaveFile file(path);
-    const bool written = file.open(withMode(QIODevice::WriteOnly, mode)) &&
-                         file.write(data) == data.size() && file.commit();
-    if (!written)
+    FileReplacement file(path, access);
+    if (!file.write(data) || !file.commit(durability))
         throw Error(tr("Failed to write %1: %2").arg(path, file.errorString()));
 }
 

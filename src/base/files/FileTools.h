@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/files/FileReplacement.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
@@ -18,10 +20,12 @@ public:
 
     /**
      * Replaces the file by @p data and makes its folder if that is missing. The old
-     * file stays as it was until all bytes are written: a failure, which throws
-     * Error, leaves it whole.
+     * file stays as it was until all bytes lie safely on the disk: a failure, which
+     * throws Error, leaves it whole, and so does the end of the process.
      */
-    static void writeAll(const QString &path, const QByteArray &data, OpenMode mode = Binary);
+    static void writeAll(const QString &path, const QByteArray &data, OpenMode mode = Binary,
+                         FileReplacement::Durability durability = FileReplacement::Durable,
+                         FileReplacement::Access access = FileReplacement::AsBefore);
 
     /** Copies the bytes, through memory; neither date nor permissions. */
     static void copyFile(const QString &from, const QString &to);
