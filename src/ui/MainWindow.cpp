@@ -14,6 +14,7 @@
 #include "ui/CenterView.h"
 #include "ui/ExportDialog.h"
 #include "ui/LeftSidebar.h"
+#include "ui/NoticeBar.h"
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
 #include "widgets/controls/GMessageBox.h"
@@ -27,6 +28,7 @@
 #include <QScopeGuard>
 #include <QSplashScreen>
 #include <QSplitter>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -99,7 +101,14 @@ void MainWindow::createPanes()
 {
     m_splitter = new QSplitter(Qt::Horizontal, this);
     m_splitter->setStyleSheet(GWidgetStyles::MainWindow_SplitterStyle());
-    setCentralWidget(m_splitter);
+    m_notices = new NoticeBar(this);
+    auto *central = new QWidget(this);
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_notices);
+    layout->addWidget(m_splitter, 1);
+    setCentralWidget(central);
     FilterSelectionModel *model = m_controller->selectionModel();
     m_left = new LeftSidebar(this, m_project, model->filter());
     m_center = new CenterView(this, m_project, model);

@@ -10,6 +10,7 @@ class CenterView;
 class GToolBar;
 class IFilterModel;
 class LeftSidebar;
+class NoticeBar;
 class ProgressDialog;
 class Project;
 class ProjectController;
@@ -71,6 +72,7 @@ private:
     QMenu *m_helpMenu = nullptr;
     GToolBar *m_toolbar = nullptr;
     ProgressDialog *m_progressDialog = nullptr;
+    NoticeBar *m_notices = nullptr;
     QSplitter *m_splitter = nullptr;
     LeftSidebar *m_left = nullptr;
     CenterView *m_center = nullptr;

@@ -446,6 +446,17 @@
     </message>
 </context>
 <context>
+    <name>NoticeRow</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>关闭此消息</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>

@@ -101,6 +101,18 @@ QString WidgetStyles::ToolButton_FlatStyle()
         "QToolButton:focus { border: 2px solid palette(highlight); padding: 1px; }\n");
 }
 
+QString WidgetStyles::NoticeStyle(bool problem)
+{
+    const bool dark = WidgetHelper::isDarkMode();
+    constexpr QColor amber(0xff, 0xf1, 0xd6);
+    constexpr QColor deepAmber(0x4a, 0x3a, 0x1c);
+    const QColor background =
+        problem ? (dark ? deepAmber : amber) : (dark ? Primary900 : Primary50);
+    return QStringLiteral("#notice { background: %1; border: 0; "
+                          "border-bottom: 1px solid palette(mid); }")
+        .arg(background.name());
+}
+
 QString WidgetStyles::TagLabelAllSelected()
 {
     return createTagLabelStyle(true);

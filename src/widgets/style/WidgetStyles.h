@@ -47,6 +47,9 @@ public:
     /** Tool buttons without a frame that show hover, press and focus. */
     static QString ToolButton_FlatStyle();
 
+    /** A row of the bar across the window: amber for a problem, the product's tint otherwise. */
+    static QString NoticeStyle(bool problem);
+
     /** The style of a chip whose tag is set on all selected files. */
     static QString TagLabelAllSelected();
 

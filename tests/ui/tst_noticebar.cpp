@@ -1,0 +1,79 @@
+#include "ui/NoticeBar.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QtTest>
+
+class tst_noticebar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tellsUntilWithdrawn();
+    void sameIdTakesThePlace();
+    void actionMayWithdrawItsOwnNotice();
+};
+
+namespace {
+
+QStringList textsOf(const NoticeBar &bar)
+{
+    QStringList texts;
+    const auto labels = bar.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->isVisible() && !label->text().isEmpty())
+            texts.append(label->text());
+    }
+    return texts;
+}
+
+} // namespace
+
+void tst_noticebar::tellsUntilWithdrawn()
+{
+    QWidget window;
+    NoticeBar bar(&window);
+    window.show();
+    QVERIFY(!bar.isVisible());
+    bar.tell({"save", Notice::Problem, "a <b>disk</b>", {}});
+    bar.tell({"scan", Notice::Information, "12 new", {}});
+    QCOMPARE(textsOf(bar), (QStringList{"a <b>disk</b>", "12 new"}));
+    // Only what is no problem can be closed.
+    const auto closers = bar.findChildren<QToolButton *>();
+    QCOMPARE(closers.size(), 1);
+    QTest::mouseClick(closers.first(), Qt::LeftButton);
+    QVERIFY(!bar.isTelling("scan"));
+    QCOMPARE(textsOf(bar), QStringList("a <b>disk</b>"));
+    bar.withdraw("save");
+    bar.withdraw("never told");
+    QVERIFY(!bar.isVisible());
+}
+
+void tst_noticebar::sameIdTakesThePlace()
+{
+    NoticeBar bar;
+    int pressed = 0;
+    bar.tell({"save", Notice::Problem, "once", {{"Try again", [&] { pressed = 1; }}}});
+    bar.tell({"save", Notice::Problem, "once", {{"Try again", [&] { pressed = 2; }}}});
+    bar.tell({"save", Notice::Problem, "twice", {{"Try again", [&] { pressed = 3; }}}});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(textsOf(bar), QStringList("twice"));
+    const auto buttons = bar.findChildren<QPushButton *>();
+    QCOMPARE(buttons.size(), 1);
+    QTest::keyClick(buttons.first(), Qt::Key_Return);
+    QCOMPARE(pressed, 3);
+}
+
+void tst_noticebar::actionMayWithdrawItsOwnNotice()
+{
+    NoticeBar bar;
+    bar.tell({"save", Notice::Problem, "disk", {{"Try again", [&] { bar.withdraw("save"); }}}});
+    QTest::mouseClick(bar.findChild<QPushButton *>(), Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!bar.isTelling("save"));
+    QVERIFY(!bar.isVisible());
+}
+
+QTEST_MAIN(tst_noticebar)
+#include "tst_noticebar.moc"
