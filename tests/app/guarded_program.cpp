@@ -3,10 +3,13 @@
 #include "TestWindow.h"
 
 #include "app/application/SingleApplication.h"
+#include "support/TestClock.h"
 
 #include <cstdio>
 #include <QEventLoop>
+#include <QSocketNotifier>
 #include <QTimer>
+#include <unistd.h>
 
 namespace {
 
@@ -19,9 +22,20 @@ void say(const QByteArray &line)
 void letEventsIn()
 {
     QEventLoop loop;
-    QTimer::singleShot(300, &loop, &QEventLoop::quit);
+    QTimer::singleShot(100, &loop, &QEventLoop::quit);
     loop.exec();
 }
+
+/** Tells how long the program would have waited, and goes on. */
+class TellingClock : public TestClock
+{
+public:
+    void sleep(Milliseconds pause) override
+    {
+        TestClock::sleep(pause);
+        say("waited " + QByteArray::number(qint64(pause.count())));
+    }
+};
 
 } // namespace
 
@@ -38,7 +52,8 @@ int main(int argc, char **argv)
     });
     const bool secondary = role == "secondary";
     SingleApplication app(argc, argv, secondary,
-                          Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000);
+                          Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000,
+                          std::make_shared<TellingClock>());
     GSettings().setAutoUpdatesEnabled(false);
     GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
     if (app.isSecondary()) {
@@ -53,13 +68,19 @@ int main(int argc, char **argv)
                      [](quint32 id, const QByteArray &message) {
                          say("message " + QByteArray::number(id) + " " + message);
                      });
-    if (windowless) {
-        QTimer::singleShot(1000, &app, [] {
-            while (GMainWindow *window = theWindow())
-                delete window;
-            say("windowless");
-        });
-    }
+    QTimer untilShown;
+    QObject::connect(&untilShown, &QTimer::timeout, &app, [&untilShown] {
+        if (!theWindow() || !theWindow()->isVisible())
+            return;
+        untilShown.stop();
+        delete theWindow();
+        say("windowless");
+    });
+    if (windowless)
+        untilShown.start(10);
+    // Ends in good order when the test lets go of it or is no more.
+    const QSocketNotifier letGo(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&letGo, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
     say("primary " + QByteArray::number(app.primaryPid()) + " " + app.primaryUser().toUtf8());
     say(app.sendMessage("to myself", 100) ? "sent to myself" : "not sent to myself");
     return app.exec();

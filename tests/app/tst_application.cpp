@@ -5,12 +5,12 @@
 #include "app/frame/GFileTypeRegistry.h"
 #include "base/Error.h"
 #include "online/services/GUrlProvider.h"
+#include "support/MessageBoxes.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
 #include <QFileOpenEvent>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QSplitter>
@@ -33,31 +33,6 @@ protected:
             action();
         return QObject::event(event);
     }
-};
-
-/** Answers the next message box and keeps its texts. */
-class BoxAnswer : public QObject
-{
-public:
-    explicit BoxAnswer(QMessageBox::StandardButton button)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this, button] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                title = box->windowTitle();
-                text = box->text();
-                ++count;
-                box->button(button)->click();
-            }
-        });
-        m_timer.start(10);
-    }
-
-    QString title;
-    QString text;
-    int count = 0;
-
-private:
-    QTimer m_timer;
 };
 
 HooplineApplication *app()
@@ -189,12 +164,12 @@ void tst_application::barrier()
     QFETCH(QString, text);
     Thrower thrower;
     thrower.action = action;
-    BoxAnswer answer(QMessageBox::Ok);
+    const MessageBoxes answer;
     QEvent event(QEvent::User);
     QVERIFY(!QCoreApplication::sendEvent(&thrower, &event));
-    QCOMPARE(answer.count, text.isEmpty() ? 0 : 1);
-    QTEST(answer.title, "title");
-    QVERIFY2(answer.text.startsWith(text), qPrintable(answer.text));
+    QCOMPARE(answer.count(), text.isEmpty() ? 0 : 1);
+    QTEST(answer.title(), "title");
+    QVERIFY2(answer.text().startsWith(text), qPrintable(answer.text()));
 }
 
 void tst_application::barrierShowsErrorsOfWorkers()
@@ -203,11 +178,11 @@ void tst_application::barrierShowsErrorsOfWorkers()
     Thrower thrower;
     thrower.action = [] { throw Error(QStringLiteral("The preview is gone.")); };
     thrower.moveToThread(&worker);
-    BoxAnswer answer(QMessageBox::Ok);
+    const MessageBoxes answer;
     worker.start();
     QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
-    QTRY_COMPARE(answer.count, 1);
-    QCOMPARE(answer.text, QStringLiteral("The preview is gone."));
+    QTRY_COMPARE(answer.count(), 1);
+    QCOMPARE(answer.text(), QStringLiteral("The preview is gone."));
     worker.quit();
     QVERIFY(worker.wait());
 }
@@ -237,9 +212,9 @@ void tst_application::cancelledQuitKeepsTheProgram()
     second->modified = true;
     first->show();
     second->show();
-    BoxAnswer answer(QMessageBox::Cancel);
+    const MessageBoxes answer(QMessageBox::Cancel);
     QVERIFY(!app()->closeAllWindowsAndQuit());
-    QCOMPARE(answer.text, QStringLiteral("The document has been modified."));
+    QCOMPARE(answer.text(), QStringLiteral("The document has been modified."));
     QTRY_VERIFY(!first);
     QVERIFY(second && second->isVisible());
 }
@@ -305,10 +280,10 @@ void tst_application::closesOnceConfirmed()
     window->modified = true;
     window->menuBar()->addMenu(QStringLiteral("File"));
     window->show();
-    BoxAnswer answer(QMessageBox::Discard);
+    const MessageBoxes answer(QMessageBox::Discard);
     QVERIFY(window->closeWindow());
     QTRY_VERIFY(!window);
-    QCOMPARE(answer.count, 1);
+    QCOMPARE(answer.count(), 1);
     QVERIFY(GSettings().contains(QStringLiteral("windowSettings/geometry")));
 }
 

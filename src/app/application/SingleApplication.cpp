@@ -1,26 +1,24 @@
 #include "app/application/SingleApplicationPrivate.h"
 
 #include <cstdlib>
-#include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QThread>
 
 namespace {
 
-constexpr int InconsistencyLimit = 5001; // milliseconds
-constexpr quint64 ShortestPause = 8;     // seconds
-constexpr quint64 PauseSpread = 10;      // seconds
+constexpr std::chrono::milliseconds InconsistencyLimit(5001);
+constexpr quint64 ShortestPause = 8; // seconds
+constexpr quint64 PauseSpread = 10;  // seconds
 
-void pause()
+std::chrono::seconds randomPause()
 {
     const quint64 random = QRandomGenerator::global()->generate();
-    QThread::sleep(ShortestPause + ((random * PauseSpread) >> 32));
+    return std::chrono::seconds(ShortestPause + ((random * PauseSpread) >> 32));
 }
 
 } // namespace
 
 SingleApplication::SingleApplication(int &argc, char **argv, bool allowSecondary, Options options,
-                                     int timeout)
+                                     int timeout, const std::shared_ptr<Clock> &clock)
     : HooplineApplication(argc, argv),
       m_private(std::make_unique<SingleApplicationPrivate>(this, options))
 {
@@ -30,17 +28,16 @@ SingleApplication::SingleApplication(int &argc, char **argv, bool allowSecondary
         qCritical("%s", qPrintable(m_private->memory->errorString()));
         endWith(EXIT_FAILURE);
     }
-    joinOrEnd(allowSecondary, timeout);
+    joinOrEnd(allowSecondary, timeout, *clock);
     m_private->startLock.unlock();
 }
 
 SingleApplication::~SingleApplication() = default;
 
-void SingleApplication::joinOrEnd(bool allowSecondary, int timeout)
+void SingleApplication::joinOrEnd(bool allowSecondary, int timeout, Clock &clock)
 {
     using ConnectionType = SingleApplicationPrivate::ConnectionType;
-    QElapsedTimer timer;
-    timer.start();
+    const Clock::Milliseconds started = clock.steady();
     for (;;) {
         m_private->memory->lock();
         InstanceBlock *block = m_private->block();
@@ -63,14 +60,14 @@ void SingleApplication::joinOrEnd(bool allowSecondary, int timeout)
             m_private->memory->unlock();
             return;
         }
-        if (timer.elapsed() >= InconsistencyLimit) {
+        if (clock.steady() - started >= InconsistencyLimit) {
             qWarning("SingleApplication: Shared memory block has been in an inconsistent state "
                      "from more than 5s. Assuming primary instance failure.");
             block->initialize();
         }
         m_private->memory->unlock();
         m_private->startLock.unlock();
-        pause();
+        clock.sleep(randomPause());
         m_private->enterStart();
     }
 }

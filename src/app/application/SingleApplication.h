@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/application/HooplineApplication.h"
+#include "base/Clock.h"
 
 #include <memory>
 
@@ -26,8 +27,12 @@ public:
     };
     Q_DECLARE_FLAGS(Options, Mode)
 
-    /** @param timeout for the talk with the primary, in milliseconds */
-    SingleApplication(int &argc, char **argv, bool allowSecondary, Options options, int timeout);
+    /**
+     * @param timeout for the talk with the primary, in milliseconds
+     * @param clock by which a start that finds a half-written block waits
+     */
+    SingleApplication(int &argc, char **argv, bool allowSecondary, Options options, int timeout,
+                      const std::shared_ptr<Clock> &clock = std::make_shared<Clock>());
     ~SingleApplication() override;
 
     bool isPrimary() const;
@@ -53,7 +58,7 @@ signals:
     void receivedMessage(quint32 instanceId, QByteArray message);
 
 private:
-    void joinOrEnd(bool allowSecondary, int timeout);
+    void joinOrEnd(bool allowSecondary, int timeout, Clock &clock);
     void endWith(int status);
 
     std::unique_ptr<SingleApplicationPrivate> m_private;

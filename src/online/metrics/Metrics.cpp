@@ -9,18 +9,16 @@
 #include "online/metrics/ReplyLimits.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDesktopServices>
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QThread>
 #include <QUuid>
 
 namespace {
 
 constexpr int SyncRounds = 20;
-constexpr int SyncRoundMs = 100;
+constexpr std::chrono::milliseconds SyncRound(100);
 
 QUrl defaultEndpoint(const QString &id)
 {
@@ -33,14 +31,14 @@ QUrl defaultEndpoint(const QString &id)
 std::unique_ptr<Metrics> Metrics::mInstance;
 QUrl Metrics::mEndpoint;
 
-Metrics::Metrics(const QString &id) : m_id(id)
+Metrics::Metrics(const QString &id, const std::shared_ptr<Clock> &clock) : m_id(id), m_clock(clock)
 {
     initUser();
 }
 
-void Metrics::createInstance(const QString &id)
+void Metrics::createInstance(const QString &id, const std::shared_ptr<Clock> &clock)
 {
-    mInstance.reset(new Metrics(id));
+    mInstance.reset(new Metrics(id, clock));
 }
 
 void Metrics::deleteInstance()
@@ -137,9 +135,9 @@ QNetworkRequest Metrics::request() const
 
 QByteArray Metrics::body() const
 {
-    QJsonObject body{{QStringLiteral("c"), m_id},
-                     {QStringLiteral("u"), m_uuid},
-                     {QStringLiteral("ts"), QDateTime::currentMSecsSinceEpoch() / 1000}};
+    const qint64 time = qint64(m_clock->sinceEpoch().count()) / 1000;
+    QJsonObject body{
+        {QStringLiteral("c"), m_id}, {QStringLiteral("u"), m_uuid}, {QStringLiteral("ts"), time}};
     if (!m_event.isEmpty())
         body.insert(QStringLiteral("e"), m_event);
     if (!m_properties.isEmpty())
@@ -182,7 +180,7 @@ void Metrics::sslErrors(QNetworkReply *reply, const QList<QSslError> &)
 void Metrics::forceSync()
 {
     for (int round = 0; round < SyncRounds && !m_replies.isEmpty(); ++round) {
-        QThread::msleep(SyncRoundMs);
+        m_clock->sleep(SyncRound);
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Clock.h"
+
 #include <memory>
 #include <QByteArray>
 #include <QHash>
@@ -27,8 +29,12 @@ class Metrics : public QObject
     Q_OBJECT
 
 public:
-    /** @param id the product identifier, which also names the endpoint's host */
-    static void createInstance(const QString &id);
+    /**
+     * @param id the product identifier, which also names the endpoint's host
+     * @param clock dates the events, and passes the time while quitting
+     */
+    static void createInstance(const QString &id,
+                               const std::shared_ptr<Clock> &clock = std::make_shared<Clock>());
     static void deleteInstance();
     /** Null before createInstance() and after deleteInstance(). */
     static Metrics *instance();
@@ -70,7 +76,7 @@ private slots:
     void sslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
 
 private:
-    explicit Metrics(const QString &id);
+    Metrics(const QString &id, const std::shared_ptr<Clock> &clock);
     void initUser();
     void submit();
     void clear();
@@ -81,7 +87,8 @@ private:
     static std::unique_ptr<Metrics> mInstance;
     static QUrl mEndpoint;
 
-    QString m_id;
+    const QString m_id;
+    const std::shared_ptr<Clock> m_clock;
     QString m_uuid;
     QString m_event;
     QJsonObject m_properties;
