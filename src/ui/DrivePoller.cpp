@@ -2,6 +2,7 @@
 
 #include <mutex>
 #include <thread>
+#include <utility>
 
 /** Where the thread finds the poller, as long as there is one. */
 struct DrivePoller::Mailbox
@@ -10,7 +11,8 @@ struct DrivePoller::Mailbox
     DrivePoller *poller = nullptr;
 };
 
-DrivePoller::DrivePoller(QObject *parent) : QObject(parent), m_mailbox(std::make_shared<Mailbox>())
+DrivePoller::DrivePoller(VolumeSource source, QObject *parent)
+    : QObject(parent), m_source(std::move(source)), m_mailbox(std::make_shared<Mailbox>())
 {
     m_mailbox->poller = this;
 }
@@ -26,8 +28,8 @@ void DrivePoller::poll()
     if (m_polling)
         return;
     m_polling = true;
-    std::thread([mailbox = m_mailbox] {
-        const QList<QStorageInfo> volumes = QStorageInfo::mountedVolumes();
+    std::thread([mailbox = m_mailbox, source = m_source] {
+        const QList<QStorageInfo> volumes = source();
         const std::lock_guard<std::mutex> lock(mailbox->mutex);
         if (DrivePoller *poller = mailbox->poller)
             QMetaObject::invokeMethod(

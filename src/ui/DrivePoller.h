@@ -1,9 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <QList>
 #include <QObject>
 #include <QStorageInfo>
+
+/** Lists the mounted volumes; called on a thread of its own, and allowed to take its time. */
+using VolumeSource = std::function<QList<QStorageInfo>()>;
 
 /**
  * Lists the mounted volumes on a thread of its own, since a dead network mount
@@ -16,7 +20,7 @@ class DrivePoller : public QObject
     Q_OBJECT
 
 public:
-    explicit DrivePoller(QObject *parent = nullptr);
+    explicit DrivePoller(VolumeSource source, QObject *parent = nullptr);
     ~DrivePoller() override;
 
     /** Asks, unless an answer is still awaited. */
@@ -31,6 +35,7 @@ private:
 
     void takeAnswer(const QList<QStorageInfo> &volumes);
 
+    const VolumeSource m_source;
     std::shared_ptr<Mailbox> m_mailbox;
     bool m_polling = false;
 };

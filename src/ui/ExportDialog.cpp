@@ -2,7 +2,6 @@
 
 #include "catalogue/records/IFile.h"
 #include "ui/DriveInfo.h"
-#include "ui/DrivePoller.h"
 #include "ui/DriveTransfer.h"
 #include "ui/ProgressDialog.h"
 #include "ui_ExportDialogUI.h"
@@ -16,9 +15,10 @@ constexpr int PollInterval = 500; // milliseconds
 
 } // namespace
 
-ExportDialog::ExportDialog(QWidget *parent, const QList<QSharedPointer<IFile>> &files)
+ExportDialog::ExportDialog(QWidget *parent, const QList<QSharedPointer<IFile>> &files,
+                           VolumeSource volumes)
     : QDialog(parent, Qt::Sheet), m_ui(std::make_unique<Ui::ExportDialogUI>()),
-      m_poller(new DrivePoller(this)), m_files(files)
+      m_poller(new DrivePoller(std::move(volumes), this)), m_files(files)
 {
     m_ui->setupUi(this);
     m_ui->label->setText(tr("%n file(s) will be copied.", nullptr, files.size()));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/DrivePoller.h"
+
 #include <memory>
 #include <QDialog>
 #include <QList>
@@ -7,7 +9,6 @@
 #include <QStorageInfo>
 #include <QTimer>
 
-class DrivePoller;
 class IFile;
 
 namespace Ui {
@@ -20,7 +21,8 @@ class ExportDialog : public QDialog
     Q_OBJECT
 
 public:
-    ExportDialog(QWidget *parent, const QList<QSharedPointer<IFile>> &files);
+    ExportDialog(QWidget *parent, const QList<QSharedPointer<IFile>> &files,
+                 VolumeSource volumes = &QStorageInfo::mountedVolumes);
     ~ExportDialog() override;
 
     static bool mightBeUsbDrive(const QStorageInfo &volume);

@@ -200,7 +200,10 @@ void tst_accessibility::servesKeyboardAndScreenReader_data()
         dialog->setSteps(3);
         return dialog;
     });
-    row("transfer", [] { return new ExportDialog(nullptr, projectOfSize(2)->files()); });
+    row("transfer", [] {
+        const auto noVolumes = [] { return QList<QStorageInfo>(); };
+        return new ExportDialog(nullptr, projectOfSize(2)->files(), noVolumes);
+    });
     row("preferences", [] { return new PreferencesDialog(nullptr); });
     row("feedback", [] { return new FeedbackDialog(nullptr); });
     row("crash report", [] {

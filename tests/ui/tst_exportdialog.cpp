@@ -1,6 +1,7 @@
 #include "DriveFixture.h"
 #include "PanelFixture.h"
 
+#include "support/MessageBoxes.h"
 #include "ui/DriveInfo.h"
 #include "ui/DrivePoller.h"
 #include "ui/ExportDialog.h"
@@ -8,12 +9,44 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(bool DriveInfo::*)
+
+namespace {
+
+QList<QStorageInfo> noVolumes()
+{
+    return {};
+}
+
+/** The drive alone, whatever else is mounted here. */
+VolumeSource only(const DriveFixture &drive)
+{
+    return [path = drive.path()] { return QList<QStorageInfo>{QStorageInfo(path)}; };
+}
+
+/** Volumes that are told when the test allows it, as those behind a network mount that is dead. */
+struct SlowVolumes
+{
+    VolumeSource source() const
+    {
+        return [asked = asked, allowed = allowed] {
+            asked->release();
+            allowed->acquire();
+            return noVolumes();
+        };
+    }
+    ~SlowVolumes() { allowed->release(100); }
+
+    const std::shared_ptr<QSemaphore> asked = std::make_shared<QSemaphore>();
+    const std::shared_ptr<QSemaphore> allowed = std::make_shared<QSemaphore>();
+};
+
+} // namespace
 
 class tst_exportdialog : public QObject
 {
@@ -70,10 +103,7 @@ QByteArray tst_exportdialog::contentOf(const QString &path)
 QString tst_exportdialog::transfer(const QStringList &sources, const QString &target)
 {
     const auto project = projectWithFiles(sources);
-    ExportDialog dialog(nullptr, project->files());
-    // The drives of this machine are listed first, and then not again.
-    QSignalSpy listed(dialog.findChild<DrivePoller *>(), &DrivePoller::volumesListed);
-    listed.wait();
+    ExportDialog dialog(nullptr, project->files(), noVolumes);
     auto *drives = dialog.findChild<QComboBox *>(QStringLiteral("disksComboBox"));
     drives->clear();
     drives->addItem(QStringLiteral("stick"), target);
@@ -84,19 +114,13 @@ QString tst_exportdialog::transfer(const QStringList &sources, const QString &ta
 /** The texts of the message that the dialog ended with, if any. */
 QString tst_exportdialog::pressCopy(ExportDialog *dialog)
 {
+    const MessageBoxes boxes;
     auto *copy = dialog->findChild<QPushButton *>(QStringLiteral("copyButton"));
-    QString message;
-    QTimer answer;
-    connect(&answer, &QTimer::timeout, &answer, [&] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            message = box->text() + QLatin1Char('|') + box->informativeText();
-            box->button(QMessageBox::Ok)->click();
-        }
-    });
-    answer.start(10);
     QTimer::singleShot(0, copy, &QPushButton::click);
-    const int result = dialog->exec();
-    return result == QDialog::Accepted ? message : QStringLiteral("not accepted");
+    if (dialog->exec() != QDialog::Accepted)
+        return QStringLiteral("not accepted");
+    return boxes.count() == 0 ? QString()
+                              : boxes.text() + QLatin1Char('|') + boxes.informativeText();
 }
 
 void tst_exportdialog::choosesDrives_data()
@@ -154,22 +178,27 @@ void tst_exportdialog::showsDrives()
 
 void tst_exportdialog::pollsInTheBackground()
 {
-    DrivePoller poller;
+    const SlowVolumes volumes;
+    DrivePoller poller(volumes.source());
     QSignalSpy listed(&poller, &DrivePoller::volumesListed);
     poller.poll();
     poller.poll();
     QCOMPARE(listed.count(), 0);
+    volumes.allowed->release();
     QVERIFY(listed.wait());
-    QTest::qWait(20);
     QCOMPARE(listed.count(), 1);
+    QCOMPARE(volumes.asked->available(), 1);
+    // Nobody waits for those who get no answer any more.
     for (int i = 0; i < 50; ++i)
-        DrivePoller().poll();
+        DrivePoller(volumes.source()).poll();
+    QVERIFY(volumes.asked->tryAcquire(51, 10'000));
 }
 
 void tst_exportdialog::refusesToCopyWithoutDrive()
 {
     const auto project = projectWithFiles({createDesign(QStringLiteral("rose.dst"), "rose")});
-    ExportDialog dialog(nullptr, project->files());
+    const SlowVolumes dead;
+    ExportDialog dialog(nullptr, project->files(), dead.source());
     const auto *drives = dialog.findChild<QComboBox *>();
     QCOMPARE(drives->currentText(), QStringLiteral("No removable USB drive found"));
     QVERIFY(!drives->isEnabled());
@@ -184,11 +213,11 @@ void tst_exportdialog::refusesToCopyWithoutDrive()
 void tst_exportdialog::listsAMountedStick()
 {
     const auto project = projectOfSize(1);
-    ExportDialog dialog(nullptr, project->files());
-    auto *drives = dialog.findChild<QComboBox *>();
     DriveFixture stick;
     if (!stick.isFat())
         QSKIP("No FAT image can be mounted here.");
+    ExportDialog dialog(nullptr, project->files(), only(stick));
+    auto *drives = dialog.findChild<QComboBox *>();
     QTRY_VERIFY(drives->findData(stick.path()) >= 0);
     QCOMPARE(drives->itemText(drives->findData(stick.path())),
              QStringLiteral("%1 (1 MB)").arg(stick.path()));
@@ -274,7 +303,7 @@ void tst_exportdialog::noticesADrivePulledSinceItWasListed()
     if (!stick.isFat())
         QSKIP("No FAT image can be mounted here.");
     const auto project = projectWithFiles({createDesign(QStringLiteral("rose.dst"), "rose")});
-    ExportDialog dialog(nullptr, project->files());
+    ExportDialog dialog(nullptr, project->files(), only(stick));
     auto *drives = dialog.findChild<QComboBox *>();
     QTRY_VERIFY(drives->findData(stick.path()) >= 0);
     drives->setCurrentIndex(drives->findData(stick.path()));
