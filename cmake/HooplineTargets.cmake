@@ -9,36 +9,31 @@ function(hoopline_library name)
     target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE hoopline_options)
 endfunction()
 
-# hoopline_test(tst_name DEPENDS ... [SOURCES ...] [TIMEOUT seconds])
-# One QtTest executable made of tst_name.cpp. It runs without a display and in
-# a home folder of its own inside the build folder, so that it neither sees nor
-# leaves anything in the home of whoever runs it.
-function(hoopline_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;DEPENDS" ${ARGN})
+# hoopline_hermetic_test(name COMMAND ... [TIMEOUT seconds])
+# A test that runs without a display in a folder of its own, which is its home and
+# takes its temporary files: it neither sees nor leaves anything elsewhere.
+function(hoopline_hermetic_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
+    add_test(NAME ${name} COMMAND hermetic ${ARG_COMMAND})
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+endfunction()
+
+# hoopline_test(tst_name DEPENDS ... [SOURCES ...] [TIMEOUT seconds])
+# One QtTest executable made of tst_name.cpp.
+function(hoopline_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_compile_definitions(${name} PRIVATE
         TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data"
         SAMPLES_DIR="${PROJECT_SOURCE_DIR}/samples")
-    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} Qt5::Test hoopline_options)
-    set(home "${PROJECT_BINARY_DIR}/test-home/${name}")
-    file(MAKE_DIRECTORY "${home}/runtime")
-    file(CHMOD "${home}/runtime" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
-    add_test(NAME ${name} COMMAND ${name})
-    set(environment
-        QT_QPA_PLATFORM=offscreen
-        LC_ALL=C.UTF-8
-        HOME=${home}
-        XDG_CONFIG_HOME=${home}/config
-        XDG_DATA_HOME=${home}/data
-        XDG_CACHE_HOME=${home}/cache
-        XDG_RUNTIME_DIR=${home}/runtime
-        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
-    set_tests_properties(${name} PROPERTIES
-        TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
+    target_link_libraries(${name} PRIVATE
+        ${ARG_DEPENDS} Qt5::Test hermetic_start hoopline_options)
+    hoopline_hermetic_test(${name} TIMEOUT ${ARG_TIMEOUT} COMMAND $<TARGET_FILE:${name}>)
 endfunction()
 
 # hoopline_benchmark(bench_name DEPENDS ... [SOURCES ...])

@@ -1,8 +1,8 @@
 #include "online/BreakpadCrashHandler.h"
 #include "online/FeedbackDialog.h"
 #include "online/MakersServer.h"
-#include "online/ModalBoxes.h"
 #include "online/services/SystemInquiry.h"
+#include "support/MessageBoxes.h"
 
 #include <memory>
 #include <QApplication>
@@ -213,10 +213,10 @@ void tst_Feedback::questionNeedsAnAddress()
 {
     Driven dialog(1);
     dialog.fill();
-    ModalBoxes boxes;
+    const MessageBoxes boxes;
     dialog.accept();
-    QTRY_COMPARE(boxes.texts.size(), 1);
-    QVERIFY(boxes.texts.first().endsWith(
+    QTRY_COMPARE(boxes.count(), 1);
+    QVERIFY(boxes.allTexts().endsWith(
         QStringLiteral("Please consider adding your mail address so I can answer your request.")));
     QCOMPARE(m_maker->server().connections(), 0);
     QVERIFY(dialog.isVisible());
@@ -254,15 +254,15 @@ void tst_Feedback::answers()
     m_maker->answer(response, tls);
     Driven dialog;
     dialog.fill();
-    ModalBoxes boxes;
+    const MessageBoxes boxes;
     dialog.accept();
     QVERIFY(dialog.isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(closes ? !dialog.isVisible() : !boxes.texts.isEmpty(), 30'000);
+    QTRY_VERIFY_WITH_TIMEOUT(closes ? !dialog.isVisible() : boxes.count() > 0, 30'000);
     QCOMPARE(dialog.isVisible(), !closes);
     if (!closes) {
-        QCOMPARE(boxes.texts.size(), 1);
-        QVERIFY(boxes.texts.first().contains(QStringLiteral("Sending message failed|")));
-        QVERIFY(boxes.texts.first().endsWith(told));
+        QCOMPARE(boxes.count(), 1);
+        QVERIFY(boxes.allTexts().contains(QStringLiteral("Sending message failed|")));
+        QVERIFY(boxes.allTexts().endsWith(told));
     }
     // Nothing typed is lost.
     QCOMPARE(dialog.page()->findChild<QTextEdit *>()->toPlainText(), QStringLiteral("text1 <&"));
@@ -291,7 +291,7 @@ void tst_Feedback::cancelledUpload()
     m_maker->answer(silent);
     Driven dialog;
     dialog.fill();
-    ModalBoxes boxes;
+    const MessageBoxes boxes;
     dialog.accept();
     QTRY_COMPARE(m_maker->server().requests().size(), 1);
     const auto *progress = dialog.findChild<QProgressDialog *>();
@@ -300,7 +300,7 @@ void tst_Feedback::cancelledUpload()
     QVERIFY(progress->isModal());
     QTest::mouseClick(progress->findChild<QPushButton *>(), Qt::LeftButton);
     QTRY_VERIFY(!dialog.findChild<QProgressDialog *>());
-    QVERIFY(boxes.texts.isEmpty());
+    QCOMPARE(boxes.count(), 0);
     QVERIFY(dialog.isVisible());
     m_maker->answer(HttpServer::text("OK"));
     dialog.accept();
@@ -317,8 +317,11 @@ void tst_Feedback::crashedLastTime()
     QFile file(BreakpadCrashHandler::crashLogPath() + "/Hoopline Organizer-1.crash");
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("Signal: SIGSEGV");
+    file.flush();
+    const QDateTime now = QDateTime::currentDateTime();
+    QVERIFY(file.setFileTime(now.addSecs(-30), QFileDevice::FileModificationTime));
     file.close();
-    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime().addSecs(-60));
+    GSettings().setCrashLoggerLastCheck(now.addSecs(-60));
     QString shown;
     QTimer::singleShot(0, this, [&shown] {
         auto *dialog = qobject_cast<FeedbackDialog *>(QApplication::activeModalWidget());

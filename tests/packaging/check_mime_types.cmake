@@ -1,5 +1,5 @@
 # Builds a MIME database of our own types alone and looks for all eight in it.
-file(REMOVE_RECURSE "${FOLDER}")
+set(FOLDER "$ENV{TMPDIR}/mime")
 file(COPY "${SOURCE}" DESTINATION "${FOLDER}/packages")
 execute_process(COMMAND "${PROGRAM}" "${FOLDER}" RESULT_VARIABLE result ERROR_VARIABLE errors)
 if(NOT result EQUAL 0)

@@ -1,6 +1,6 @@
 # Collects the texts of the program into a copy of the translation sources and
 # fails when one is not translated, or when a source holds texts that are gone.
-file(REMOVE_RECURSE "${WORK}")
+set(WORK "$ENV{TMPDIR}/translations")
 file(COPY "${SOURCE}/src/resources/translations/" DESTINATION "${WORK}")
 set(ENV{LUPDATE} "${LUPDATE}")
 execute_process(COMMAND bash "${SOURCE}/tools/update-translations.sh" "${WORK}"

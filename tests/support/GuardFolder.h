@@ -3,23 +3,20 @@
 #include "base/BuildConfig.h"
 #include "base/InstanceName.h"
 
-#include <QFileInfo>
+#include <QDir>
 #include <QSharedMemory>
 #include <QSystemSemaphore>
 #include <QTemporaryDir>
 
 /**
  * The folder for temporary files of processes behind the single-instance guard, and of the test
- * itself, while it lives. The keys of their shared memory are made of the last 16 bits of the
- * inodes of files in it. A file system on disk gives the same few numbers out again and again, so
- * that programs in different folders would take each other for their primary; one in memory
- * counts on.
+ * itself, while it lives: short, since a socket lies in it.
  */
 class GuardFolder : public QTemporaryDir
 {
 public:
     GuardFolder()
-        : QTemporaryDir(base() + QStringLiteral("/hl-XXXXXX")), m_before(qgetenv("TMPDIR"))
+        : QTemporaryDir(QDir::tempPath() + QStringLiteral("/XXXXXX")), m_before(qgetenv("TMPDIR"))
     {
         qputenv("TMPDIR", path().toLocal8Bit());
     }
@@ -43,11 +40,5 @@ public:
     }
 
 private:
-    static QString base()
-    {
-        const QString memory = QStringLiteral("/dev/shm");
-        return QFileInfo(memory).isWritable() ? memory : QStringLiteral("/tmp");
-    }
-
     QByteArray m_before;
 };

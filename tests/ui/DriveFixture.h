@@ -12,6 +12,8 @@ class DriveFixture
 {
 public:
     DriveFixture()
+        : m_directory(qEnvironmentVariable("HOOPLINE_TEST_MOUNTS", QDir::tempPath()) +
+                      QStringLiteral("/drive-XXXXXX"))
     {
         m_path = m_directory.filePath(QStringLiteral("drive"));
         QDir().mkpath(m_path);

@@ -4,6 +4,7 @@
 #include "base/GlobalSettings.h"
 #include "preview/grid/PreviewBrowser.h"
 #include "support/DstDesign.h"
+#include "support/MessageBoxes.h"
 #include "ui/EmptyHint.h"
 #include "ui/MainWindow.h"
 #include "ui/panels/DirectoriesBox.h"
@@ -19,7 +20,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -27,27 +27,6 @@
 #include <QtTest>
 
 namespace {
-
-/** Presses a button of the next message box. */
-class BoxAnswer : public QObject
-{
-public:
-    explicit BoxAnswer(QMessageBox::StandardButton button)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this, button] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                text = box->text();
-                box->button(button)->click();
-            }
-        });
-        m_timer.start(10);
-    }
-
-    QString text;
-
-private:
-    QTimer m_timer;
-};
 
 QStringList texts(const QList<QAction *> &actions)
 {
@@ -202,12 +181,12 @@ void tst_mainwindow::removesFolders()
     open();
     m_window->filesDropped({roses});
     {
-        BoxAnswer no(QMessageBox::No);
+        const MessageBoxes no(QMessageBox::No);
         action(QStringLiteral("&Remove folder"))->trigger();
-        QCOMPARE(no.text, QStringLiteral("Remove selected folder from list?"));
+        QCOMPARE(no.text(), QStringLiteral("Remove selected folder from list?"));
     }
     QVERIFY(catalogue().contains(roses));
-    BoxAnswer yes(QMessageBox::Yes);
+    const MessageBoxes yes(QMessageBox::Yes);
     action(QStringLiteral("&Remove folder"))->trigger();
     QVERIFY(!catalogue().contains(roses));
     QVERIFY(!action(QStringLiteral("&Remove folder"))->isEnabled());
@@ -347,9 +326,9 @@ void tst_mainwindow::selectsWhatTheFilterShows()
 void tst_mainwindow::transferAsksForASelection()
 {
     open();
-    BoxAnswer answer(QMessageBox::Ok);
+    const MessageBoxes answer;
     action(QStringLiteral("Transfer to machine"))->trigger();
-    QCOMPARE(answer.text, QStringLiteral("No embroidery files selected!"));
+    QCOMPARE(answer.text(), QStringLiteral("No embroidery files selected!"));
 }
 
 void tst_mainwindow::closesByKeyAndComesBack()
@@ -370,9 +349,9 @@ void tst_mainwindow::staysUsableAfterAFailedScan()
     // The catalogue cannot be written where a folder has its name.
     const QString file = m_directory->filePath(QStringLiteral("data/hoopline-organizer.xml"));
     QVERIFY(QFile::remove(file) && QDir().mkpath(file + QStringLiteral("/x")));
-    BoxAnswer answer(QMessageBox::Ok);
+    const MessageBoxes answer;
     QTimer::singleShot(0, m_window, [&] { m_window->filesDropped({roses}); });
-    QTRY_VERIFY(!answer.text.isEmpty());
+    QTRY_VERIFY(!answer.text().isEmpty());
     auto *progress = m_window->findChild<ProgressDialog *>();
     QTRY_COMPARE(QApplication::activeModalWidget(), progress);
     QTest::keyClick(progress, Qt::Key_Escape);

@@ -3,6 +3,7 @@
 #include "base/GlobalSettings.h"
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/records/Thread.h"
+#include "support/MessageBoxes.h"
 #include "ui/panels/ColorsBox.h"
 #include "ui/panels/DirectoriesBox.h"
 #include "ui/panels/ElidedLabel.h"
@@ -18,40 +19,12 @@
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
-
-namespace {
-
-/** Answers the next modal message box and tells what it said. */
-class Answer
-{
-public:
-    explicit Answer(QMessageBox::StandardButton button)
-    {
-        QTimer::singleShot(0, &m_context, [this, button] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            text = box->text();
-            informativeText = box->informativeText();
-            box->button(button)->click();
-        });
-    }
-
-    QString text;
-    QString informativeText;
-
-private:
-    QObject m_context;
-};
-
-} // namespace
 
 class tst_sidepanels : public QObject
 {
@@ -215,12 +188,11 @@ void tst_sidepanels::refusedTagNames()
     m_project->setAllTags({QStringLiteral("rose")});
     TagsBox box(nullptr, m_project, m_filter.get());
     auto *list = box.findChild<TagListWidget *>();
-    Answer empty(QMessageBox::Ok);
+    const MessageBoxes boxes;
     box.onTagAdded(QString());
-    QCOMPARE(empty.informativeText, QStringLiteral("Empty tag name not allowed!"));
-    Answer exists(QMessageBox::Ok);
+    QCOMPARE(boxes.informativeText(), QStringLiteral("Empty tag name not allowed!"));
     box.onTagRenamed(QStringLiteral("rose"), QStringLiteral("rose"));
-    QCOMPARE(exists.informativeText, QStringLiteral("Tag with this name already exists!"));
+    QCOMPARE(boxes.informativeText(), QStringLiteral("Tag with this name already exists!"));
     QCOMPARE(list->model()->rowCount(), 2);
     box.onTagRenamed(QStringLiteral("rose"), QStringLiteral("Rose"));
     QCOMPARE(m_project->allTags(), QStringList{QStringLiteral("Rose")});
@@ -254,11 +226,11 @@ void tst_sidepanels::removeTagAsks()
     TagsBox box(nullptr, m_project, m_filter.get());
     auto *list = box.findChild<TagListWidget *>();
     list->selectTag(QStringLiteral("rose"));
-    Answer no(QMessageBox::No);
+    MessageBoxes boxes(QMessageBox::No);
     box.removeTag();
-    QCOMPARE(no.text, QStringLiteral("This tag is attached to 3 files"));
+    QCOMPARE(boxes.text(), QStringLiteral("This tag is attached to 3 files"));
     QCOMPARE(m_project->allTags().count(), 2);
-    Answer yes(QMessageBox::Yes);
+    boxes.press(QMessageBox::Yes);
     m_project->undoStack()->clear();
     QSignalSpy filtered(m_filter.get(), &FilterModel::filterChanged);
     box.removeTag();
@@ -269,10 +241,9 @@ void tst_sidepanels::removeTagAsks()
     QCOMPARE(m_project->undoStack()->undoText(), QStringLiteral("remove tag"));
 
     list->selectTag(QStringLiteral("lily"));
-    Answer unasked(QMessageBox::No);
     box.removeTag();
     QVERIFY(m_project->allTags().isEmpty());
-    QVERIFY(unasked.text.isEmpty());
+    QCOMPARE(boxes.count(), 2);
 }
 
 void tst_sidepanels::unusedTags_data()
@@ -293,11 +264,11 @@ void tst_sidepanels::unusedTags()
     file(0)->setTags({QStringLiteral("used")});
     m_project->setAllTags(tags + QStringList(QStringLiteral("used")));
     TagsBox box(nullptr, m_project, m_filter.get());
-    Answer yes(QMessageBox::Yes);
+    const MessageBoxes yes(QMessageBox::Yes);
     box.removeUnusedTags();
-    QCOMPARE(yes.text, QStringLiteral("Delete %1 unused tags?").arg(count));
-    QCOMPARE(yes.informativeText.split(QLatin1Char('\n')).count(), lines);
-    QCOMPARE(yes.informativeText.endsWith(QLatin1String("\n...")), count > 10);
+    QCOMPARE(yes.text(), QStringLiteral("Delete %1 unused tags?").arg(count));
+    QCOMPARE(yes.informativeText().split(QLatin1Char('\n')).count(), lines);
+    QCOMPARE(yes.informativeText().endsWith(QLatin1String("\n...")), count > 10);
     QCOMPARE(m_project->allTags(), QStringList{QStringLiteral("used")});
 }
 
