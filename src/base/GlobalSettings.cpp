@@ -28,7 +28,7 @@ void GlobalSettings::setApplicationDataPath(const QString &path)
 
 QString GlobalSettings::previewImagePath(const QByteArray &hash)
 {
-    const QString directory = applicationDataPath() + QStringLiteral("/previews/");
+    QString directory = applicationDataPath() + QStringLiteral("/previews/");
     if (hash.isNull())
         return directory;
     return directory + QString::fromLatin1(hash.toHex()) + QStringLiteral(".png");

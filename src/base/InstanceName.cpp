@@ -21,7 +21,7 @@ QString InstanceName::currentUser()
 {
 #ifdef Q_OS_UNIX
     const passwd *entry = getpwuid(geteuid());
-    const QString name = entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
+    QString name = entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
     if (!name.isEmpty())
         return name;
 #endif

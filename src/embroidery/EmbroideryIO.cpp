@@ -61,7 +61,7 @@ QSharedPointer<IReader> EmbroideryIO::getReaderByFilename(const QString &filenam
     return QSharedPointer<IReader>();
 }
 
-void EmbroideryIO::setSettings(QSharedPointer<IBaseIO> target,
+void EmbroideryIO::setSettings(const QSharedPointer<IBaseIO> &target,
                                const QHash<QString, QVariant> &settings)
 {
     for (auto it = settings.cbegin(); it != settings.cend(); ++it)

@@ -37,7 +37,7 @@ public:
     /** A new reader for the name's extension; null if there is none. */
     static QSharedPointer<IReader> getReaderByFilename(const QString &filename);
 
-    static void setSettings(QSharedPointer<IBaseIO> target,
+    static void setSettings(const QSharedPointer<IBaseIO> &target,
                             const QHash<QString, QVariant> &settings);
 
     /** Reads a design from `device`, which is open and stays the caller's. */

@@ -4,12 +4,12 @@ namespace Embroidery {
 
 float PointsDirect::getX(int i) const
 {
-    return m_pointList.constData()[2 * i];
+    return m_pointList.at(2 * i);
 }
 
 float PointsDirect::getY(int i) const
 {
-    return m_pointList.constData()[2 * i + 1];
+    return m_pointList.at(2 * i + 1);
 }
 
 void PointsDirect::setLocation(int i, float x, float y)

@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t MaxPath = 4096;
 constexpr std::size_t MaxHead = 4096;
 constexpr int MaxFrames = 128;
-constexpr std::size_t AlternateStackSize = 256 * 1024;
+constexpr std::size_t AlternateStackSize = std::size_t(256) * 1024;
 
 struct SignalName
 {

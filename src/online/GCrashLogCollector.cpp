@@ -10,7 +10,7 @@
 namespace {
 
 // Our own logs have a few kilobytes; a larger file is not worth sending.
-constexpr qint64 MaxLogSize = 1024 * 1024;
+constexpr qint64 MaxLogSize = qint64(1024) * 1024;
 
 // A frame of the backtrace begins with the path of the program or a library,
 // which tells where the user installed it, and often the user's name; the
@@ -53,7 +53,7 @@ QStringList GCrashLogCollector::logsSinceLastCheck() const
 {
     const QDateTime now = QDateTime::currentDateTime();
     GSettings settings;
-    const QStringList logs = logsSince(settings.crashLoggerLastCheck());
+    QStringList logs = logsSince(settings.crashLoggerLastCheck());
     settings.setCrashLoggerLastCheck(now);
     return logs;
 }

@@ -70,7 +70,7 @@ public:
     GMainWindow *newFile(const QString &fileName);
 
 public slots:
-    void openFile(QString fileName);
+    void openFile(const QString &fileName);
 
     /** Closes the windows in order; false when the user kept one, and nothing is quit then. */
     bool closeAllWindowsAndQuit();

@@ -32,7 +32,7 @@ void GApplication::openDocument()
         openFile(name);
 }
 
-void GApplication::openFile(QString fileName)
+void GApplication::openFile(const QString &fileName)
 {
     if (m_startingUp) {
         m_filesToOpen.append(fileName);

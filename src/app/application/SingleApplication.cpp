@@ -105,8 +105,8 @@ QString SingleApplication::primaryUser() const
 {
     m_private->memory->lock();
     const InstanceBlock *block = m_private->block();
-    const QString user = QString::fromUtf8(
-        block->primaryUser, int(qstrnlen(block->primaryUser, sizeof(block->primaryUser))));
+    QString user = QString::fromUtf8(block->primaryUser,
+                                     int(qstrnlen(block->primaryUser, sizeof(block->primaryUser))));
     m_private->memory->unlock();
     return user;
 }

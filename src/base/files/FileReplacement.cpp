@@ -19,7 +19,7 @@ constexpr mode_t NewFileMode = 0666;
 constexpr mode_t PrivateMode = 0600;
 constexpr mode_t AllPermissions = 07777;
 // A process identifier comes round again; no write takes this long.
-constexpr qint64 LeftoverAgeSeconds = 24 * 60 * 60;
+constexpr qint64 LeftoverAgeSeconds = qint64(24) * 60 * 60;
 
 /** Short, since the target's own name may be as long as the file system takes. */
 QString temporaryName()

@@ -19,7 +19,7 @@ QByteArray FileTools::readAll(const QString &path, OpenMode mode)
     QFile file(path);
     if (!file.open(withMode(QIODevice::ReadOnly, mode)))
         throw Error(tr("Failed to load %1: %2").arg(path, file.errorString()));
-    const QByteArray data = file.readAll();
+    QByteArray data = file.readAll();
     if (file.error() != QFile::NoError)
         throw Error(tr("Failed to read %1: %2").arg(path, file.errorString()));
     return data;

@@ -15,7 +15,7 @@ namespace ReplyLimits {
 constexpr int TransferTimeout = 30'000;
 
 /** Bytes of an answer that are read; a longer answer is given up. */
-constexpr qint64 MaxReplySize = 4 * 1024 * 1024;
+constexpr qint64 MaxReplySize = qint64(4) * 1024 * 1024;
 
 /**
  * Prepares @p request: gives it the timeout, and asks for an answer that is not

@@ -99,7 +99,7 @@ QUrl GUrlProvider::documentationUrl() const
     return url(QStringLiteral("documentation"), parameters);
 }
 
-QUrl GUrlProvider::tutorialsUrl(bool gettingStarted, QString exporter) const
+QUrl GUrlProvider::tutorialsUrl(bool gettingStarted, const QString &exporter) const
 {
     QMap<QString, QString> parameters;
     addExporter(parameters, exporter);

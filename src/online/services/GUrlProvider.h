@@ -28,7 +28,7 @@ public:
     virtual QUrl supportUrl() const;
     virtual QUrl documentationUrl() const;
     /** @param exporter empty for the current window's own data format */
-    virtual QUrl tutorialsUrl(bool gettingStarted, QString exporter) const;
+    virtual QUrl tutorialsUrl(bool gettingStarted, const QString &exporter) const;
     virtual QUrl shareUrl(const QString &service) const;
     /** A local file. */
     virtual QUrl acknowledgementsUrl() const;

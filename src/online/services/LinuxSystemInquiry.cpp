@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr qint64 BytesPerMegabyte = 1024 * 1024;
+constexpr qint64 BytesPerMegabyte = qint64(1024) * 1024;
 // A few lines by nature; what is larger is something else.
-constexpr qint64 MaxOsReleaseSize = 64 * 1024;
+constexpr qint64 MaxOsReleaseSize = qint64(64) * 1024;
 
 QString unquoted(QString value)
 {

@@ -43,7 +43,7 @@ QPixmap PreviewCache::previewImage(const QSharedPointer<IFile> &file,
     return m_loadingImage;
 }
 
-void PreviewCache::previewLoaded(QByteArray key, QImage image)
+void PreviewCache::previewLoaded(const QByteArray &key, QImage image)
 {
     const int cost = image.width() * image.height();
     m_cache.insert(key, new QPixmap(QPixmap::fromImage(std::move(image))), cost);

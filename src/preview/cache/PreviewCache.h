@@ -38,11 +38,11 @@ public:
 
 public slots:
     /** Keeps `image` for `key` and tells whoever waits for it. */
-    void previewLoaded(QByteArray key, QImage image);
+    void previewLoaded(const QByteArray &key, QImage image);
 
 signals:
     /** Asks the worker for the file at `path`. */
-    void loadPreview(QByteArray key, QString path);
+    void loadPreview(const QByteArray &key, const QString &path);
 
 private:
     PreviewCache();

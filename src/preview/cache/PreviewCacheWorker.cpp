@@ -38,7 +38,7 @@ void PreviewCacheWorker::stop()
     m_thread.wait();
 }
 
-void PreviewCacheWorker::loadPreview(QByteArray key, QString path)
+void PreviewCacheWorker::loadPreview(const QByteArray &key, const QString &path)
 {
     // The loads still queued at the end of the program have nobody to wait for them.
     if (m_thread.isInterruptionRequested()) {

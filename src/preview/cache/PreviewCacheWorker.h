@@ -26,11 +26,11 @@ public:
 
 public slots:
     /** Runs in the worker's thread; always answers with previewLoaded(). */
-    void loadPreview(QByteArray key, QString path);
+    void loadPreview(const QByteArray &key, const QString &path);
 
 signals:
     /** The image of `key`, or the error picture where the file has none. */
-    void previewLoaded(QByteArray key, QImage image);
+    void previewLoaded(const QByteArray &key, QImage image);
 
 private:
     QThread m_thread;

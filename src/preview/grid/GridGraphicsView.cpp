@@ -66,13 +66,14 @@ void GridGraphicsView::resizeEvent(QResizeEvent *event)
     const QRect sheet = mapFromScene(sceneRect()).boundingRect();
     const int viewWidth = rect().right() - rect().left();
     const int sceneWidth = sheet.right() - sheet.left();
-    translate(sheet.left() - (viewWidth - sceneWidth) / 2, 0);
+    const int margin = (viewWidth - sceneWidth) / 2;
+    translate(sheet.left() - margin, 0);
 }
 
 void GridGraphicsView::wheelEvent(QWheelEvent *event)
 {
     // The wheel only scrolls, also with Alt.
-    QGraphicsView::wheelEvent(event);
+    QGraphicsView::wheelEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void GridGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <QEvent>
 #include <QVBoxLayout>
+#include <utility>
 
 const QList<int> PreviewBrowser::ScaleFactors = {33, 50, 75, 100, 150, 200};
 
@@ -23,8 +24,8 @@ constexpr int DefaultScaleFactor = 100;
 
 PreviewBrowser::PreviewBrowser(QWidget *parent, QSharedPointer<Project> project,
                                FilterSelectionModel *models)
-    : QWidget(parent), m_project(project), m_models(models), m_view(new GridGraphicsView(this)),
-      m_scene(new GridPreviewScene(this))
+    : QWidget(parent), m_project(std::move(project)), m_models(models),
+      m_view(new GridGraphicsView(this)), m_scene(new GridPreviewScene(this))
 {
     m_view->setScene(m_scene);
     auto *layout = new QVBoxLayout(this);
@@ -34,7 +35,7 @@ PreviewBrowser::PreviewBrowser(QWidget *parent, QSharedPointer<Project> project,
 
     connectModels();
     m_project->filesProp()->registerObserver(this);
-    observedObjectChanged(m_project->filesProp());
+    filterChanged();
     readZoom();
 }
 
@@ -74,13 +75,13 @@ double PreviewBrowser::zoom() const
 void PreviewBrowser::observedObjectChanged(const Observable *observable)
 {
     if (observable == m_project->filesProp()) {
-        m_scene->setFiles(m_models->filter()->filteredFiles());
+        filterChanged();
     }
 }
 
 void PreviewBrowser::filterChanged()
 {
-    observedObjectChanged(m_project->filesProp());
+    m_scene->setFiles(m_models->filter()->filteredFiles());
 }
 
 void PreviewBrowser::zoomIn()

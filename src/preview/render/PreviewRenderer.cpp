@@ -99,7 +99,7 @@ QLinearGradient PreviewRenderer::buildGradient(const QPointF &from, const QPoint
     return gradient;
 }
 
-QColor PreviewRenderer::shadeColor(QColor color, const QVector3D &normal)
+QColor PreviewRenderer::shadeColor(const QColor &color, const QVector3D &normal)
 {
     const QVector4D light = rgbaVector(m_lightColor.rgba());
     const QVector4D ambientLight = rgbaVector(m_ambientColor.rgba());

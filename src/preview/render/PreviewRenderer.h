@@ -48,7 +48,7 @@ public:
     QLinearGradient buildGradient(const QPointF &from, const QPointF &to, const QColor &color);
 
     /** `color` lit where the surface faces `normal` (of length 1); alpha stays. */
-    QColor shadeColor(QColor color, const QVector3D &normal);
+    QColor shadeColor(const QColor &color, const QVector3D &normal);
 
     /** (r, g, b), each from 0 to 1, of 0xAARRGGBB. */
     static QVector3D rgbVector(unsigned int rgb);

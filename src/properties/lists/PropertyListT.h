@@ -64,7 +64,7 @@ public:
     T *at(int index) const { return typed(PropertyList::at(index)); }
     QSharedPointer<T> sharedAt(int index) const
     {
-        const auto element = qSharedPointerDynamicCast<T>(PropertyList::sharedAt(index));
+        auto element = qSharedPointerDynamicCast<T>(PropertyList::sharedAt(index));
         if (!element)
             PropertyListErrors::throwWrongElement(PropertyList::at(index), this);
         return element;

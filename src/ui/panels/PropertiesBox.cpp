@@ -144,7 +144,7 @@ void PropertiesBox::setFiles(const QList<QSharedPointer<IFile>> &files)
     for (const Observable *property : observedProperties())
         property->registerObserver(this);
     if (m_files.count() == 1)
-        observedObjectChanged(nullptr);
+        PropertiesBox::observedObjectChanged(nullptr);
     else
         showSelectionCount();
     handOverNotesAndTags();

@@ -16,7 +16,7 @@ PropertyStringMultilineEdit::PropertyStringMultilineEdit(QWidget *parent,
     if (!description->description().isEmpty())
         m_edit->setToolTip(description->description());
     connect(m_edit, &QTextEdit::textChanged, this, &PropertyStringMultilineEdit::textChanged);
-    disableWidget();
+    PropertyStringMultilineEdit::disableWidget();
 }
 
 QWidget *PropertyStringMultilineEdit::widget()

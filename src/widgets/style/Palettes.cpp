@@ -33,12 +33,12 @@ QColor readable(const QColor &text, const QColor &background)
 {
     if (WidgetHelper::contrast(text, background) >= LeastContrast)
         return text;
-    const QColor goal = WidgetHelper::contrast(Qt::white, background) >
-                                WidgetHelper::contrast(Qt::black, background)
-                            ? Qt::white
-                            : Qt::black;
-    for (qreal share = 0.1; share < 1.0; share += 0.1) {
-        const QColor candidate = WidgetHelper::mixed(goal, text, share);
+    QColor goal = WidgetHelper::contrast(Qt::white, background) >
+                          WidgetHelper::contrast(Qt::black, background)
+                      ? Qt::white
+                      : Qt::black;
+    for (int tenth = 1; tenth < 10; ++tenth) {
+        QColor candidate = WidgetHelper::mixed(goal, text, tenth / 10.0);
         if (WidgetHelper::contrast(candidate, background) >= LeastContrast)
             return candidate;
     }

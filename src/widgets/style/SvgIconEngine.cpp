@@ -21,15 +21,15 @@ struct IconColors
 IconColors colorsForMode(QIcon::Mode mode)
 {
     const QPalette palette = QGuiApplication::palette();
-    const QColor window = palette.color(QPalette::Active, QPalette::Window);
-    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor &window = palette.color(QPalette::Active, QPalette::Window);
+    const QColor &text = palette.color(QPalette::Active, QPalette::WindowText);
     switch (mode) {
     case QIcon::Disabled: {
         const QColor faded = WidgetHelper::mixed(text, window, 0.32);
         return {faded, faded};
     }
     case QIcon::Selected: {
-        const QColor selected = palette.color(QPalette::Active, QPalette::HighlightedText);
+        const QColor &selected = palette.color(QPalette::Active, QPalette::HighlightedText);
         return {selected, selected};
     }
     case QIcon::Normal:
