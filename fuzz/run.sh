@@ -35,5 +35,6 @@ export -f run_target
 export root
 
 # The status of xargs is that of the worst target.
+# shellcheck disable=SC2016 # the shell that xargs starts fills in its arguments
 printf '%s\n' "${formats[@]}" |
     xargs -P "$(nproc)" -I FORMAT bash -c 'run_target "$1" "$2"' _ FORMAT "$seconds"

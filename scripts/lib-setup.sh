@@ -1,8 +1,10 @@
 # Shared by the scripts beside it; sourced, not run.
+# shellcheck shell=bash
 
 # The folder of the checkout, whatever the caller's working folder.
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# shellcheck disable=SC2034 # for those who source this
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n lowdown)
@@ -45,5 +47,5 @@ build() {
         return 1
     }
     rm -f "$root/build-$preset.log"
-    cmake --build "$root/build/$preset" ${*:+--target "$@"}
+    cmake --build "$root/build/$preset" ${1:+--target "$@"}
 }

@@ -42,7 +42,7 @@ find_window() {
 
 shot() { import -window "$1" png:"$2" 2>/dev/null; }
 
-window= previous= same=0
+window='' previous='' same=0
 for _ in $(seq 240); do
     kill -0 "$app" 2>/dev/null || { cat "$work/log" >&2; echo "The program ended." >&2; exit 1; }
     [ -n "$window" ] || window=$(find_window || true)

@@ -193,7 +193,7 @@ away() { xdotool mousemove 2590 1690; sleep 0.2; }
 
 # settle: waits until the main window has stopped changing.
 settle() {
-    local now previous= same=0
+    local now previous='' same=0
     for _ in $(seq 40); do
         now=$(import -window "$window" png:- | identify -format '%#' - 2>/dev/null)
         if [ "$now" = "$previous" ]; then same=$((same + 1)); else same=0; fi
