@@ -30,6 +30,24 @@ target_compile_options(hoopline_options INTERFACE
 if(HOOPLINE_WERROR)
     target_compile_options(hoopline_options INTERFACE -Werror)
 endif()
+# Design files and feeds are hostile until checked; where a check of ours should fail, the
+# program ends rather than obeys. A sanitizer brings checks of its own.
+if(NOT HOOPLINE_SANITIZE)
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    set(shipped $<NOT:$<CONFIG:Debug>>)
+    target_compile_options(hoopline_options INTERFACE
+        $<${shipped}:-fstack-protector-strong>
+        $<${shipped}:-U_FORTIFY_SOURCE>
+        $<${shipped}:-D_FORTIFY_SOURCE=2>)
+    target_link_options(hoopline_options INTERFACE $<${shipped}:LINKER:-z,relro,-z,now>)
+endif()
+if(HOOPLINE_DEBUG_SYMBOLS)
+    # They name the sources by their place in the project, wherever that was built.
+    target_compile_options(hoopline_options INTERFACE
+        -g -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+endif()
 if(HOOPLINE_SANITIZE)
     target_compile_options(hoopline_options INTERFACE
         -fsanitize=${HOOPLINE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
