@@ -137,8 +137,10 @@ void TestFileTools::leftoversOfTheDeadGo()
     waitpid(dead, nullptr, 0);
     const QString ofTheDead = QStringLiteral(".hoopline-%1-0.part").arg(dead);
     const QString ofTheLiving = QStringLiteral(".hoopline-%1-0.part").arg(getpid());
+    // Of a process that had this one's number before.
+    const QString ofANamesake = QStringLiteral(".hoopline-%1-4000000000.part").arg(getpid());
     const QStringList strangers{".hoopline-x-0.part", "a.part"};
-    const QStringList all = QStringList(strangers) << ofTheDead << ofTheLiving;
+    const QStringList all = QStringList(strangers) << ofTheDead << ofANamesake << ofTheLiving;
     for (const QString &name : all)
         FileTools::writeAll(path(name), "half");
     FileReplacement::removeLeftovers(m_dir->path());

@@ -21,11 +21,12 @@ constexpr mode_t AllPermissions = 07777;
 // A process identifier comes round again; no write takes this long.
 constexpr qint64 LeftoverAgeSeconds = qint64(24) * 60 * 60;
 
+std::atomic<unsigned> namesGiven{0};
+
 /** Short, since the target's own name may be as long as the file system takes. */
 QString temporaryName()
 {
-    static std::atomic<unsigned> counter{0};
-    return QStringLiteral(".hoopline-%1-%2.part").arg(getpid()).arg(counter++);
+    return QStringLiteral(".hoopline-%1-%2.part").arg(getpid()).arg(namesGiven++);
 }
 
 /** The file at the end of a chain of symbolic links; links to what is not there included. */
@@ -58,8 +59,11 @@ bool cannotSync()
     return errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
 }
 
-bool isAlive(qint64 process)
+/** In a container the few identifiers come round with every start, this process's own first. */
+bool mayBeWriting(qint64 process, unsigned number)
 {
+    if (process == getpid())
+        return number < namesGiven;
     return kill(pid_t(process), 0) == 0 || errno != ESRCH;
 }
 
@@ -112,8 +116,9 @@ bool FileReplacement::write(const QByteArray &data)
     const char *next = data.constData();
     auto left = std::size_t(data.size());
     while (left > 0 && m_error.isNull()) {
+        errno = ENOSPC; // what it means when nothing is taken and nothing said
         const ssize_t written = uninterrupted([&] { return ::write(m_descriptor, next, left); });
-        if (written < 0)
+        if (written <= 0)
             return fail();
         next += written;
         left -= std::size_t(written);
@@ -174,14 +179,15 @@ bool FileReplacement::fail()
 
 void FileReplacement::removeLeftovers(const QString &directory)
 {
-    static const QRegularExpression pattern(QStringLiteral("^\\.hoopline-(\\d+)-\\d+\\.part$"));
+    static const QRegularExpression pattern(QStringLiteral("^\\.hoopline-(\\d+)-(\\d+)\\.part$"));
     const QFileInfoList candidates = QDir(directory).entryInfoList(
         {QStringLiteral(".hoopline-*.part")}, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo &file : candidates) {
         const auto match = pattern.match(file.fileName());
         const bool old =
             file.lastModified().secsTo(QDateTime::currentDateTime()) > LeftoverAgeSeconds;
-        if (match.hasMatch() && (old || !isAlive(match.captured(1).toLongLong())))
+        if (match.hasMatch() &&
+            (old || !mayBeWriting(match.captured(1).toLongLong(), match.captured(2).toUInt())))
             QFile::remove(file.filePath());
     }
 }
