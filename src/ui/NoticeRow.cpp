@@ -3,6 +3,7 @@
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
 
+#include <algorithm>
 #include <memory>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -54,15 +55,32 @@ QString NoticeRow::text() const
 
 void NoticeRow::setActions(const QList<Notice::Action> &actions)
 {
+    const auto sameText = [](const Notice::Action &one, const Notice::Action &other) {
+        return one.text == other.text;
+    };
+    const bool same = std::equal(m_actions.cbegin(), m_actions.cend(), actions.cbegin(),
+                                 actions.cend(), sameText);
+    m_actions = actions;
+    // One of the buttons may have the focus, or be held down at this moment.
+    if (!same)
+        createButtons();
+}
+
+void NoticeRow::createButtons()
+{
     while (m_buttons->count() > 0) {
         const std::unique_ptr<QLayoutItem> item(m_buttons->takeAt(0));
         item->widget()->hide();
         item->widget()->deleteLater();
     }
-    for (const Notice::Action &action : actions) {
-        auto *button = new QPushButton(action.text, this);
+    for (int i = 0; i < m_actions.size(); ++i) {
+        auto *button = new QPushButton(m_actions.at(i).text, this);
         button->setAutoDefault(true);
-        connect(button, &QPushButton::clicked, this, [run = action.run] { run(); });
+        connect(button, &QPushButton::clicked, this, [this, i] {
+            // What it does may give the row other actions.
+            const auto run = m_actions.at(i).run;
+            run();
+        });
         m_buttons->addWidget(button);
     }
 }

@@ -28,6 +28,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void createButtons();
     void addCloseButton();
     void updateColors();
 
@@ -35,5 +36,6 @@ private:
     Notice::Kind m_kind;
     QLabel *m_icon;
     QLabel *m_text;
+    QList<Notice::Action> m_actions;
     QHBoxLayout *m_buttons;
 };

@@ -12,6 +12,7 @@ class tst_noticebar : public QObject
 private slots:
     void tellsUntilWithdrawn();
     void sameIdTakesThePlace();
+    void toldAgainItKeepsTheFocus();
     void actionMayWithdrawItsOwnNotice();
 };
 
@@ -63,6 +64,27 @@ void tst_noticebar::sameIdTakesThePlace()
     QCOMPARE(buttons.size(), 1);
     QTest::keyClick(buttons.first(), Qt::Key_Return);
     QCOMPARE(pressed, 3);
+}
+
+// What is tried again every few seconds tells the same each time, while a user is at its buttons.
+void tst_noticebar::toldAgainItKeepsTheFocus()
+{
+    NoticeBar bar;
+    int pressed = 0;
+    const auto tell = [&](int number) {
+        bar.tell(
+            {"save", Notice::Problem, "disk", {{"Try again", [&, number] { pressed = number; }}}});
+    };
+    tell(1);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowActive(&bar));
+    auto *button = bar.findChild<QPushButton *>();
+    button->setFocus();
+    QTest::mousePress(button, Qt::LeftButton);
+    tell(2);
+    QVERIFY(button->hasFocus());
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QCOMPARE(pressed, 2);
 }
 
 void tst_noticebar::actionMayWithdrawItsOwnNotice()
