@@ -1,5 +1,7 @@
 #include "base/files/FileTools.h"
+#include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/DataModelReader.h"
+#include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/Project.h"
 #include "properties/descriptions/PropertyDescriptionPreset.h"
 #include "properties/descriptions/PropertyDescriptionValues.h"
@@ -46,6 +48,9 @@ private slots:
     void failuresLeaveTheProject_data();
     void failuresLeaveTheProject();
     void missingPlaces();
+    void onlyAMissingFileIsMissing();
+    void wholeRecordsOutliveDamage_data();
+    void wholeRecordsOutliveDamage();
     void tolerance();
     void failureWithinTheRecords();
     void loadAnnouncesOnce();
@@ -201,6 +206,8 @@ void TestCatalogueFile::versions_data()
     QTest::newRow("none") << QByteArray() << true;
     QTest::newRow("2.0") << QByteArray("version='2.0'") << false;
     QTest::newRow("1.0.1") << QByteArray("version='1.0.1'") << false;
+    // May be well-formed in a way that is not known yet.
+    QTest::newRow("2.0, malformed") << QByteArray("version='2.0'><new></old") << false;
 }
 
 void TestCatalogueFile::versions()
@@ -208,7 +215,8 @@ void TestCatalogueFile::versions()
     QFETCH(QByteArray, version);
     QFETCH(bool, loads);
     m_project->setAllTags({"kept"});
-    const QString message = errorOfLoad("<hoopline_organizer " + version + "/>");
+    const QString message =
+        errorOfLoad("<hoopline_organizer " + version + "></hoopline_organizer>");
     QCOMPARE(m_project->allTags().isEmpty(), loads);
     QCOMPARE(message, loads ? QStringLiteral("nothing thrown")
                             : QStringLiteral("This file cannot be loaded because it was created "
@@ -269,6 +277,79 @@ void TestCatalogueFile::missingPlaces()
     const QString target = m_dir->filePath("blocked/catalogue.xml");
     const QString message = messageOf<Error>([&] { m_project->save(target); });
     QVERIFY2(message.startsWith("Failed to write " + target + ": "), qPrintable(message));
+}
+
+void TestCatalogueFile::onlyAMissingFileIsMissing()
+{
+    QVERIFY(QDir().mkpath(m_dir->filePath("folder")));
+    QVERIFY(QFile::link("nowhere", m_dir->filePath("dangling")));
+    QVERIFY(QFile::link("circle", m_dir->filePath("circle")));
+    FileTools::writeAll(m_dir->filePath("file"), "x");
+    for (const char *name : {"folder", "dangling", "circle", "file/below"})
+        QVERIFY_EXCEPTION_THROWN(m_project->load(m_dir->filePath(name)), CatalogueUnusableError);
+}
+
+void TestCatalogueFile::wholeRecordsOutliveDamage_data()
+{
+    QTest::addColumn<QByteArray>("whole");
+    QTest::addColumn<QByteArray>("damaged");
+    QTest::addColumn<QString>("found");
+    QTest::newRow("cut within a record") << QByteArray("/c</abs") << QByteArray() << "/a /b";
+    QTest::newRow("cut after a record") << QByteArray("</files>") << QByteArray() << "/a /b /c";
+    QTest::newRow("cut within the folders") << QByteArray("/two</s") << QByteArray() << "";
+    const auto flip = [](const char *name, const char *from, const char *to, const char *found) {
+        QTest::newRow(name) << QByteArray(from) << QByteArray(to) << found;
+    };
+    flip("text", "/b</abs", "/\x01</abs", "/a /c");
+    flip("no character", "of b", "of \xe2", "/a /b /c");
+    flip("start of a record", "<file>\n            <absolute_file_path>/b",
+         "<fime>\n            <absolute_file_path>/b", "/a /c");
+    flip("end of a record", "</file>", "</fi,e>", "/b /c");
+    flip("end of the list", "</files>", "</filer>", "/a /b /c");
+    flip("root", "<hoopline_organizer", "<hooPline_organizer", "/a /b /c");
+    flip("list", "<files>", "<~iles>", "/a /b /c");
+}
+
+void TestCatalogueFile::wholeRecordsOutliveDamage()
+{
+    QFETCH(QByteArray, whole);
+    QFETCH(QByteArray, damaged);
+    QFETCH(QString, found);
+    for (const char *name : {"a", "b", "c"}) {
+        const auto file = addFile(QString("/") + name);
+        file->setNotes(QString("notes of ") + name);
+        file->setTags({QString("tag of ") + name});
+        file->setThreads({QSharedPointer<Thread>::create(m_project.data())});
+    }
+    m_project->setSmartFolders({"/one", "/two"}, {});
+    m_project->setAllTags({"unused"});
+    QByteArray bytes = DataModelWriter().toBytes(m_project.data());
+    const int at = bytes.indexOf(whole);
+    QVERIFY(at >= 0);
+    if (damaged.isEmpty())
+        bytes.truncate(at + 3);
+    else
+        bytes.replace(at, whole.size(), damaged);
+
+    Project other;
+    QVERIFY_EXCEPTION_THROWN(DataModelReader().readFromBytes(&other, bytes, path()),
+                             CatalogueDamagedError);
+    const QStringList paths = found.split(' ', Qt::SkipEmptyParts);
+    QCOMPARE(DataModelReader().recoverFromBytes(&other, bytes), paths.count());
+    QStringList recovered;
+    for (const auto &file : other.files()) {
+        recovered += file->absoluteFilePath();
+        const QString name = file->absoluteFilePath().mid(1);
+        QVERIFY(file->notes().startsWith("notes of "));
+        QCOMPARE(file->tags(), QStringList("tag of " + name));
+        QVERIFY(other.allTags().contains("tag of " + name));
+        QCOMPARE(file->threads().count(), 1);
+    }
+    QCOMPARE(recovered, paths);
+    // A path that was cut would be another folder.
+    QCOMPARE(other.smartFolders(),
+             found.isEmpty() ? QStringList("/one") : QStringList({"/one", "/two"}));
+    QCOMPARE(other.allTags().contains("unused"), !damaged.isEmpty());
 }
 
 void TestCatalogueFile::tolerance()

@@ -1,6 +1,8 @@
 #include "catalogue/records/CatalogueXMLReader.h"
 
 #include "base/Error.h"
+#include "catalogue/records/CatalogueErrors.h"
+#include "catalogue/records/DataModelReader.h"
 #include "catalogue/records/Project.h"
 #include "properties/core/PropertyFactory.h"
 #include "properties/xml/XmlTools.h"
@@ -13,34 +15,35 @@ CatalogueXMLReader::CatalogueXMLReader(Project *project, const PropertyFactory *
 {
 }
 
-QDomDocument CatalogueXMLReader::parse(QIODevice *file)
+void CatalogueXMLReader::parse(const QByteArray &bytes)
 {
-    QDomDocument document;
-    QXmlStreamReader reader(file);
+    QXmlStreamReader reader(bytes);
     XmlTools::prepareReader(reader);
     if (reader.readNextStartElement()) {
-        QDomElement root = XmlTools::createElement(document, reader);
-        document.appendChild(root);
+        QDomElement root = XmlTools::createElement(m_document, reader);
+        m_document.appendChild(root);
+        // First, since what follows may be well-formed in a way that is not known here.
+        if (root.tagName() == m_project->propertyName())
+            DataModelReader::upgradeDom(m_document);
         bool hasRecords = false;
         while (reader.readNextStartElement()) {
-            const QDomElement child = XmlTools::createElement(document, reader);
+            const QDomElement child = XmlTools::createElement(m_document, reader);
             root.appendChild(child);
             // Only the first element of a name counts.
             if (!hasRecords && child.tagName() == m_project->filesProp()->propertyName()) {
                 hasRecords = true;
                 makeRecords(reader);
             } else {
-                XmlTools::readChildren(reader, document, child, XmlTools::DropBlankText);
+                XmlTools::readChildren(reader, m_document, child, XmlTools::DropBlankText);
             }
         }
     }
     while (!reader.atEnd())
         reader.readNext();
     if (reader.hasError())
-        throw Error(QObject::tr("XML parser error: %1 (line %2)")
-                        .arg(reader.errorString())
-                        .arg(reader.lineNumber()));
-    return document;
+        throw CatalogueDamagedError(QObject::tr("XML parser error: %1 (line %2)")
+                                        .arg(reader.errorString())
+                                        .arg(reader.lineNumber()));
 }
 
 void CatalogueXMLReader::makeRecords(QXmlStreamReader &reader)

@@ -3,12 +3,12 @@
 #include "properties/xml/PropertyXMLReader.h"
 
 #include <memory>
+#include <QByteArray>
 #include <QDomDocument>
 #include <QString>
 #include <vector>
 
 class Project;
-class QIODevice;
 class QXmlStreamReader;
 
 /**
@@ -25,10 +25,14 @@ public:
     CatalogueXMLReader(Project *project, const PropertyFactory *factory);
 
     /**
-     * Makes the records and returns the document without them. Throws Error when any
-     * of the file is malformed.
+     * Makes the records, and the document without them, of the bytes of a file. Throws
+     * CatalogueDamagedError when any of them is malformed, and before that
+     * CatalogueUnusableError when they are of a newer version.
      */
-    QDomDocument parse(QIODevice *file);
+    void parse(const QByteArray &bytes);
+
+    /** The document without its records. */
+    const QDomDocument &document() const { return m_document; }
 
     using PropertyXMLReader::visit;
 
@@ -42,6 +46,7 @@ private:
 
     Project *m_project;
     const PropertyFactory *m_factory;
+    QDomDocument m_document;
     std::vector<std::unique_ptr<Property>> m_records;
     std::unique_ptr<QString> m_recordError;
 };

@@ -1,6 +1,9 @@
 #include "catalogue/records/DataModelReader.h"
 
 #include "base/Error.h"
+#include "base/files/FileStamp.h"
+#include "catalogue/records/CatalogueErrors.h"
+#include "catalogue/records/CatalogueRecovery.h"
 #include "catalogue/records/CatalogueXMLReader.h"
 #include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/Project.h"
@@ -8,6 +11,9 @@
 
 #include <QFile>
 #include <QObject>
+
+DataModelReader::DataModelReader() = default;
+DataModelReader::~DataModelReader() = default;
 
 Property *DataModelReader::createProperty(const QString &tag, const Property *) const
 {
@@ -24,23 +30,55 @@ PropertyEnumElement DataModelReader::createEnumElem(const PropertyDescriptionEnu
     return {};
 }
 
-void DataModelReader::readFromFile(Project *project, const QString &path)
+QByteArray DataModelReader::bytesOf(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw ErrorDoesNotExist(QObject::tr("Failed to open file '%1'").arg(path));
-    m_project = project;
-    CatalogueXMLReader reader(project, this);
-    const QDomDocument document = reader.parse(&file);
-    if (document.documentElement().tagName() != project->propertyName())
-        throw Error(QObject::tr("'%1' is not a Hoopline Organizer project file").arg(path));
-    upgradeDom(document);
+    if (!file.open(QIODevice::ReadOnly)) {
+        const QString message = QObject::tr("Failed to open file '%1'").arg(path);
+        if (FileStamp::isMissing(path))
+            throw ErrorDoesNotExist(message);
+        throw CatalogueUnusableError(message + QStringLiteral(": ") + file.errorString());
+    }
+    // A failure in the middle must not look like the end of the file.
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFile::NoError)
+        throw CatalogueUnusableError(
+            QObject::tr("Failed to read file '%1': %2").arg(path, file.errorString()));
+    return bytes;
+}
 
-    project->clear();
+void DataModelReader::readFromFile(Project *project, const QString &path)
+{
+    readFromBytes(project, bytesOf(path), path);
+}
+
+void DataModelReader::readFromBytes(Project *project, const QByteArray &bytes, const QString &path)
+{
+    parse(project, bytes, path);
+    fill();
+}
+
+void DataModelReader::parse(Project *project, const QByteArray &bytes, const QString &path)
+{
+    m_project = project;
+    m_reader = std::make_unique<CatalogueXMLReader>(project, this);
+    m_reader->parse(bytes);
+    if (m_reader->document().documentElement().tagName() != project->propertyName())
+        throw CatalogueDamagedError(
+            QObject::tr("'%1' is not a Hoopline Organizer project file").arg(path));
+}
+
+void DataModelReader::fill()
+{
+    m_project->clear();
     ChangeManager &changes = ChangeManager::instance();
     changes.startBulkOperation({});
     try {
-        reader.readFromXML(project, document.documentElement(), QStringLiteral("/"));
+        m_reader->readFromXML(m_project, m_reader->document().documentElement(),
+                              QStringLiteral("/"));
+    } catch (const Error &error) {
+        changes.finishBulkOperation(true);
+        throw CatalogueDamagedError(error.toString());
     } catch (...) {
         changes.finishBulkOperation(true);
         throw;
@@ -48,10 +86,17 @@ void DataModelReader::readFromFile(Project *project, const QString &path)
     changes.finishBulkOperation(true);
 }
 
-void DataModelReader::upgradeDom(const QDomDocument &document) const
+int DataModelReader::recoverFromBytes(Project *project, const QByteArray &bytes)
+{
+    m_project = project;
+    return CatalogueRecovery(project, this).recover(bytes);
+}
+
+void DataModelReader::upgradeDom(const QDomDocument &document)
 {
     const QString version = document.documentElement().attribute(QStringLiteral("version"));
     if (QVersionNumber::fromString(version) > DataModelWriter::Version)
-        throw Error(QStringLiteral("This file cannot be loaded because it was created with a newer "
-                                   "version of Hoopline organizer"));
+        throw CatalogueUnusableError(
+            QStringLiteral("This file cannot be loaded because it was created with a newer "
+                           "version of Hoopline organizer"));
 }

@@ -10,7 +10,7 @@ const QVersionNumber DataModelWriter::Version(1, 0);
 
 DataModelWriter::DataModelWriter() : PropertyXMLWriter(QStringLiteral("/"), &serializer) {}
 
-void DataModelWriter::writeToFile(Project *project, const QString &path)
+QByteArray DataModelWriter::toBytes(Project *project)
 {
     QByteArray bytes;
     QXmlStreamWriter stream(&bytes);
@@ -19,7 +19,12 @@ void DataModelWriter::writeToFile(Project *project, const QString &path)
     stream.writeCharacters(QStringLiteral("\n"));
     writeToStream(project, &stream);
     stream.writeEndDocument();
-    FileTools::writeAll(path, bytes);
+    return bytes;
+}
+
+void DataModelWriter::writeToFile(Project *project, const QString &path)
+{
+    FileTools::writeAll(path, toBytes(project));
 }
 
 void DataModelWriter::visit(GProject *project)

@@ -3,6 +3,7 @@
 #include "properties/xml/PropertySerializer.h"
 #include "properties/xml/PropertyXMLWriter.h"
 
+#include <QByteArray>
 #include <QVersionNumber>
 
 class Project;
@@ -21,6 +22,9 @@ public:
     static const QVersionNumber Version;
 
     DataModelWriter();
+
+    /** The bytes of the file. */
+    QByteArray toBytes(Project *project);
 
     /** Replaces the file whole or, throwing Error, not at all. */
     void writeToFile(Project *project, const QString &path);

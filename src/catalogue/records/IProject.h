@@ -13,9 +13,10 @@ class IProject
 public:
     /**
      * Replaces the contents by those of a catalogue file; each changed property is
-     * announced once, at the end. Throws ErrorDoesNotExist when the file can't be
-     * opened, Error when it isn't a catalogue that can be read; up to a fault within
-     * the records, the project stays as it was.
+     * announced once, at the end. Throws ErrorDoesNotExist when there is no file,
+     * CatalogueUnusableError when it can't be read for now or not by this version,
+     * CatalogueDamagedError when it holds no whole catalogue; up to a fault within the
+     * records, the project stays as it was.
      */
     virtual void load(const QString &path) = 0;
 
