@@ -1,6 +1,7 @@
 #include "cli/ScanCommand.h"
 
 #include "base/GlobalSettings.h"
+#include "catalogue/sync/DataFolder.h"
 #include "cli/CatalogueInUseError.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
@@ -42,7 +43,7 @@ int ScanCommand::run(const QStringList &arguments)
 int ScanCommand::scan(const QStringList &folders)
 {
     const QString dataPath = GlobalSettings().applicationDataPath();
-    QDir().mkpath(dataPath);
+    DataFolder::prepare(dataPath);
     QLockFile lock(dataPath + QStringLiteral("/hoopline-cli.lock"));
     lock.setStaleLockTime(0); // only a dead process leaves a stale lock, however long a scan takes
     if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError)

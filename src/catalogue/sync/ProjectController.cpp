@@ -2,10 +2,15 @@
 
 #include "base/EmptyProgressListener.h"
 #include "base/Error.h"
+#include "base/files/FileTools.h"
 #include "base/GDebug.h"
 #include "base/GlobalSettings.h"
 #include "catalogue/models/IFilterModel.h"
+#include "catalogue/records/CatalogueErrors.h"
+#include "catalogue/records/DataModelReader.h"
+#include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
+#include "catalogue/sync/DataFolder.h"
 #include "catalogue/sync/FileSync.h"
 #include "embroidery/EmbroideryIO.h"
 #include "preview/cache/PreviewCache.h"
@@ -16,8 +21,7 @@
 
 ProjectController::ProjectController()
     : m_listener(&emptyProgressListener),
-      m_projectFilePath(GlobalSettings().applicationDataPath() +
-                        QStringLiteral("/hoopline-organizer.xml"))
+      m_file(GlobalSettings().applicationDataPath() + QStringLiteral("/hoopline-organizer.xml"))
 {
 }
 
@@ -35,25 +39,38 @@ void ProjectController::setUsageEventSink(UsageEventSink sink)
 
 void ProjectController::loadOrCreateProject()
 {
+    DataFolder::prepare(QFileInfo(m_file.path()).absolutePath());
     try {
         loadProject();
         return;
     } catch (const ErrorDoesNotExist &) {
         // The first start.
-    } catch (const Error &error) {
+    } catch (const CatalogueDamagedError &error) {
         gWarning("ProjectController") << QLatin1Char('"') + error.toString() + QLatin1Char('"');
         gWarning("ProjectController") << "failed to read project, creating new one";
+        recoverProject();
     }
     saveProject();
 }
 
 void ProjectController::loadProject()
 {
+    createProject();
+    DataModelReader().readFromBytes(m_project.data(), m_file.read(), m_file.path());
+}
+
+void ProjectController::createProject()
+{
     m_selectionModel.reset();
     m_project = QSharedPointer<Project>::create();
     m_selectionModel = std::make_unique<FilterSelectionModel>(m_project);
-    m_project->load(m_projectFilePath);
-    m_projectFileDate = dateOnDisk();
+}
+
+void ProjectController::recoverProject()
+{
+    const QByteArray damaged = m_file.read();
+    const int designs = DataModelReader().recoverFromBytes(m_project.data(), damaged);
+    keep(damaged, CatalogueFile::Damaged, designs);
 }
 
 void ProjectController::saveProjectIfModified()
@@ -66,22 +83,91 @@ void ProjectController::saveProjectIfModified()
 
 void ProjectController::saveProject()
 {
-    m_project->save(m_projectFilePath);
-    m_projectFileDate = dateOnDisk();
+    keepWhatOthersWrote();
+    m_file.write(DataModelWriter().toBytes(m_project.data()));
 }
 
-QDateTime ProjectController::dateOnDisk() const
+void ProjectController::keepWhatOthersWrote()
 {
-    return QFileInfo(m_projectFilePath).lastModified();
+    if (m_file.isAsLastSeen())
+        return;
+    try {
+        const QByteArray bytes = m_file.peek();
+        if (m_file.isLastSeen(bytes))
+            return;
+        keep(bytes, isWhole(bytes) ? CatalogueFile::Replaced : CatalogueFile::Damaged);
+    } catch (const ErrorDoesNotExist &) {
+        // It was removed; what is in memory takes its place.
+    } catch (const CatalogueUnusableError &error) {
+        throw CatalogueUnsavedError(error.toString(), error.toString());
+    }
+}
+
+void ProjectController::saveCopy(const QString &path) const
+{
+    FileTools::writeAll(path, DataModelWriter().toBytes(m_project.data()));
+}
+
+bool ProjectController::isWhole(const QByteArray &bytes) const
+{
+    try {
+        Project aside;
+        DataModelReader().parse(&aside, bytes, m_file.path());
+        return true;
+    } catch (const CatalogueDamagedError &) {
+        return false;
+    }
 }
 
 void ProjectController::reloadProjectIfNewerOnDisk()
 {
-    const QDateTime date = dateOnDisk();
-    if (m_projectFileDate < date) {
-        m_project->load(m_projectFilePath);
-        m_projectFileDate = date;
+    if (!m_file.isNewerThanLastSeen())
+        return;
+    // Nobody is writing it any more: it is damaged for good.
+    if (FileStamp::of(m_file.path()) == m_damaged) {
+        saveProjectIfModified();
+        return;
     }
+    const CatalogueFile before = m_file;
+    try {
+        reload(m_file.read());
+    } catch (const CatalogueDamagedError &) {
+        m_damaged = m_file.lastSeen();
+        m_file = before;
+        m_project->undoStack()->resetClean();
+        throw;
+    } catch (...) {
+        m_file = before;
+        throw;
+    }
+}
+
+void ProjectController::reload(const QByteArray &bytes)
+{
+    DataModelReader reader;
+    reader.parse(m_project.data(), bytes, m_file.path());
+    const bool modified = !m_project->undoStack()->isClean();
+    const QByteArray present = DataModelWriter().toBytes(m_project.data());
+    if (modified)
+        keep(present, CatalogueFile::Unsaved);
+    try {
+        reader.fill();
+    } catch (...) {
+        DataModelReader().readFromBytes(m_project.data(), present, m_file.path());
+        if (modified)
+            m_project->undoStack()->resetClean();
+        throw;
+    }
+}
+
+void ProjectController::keep(const QByteArray &bytes, CatalogueFile::Fate fate, int designs)
+{
+    m_kept.append({fate, m_file.keep(bytes, fate), designs});
+}
+
+QList<ProjectController::Kept> ProjectController::takeKept()
+{
+    return std::exchange(m_kept, {});
 }
 
 void ProjectController::addDirectories(const QStringList &directories)

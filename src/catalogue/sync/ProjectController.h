@@ -4,10 +4,11 @@
 #include "base/UsageEventSink.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/records/Project.h"
+#include "catalogue/sync/CatalogueFile.h"
 #include "catalogue/sync/SyncCounts.h"
 #include <memory>
 #include <QCoreApplication>
-#include <QDateTime>
+#include <QList>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
@@ -15,13 +16,22 @@
 /**
  * Owns the one catalogue of the program and decides when it is loaded, saved,
  * reloaded and brought into line with the disk. The catalogue is a fixed file
- * below the application data path. Main thread only.
+ * below the application data path. Whatever has to give way to something else is
+ * kept in a file of its own. Main thread only.
  */
 class ProjectController
 {
     Q_DECLARE_TR_FUNCTIONS(ProjectController)
 
 public:
+    /** A catalogue that had to give way. */
+    struct Kept
+    {
+        CatalogueFile::Fate fate;
+        QString file;
+        int designs; ///< those taken over from a damaged one; -1 for the others
+    };
+
     /** Decides where the catalogue lies; touches no file. */
     ProjectController();
     virtual ~ProjectController();
@@ -41,35 +51,49 @@ public:
     /** Null before the catalogue was loaded. */
     QSharedPointer<Project> project() const { return m_project; }
 
-    QString projectFilePath() const { return m_projectFilePath; }
+    QString projectFilePath() const { return m_file.path(); }
 
     /** What the last scan did. */
     SyncCounts lastScan() const { return m_lastScan; }
 
     /**
-     * Loads the catalogue into a new project. A missing catalogue is created, one
-     * that cannot be read is overwritten by what could be read of it.
-     * @throws Error when the catalogue cannot be written
+     * Loads the catalogue into a new project. A missing catalogue is created. Of a damaged
+     * one the whole records are taken over; it is kept, and replaced by them.
+     * @throws CatalogueUnusableError when it is there and can't be read for now, or was
+     *         written by a newer version: it is left as it is
+     * @throws CatalogueUnsavedError when the catalogue cannot be written
      */
     void loadOrCreateProject();
 
     /**
-     * Loads the catalogue into a new project.
-     * @throws Error when it cannot be read; it is left as it is
+     * Loads the catalogue into a new project and changes nothing on the disk.
+     * @throws Error when it cannot be read or is damaged
      */
     void loadProject();
 
     /**
-     * Writes the catalogue when the undo stack is not clean.
-     * @throws Error when it cannot be written; the project stays modified
+     * Writes the catalogue when the undo stack is not clean. Somebody else's file in its
+     * place is kept.
+     * @throws CatalogueUnsavedError when it cannot be written; the project stays modified
      */
     virtual void saveProjectIfModified();
 
-    /** Whether the catalogue was changed from outside since this controller loaded or saved it. */
-    bool isNewerOnDisk() const { return m_projectFileDate < dateOnDisk(); }
+    /** Writes the catalogue as it is now to a file of the user's choice. @throws Error */
+    void saveCopy(const QString &path) const;
 
-    /** @throws Error when the newer catalogue cannot be read */
+    /** Whether the catalogue was changed from outside since this controller loaded or saved it. */
+    bool isNewerOnDisk() const { return m_file.isNewerThanLastSeen(); }
+
+    /**
+     * Takes over a catalogue that is newer on the disk; edits that were not saved are kept.
+     * One that is damaged may be half written; the project counts as modified from then on,
+     * so that the next save heals it, or the next call if nobody has touched it until then.
+     * @throws Error when it cannot be read; the project is as it was
+     */
     void reloadProjectIfNewerOnDisk();
+
+    /** What had to give way since the last call. */
+    QList<Kept> takeKept();
 
     /** Adds smart folders, given by absolute path, and scans. @throws Error as the scan */
     void addDirectories(const QStringList &directories);
@@ -91,14 +115,20 @@ public:
     static QStringList sortAndRemoveSubdirectories(QStringList list);
 
 private:
+    void createProject();
+    void recoverProject();
     void saveProject();
-    QDateTime dateOnDisk() const;
+    void keepWhatOthersWrote();
+    bool isWhole(const QByteArray &bytes) const;
+    void reload(const QByteArray &bytes);
+    void keep(const QByteArray &bytes, CatalogueFile::Fate fate, int designs = -1);
 
     QSharedPointer<Project> m_project;
     IProgressAbortListener *m_listener;
     UsageEventSink m_usage;
-    QDateTime m_projectFileDate;
-    QString m_projectFilePath;
+    CatalogueFile m_file;
+    FileStamp m_damaged; ///< that of a newer catalogue that was no whole one
     std::unique_ptr<FilterSelectionModel> m_selectionModel;
     SyncCounts m_lastScan;
+    QList<Kept> m_kept;
 };
