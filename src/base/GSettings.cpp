@@ -1,5 +1,8 @@
 #include "base/GSettings.h"
 
+#include "base/SettingsFormat.h"
+
+#include <QCoreApplication>
 #include <QCryptographicHash>
 
 namespace {
@@ -32,13 +35,27 @@ QString digest(const QString &text)
 
 QString GSettings::mIniFile;
 
-GSettings::GSettings()
-    : m_settings(mIniFile.isEmpty() ? std::make_unique<QSettings>()
-                                    : std::make_unique<QSettings>(mIniFile, QSettings::IniFormat))
+static std::unique_ptr<QSettings> openStore(const QString &iniFile)
 {
+    if (!iniFile.isEmpty())
+        return std::make_unique<QSettings>(iniFile, SettingsFormat::format());
+#ifdef Q_OS_MACOS
+    return std::make_unique<QSettings>();
+#else
+    return std::make_unique<QSettings>(SettingsFormat::format(), QSettings::UserScope,
+                                       QCoreApplication::organizationName(),
+                                       QCoreApplication::applicationName());
+#endif
 }
 
+GSettings::GSettings() : m_settings(openStore(mIniFile)) {}
+
 GSettings::~GSettings() = default;
+
+QString GSettings::fileName() const
+{
+    return m_settings->fileName();
+}
 
 void GSettings::setIniFile(const QString &path)
 {

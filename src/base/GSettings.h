@@ -27,6 +27,9 @@ public:
     /** Uses the INI file @p path from now on; an empty path goes back to the default store. */
     static void setIniFile(const QString &path);
 
+    /** Where the store keeps what it holds. */
+    QString fileName() const;
+
     QVariant value(const QString &key, const QVariant &defaultValue = QVariant()) const;
     void setValue(const QString &key, const QVariant &value);
     bool contains(const QString &key) const;

@@ -1,11 +1,18 @@
 #include "base/GGlobalIgnoreList.h"
 #include "base/GlobalSettings.h"
+#include "base/SettingsFormat.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 /** The settings store, on a file of its own. */
 class tst_Settings : public QObject
@@ -23,6 +30,11 @@ private slots:
     void agreementIsRememberedByWording();
     void skippedVersions();
     void ignoredWarnings();
+    void isTheFormOfOtherVersions_data();
+    void isTheFormOfOtherVersions();
+    void readsWhatPeopleWrite();
+    void keepsTheOldFileOnAFullDisk_data();
+    void keepsTheOldFileOnAFullDisk();
 
 private:
     QTemporaryDir m_dir;
@@ -157,6 +169,141 @@ void tst_Settings::ignoredWarnings()
     QCOMPARE(GGlobalIgnoreList::ignoredWarnings(), QStringList(QStringLiteral("w")));
     GGlobalIgnoreList::resetIgnoredWarnings();
     QVERIFY(!GSettings().contains(QStringLiteral("ignoredWarnings")));
+}
+
+void tst_Settings::isTheFormOfOtherVersions_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    const auto value = [](const char *name, const QVariant &variant) {
+        QTest::newRow(name) << QStringLiteral("value") << variant;
+    };
+    const auto key = [](const char *name, const QString &text) {
+        QTest::newRow(name) << text << QVariant(QStringLiteral("x"));
+    };
+    value("bool", true);
+    value("number", -42);
+    value("fraction", 0.1);
+    value("time", QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5), Qt::UTC));
+    value("date", QDate(2020, 1, 2));
+    value("size", QSize(3, -4));
+    value("rectangle", QRect(1, 2, 3, 4));
+    value("point", QPoint(-1, 2));
+    value("map", QVariantMap{{QStringLiteral("a"), 1}});
+    value("no value", QVariant());
+    QByteArray bytes;
+    for (int i = 0; i < 512; ++i)
+        bytes += char(i);
+    value("bytes", bytes);
+    value("no bytes", QByteArray(""));
+    const auto texts = [&](const char *name, const QString &text) {
+        value(name, text);
+        value(qPrintable(QStringLiteral("list of %1").arg(QLatin1String(name))),
+              QStringList({text, QStringLiteral("b"), text}));
+    };
+    texts("empty", QLatin1String(""));
+    texts("blanks", QStringLiteral("  a  b\t"));
+    texts("separators", QStringLiteral("a;b,c=d"));
+    texts("quotes", QStringLiteral("\"a\\\" 'b'"));
+    texts("lines", QStringLiteral("a\nb\r\nc"));
+    texts("control characters", QStringLiteral("\u0001a\u0002g\u001fx\u007f0"));
+    texts("zero", QStringLiteral("a") + QChar(0) + QStringLiteral("7"));
+    texts("scripts", QStringLiteral("\u00e41\u4e2d\u6587g\U0001F9F5f"));
+    texts("at", QStringLiteral("@Invalid()"));
+    texts("two at", QStringLiteral("@@x"));
+    texts("percent", QStringLiteral("100%1 %2"));
+    value("empty list", QStringList());
+    value("list of one", QStringList(QStringLiteral("a, b")));
+    value("mixed list", QVariantList({1, QSize(1, 2), QStringLiteral("@a"), QByteArray("b")}));
+    key("group", QStringLiteral("windowSettings/geometry"));
+    key("groups", QStringLiteral("a/b/c/d"));
+    key("named as the first", QStringLiteral("General/a"));
+    key("characters", QStringLiteral("a b=c%d[e]\\\"#;/\u00e4/\u4e2d"));
+    key("number sign", QStringLiteral("#a"));
+}
+
+// Both ways between this program and those that leave the file to QSettings alone.
+void tst_Settings::isTheFormOfOtherVersions()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    const QString path = m_dir.filePath(QStringLiteral("form.ini"));
+    const QString other = QStringLiteral("beside/it");
+    const auto write = [&](QSettings::Format format) {
+        QFile::remove(path);
+        QSettings settings(path, format);
+        settings.setValue(other, QStringLiteral("a"));
+        settings.setValue(key, value);
+    };
+    const auto read = [&](QSettings::Format format) {
+        // Under a name that is new to QSettings, which keeps the values of the others.
+        static int count = 0;
+        const QString copy = path + QString::number(++count);
+        QFile::copy(path, copy);
+        const QSettings settings(copy, format);
+        const QStringList keys = settings.allKeys();
+        return keys.size() == 2 && keys.contains(key) ? settings.value(key) : QVariant("missing");
+    };
+    write(QSettings::IniFormat);
+    const QVariant before = read(QSettings::IniFormat);
+    QCOMPARE(read(SettingsFormat::format()), before);
+    write(SettingsFormat::format());
+    QCOMPARE(read(QSettings::IniFormat), before);
+}
+
+void tst_Settings::readsWhatPeopleWrite()
+{
+    const QByteArray file = "; a \"comment\n # another=1\n[ General ]\r\n\r\n a = \" x \"  \n"
+                            "b=one, \"two, three\" ,four ; not five\nc=\\x41\\\n\\102\n"
+                            "no value\n=no key\n[group\nd=e\n[%GENERAL]\nf=%";
+    const auto settings = SettingsFormat::parse(file);
+    QCOMPARE(settings.value("a").toString(), QStringLiteral(" x "));
+    QCOMPARE(settings.value("b").toStringList(), QStringList({"one", "two, three", "four"}));
+    QCOMPARE(settings.value("c").toString(), QStringLiteral("AB"));
+    QCOMPARE(settings.value("group/d").toString(), QStringLiteral("e"));
+    QCOMPARE(settings.value("GENERAL/f").toString(), QStringLiteral("%"));
+    QVERIFY(SettingsFormat::parse("\\").isEmpty());
+    QVERIFY(SettingsFormat::parse("a=\"\\").contains("a"));
+}
+
+void tst_Settings::keepsTheOldFileOnAFullDisk_data()
+{
+    QTest::addColumn<int>("size");
+    // The lock of the file finds room; what fits into a buffer fails when that is emptied.
+    QTest::newRow("less than a buffer") << 9000;
+    QTest::newRow("a buffer and more") << 40000;
+}
+
+void tst_Settings::keepsTheOldFileOnAFullDisk()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, size);
+    const QString key = QStringLiteral("key");
+    GSettings().setValue(key, QString(size, QLatin1Char('x')));
+    GSettings().sync();
+    QFile file(m_dir.filePath(QStringLiteral("settings.ini")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    QVERIFY(before.size() > size);
+
+    rlimit limit{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{4096, limit.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    GSettings().setValue(key, QString(size, QLatin1Char('y')));
+    GSettings().sync();
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, handler);
+    QFile after(file.fileName());
+    QVERIFY(after.open(QIODevice::ReadOnly));
+    QCOMPARE(after.readAll(), before);
+    // What could not be written is not forgotten.
+    GSettings().sync();
+    QFile again(file.fileName());
+    QVERIFY(again.open(QIODevice::ReadOnly));
+    QVERIFY(again.readAll().contains("yyy"));
+#endif
 }
 
 QTEST_GUILESS_MAIN(tst_Settings)
