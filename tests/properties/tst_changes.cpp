@@ -26,9 +26,13 @@ private slots:
     void onlyChainedEditsMerge();
     void rollbackLeavesNothingToRedo();
     void cleanState();
+    void forgetsTheOldest();
+    void staysModifiedWhenItForgets();
     void macroEndsWhenAnObserverThrows();
 
 private:
+    void bigStep();
+
     std::unique_ptr<GProject> m_project;
     PropertyInt *m_a = nullptr;
     PropertyInt *m_b = nullptr;
@@ -211,6 +215,56 @@ void TestChanges::cleanState()
     QVERIFY(!stack->isClean());
     QVERIFY(stack->canUndo());
     stack->resetClean();
+    QVERIFY(!stack->isClean());
+}
+
+/** One of more commands than the stack is to hold. */
+void TestChanges::bigStep()
+{
+    const auto macro = m_project->undoStack()->createMacroBlock(QStringLiteral("big"));
+    for (int i = 0; i <= GUndoStack::MaximumCommands / 2; ++i) {
+        m_a->setValue(m_a->value() + 1, QString());
+        m_b->setValue(m_b->value() + 1, QString());
+    }
+}
+
+void TestChanges::forgetsTheOldest()
+{
+    GUndoStack *stack = m_project->undoStack();
+    for (int i = 0; i < 10; ++i)
+        bigStep();
+    QCOMPARE(stack->count(), 1);
+    const int value = m_a->value();
+    stack->undo();
+    QVERIFY(m_a->value() < value);
+    stack->redo();
+    for (int i = 0; i < 2 * GUndoStack::MaximumSteps; ++i) {
+        m_a->setValue(m_a->value() + 1, QString());
+        m_b->setValue(m_b->value() + 1, QString());
+    }
+    QCOMPARE(stack->count(), GUndoStack::MaximumSteps);
+}
+
+void TestChanges::staysModifiedWhenItForgets()
+{
+    GUndoStack *stack = m_project->undoStack();
+    bigStep();
+    stack->setClean();
+    // The saved state itself is forgotten; going back leads to another.
+    bigStep();
+    bigStep();
+    while (stack->canUndo())
+        stack->undo();
+    QVERIFY(!stack->isClean());
+    stack->setClean();
+    QVERIFY(stack->isClean());
+
+    for (int i = 0; i < GUndoStack::MaximumSteps; ++i) {
+        m_a->setValue(m_a->value() + 1, QString());
+        m_b->setValue(m_b->value() + 1, QString());
+    }
+    while (stack->canUndo())
+        stack->undo();
     QVERIFY(!stack->isClean());
 }
 

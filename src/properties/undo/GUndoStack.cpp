@@ -4,6 +4,48 @@
 
 #include <algorithm>
 
+static int weightOf(const QUndoCommand *command)
+{
+    int weight = 1;
+    for (int i = 0; i < command->childCount(); ++i)
+        weight += weightOf(command->child(i));
+    return weight;
+}
+
+GUndoStack::GUndoStack()
+{
+    setUndoLimit(MaximumSteps);
+}
+
+void GUndoStack::push(QUndoCommand *command)
+{
+    makeRoom();
+    QUndoStack::push(command);
+}
+
+void GUndoStack::beginMacro(const QString &text)
+{
+    makeRoom();
+    QUndoStack::beginMacro(text);
+}
+
+/** QUndoStack knows no other limit than the number of steps, and a step may hold any number. */
+void GUndoStack::makeRoom()
+{
+    // That is how it is within a macro, too, where nothing can be forgotten.
+    if (!canUndo())
+        return;
+    int weight = 0;
+    for (int i = 0; i < count(); ++i)
+        weight += weightOf(command(i));
+    if (weight <= MaximumCommands)
+        return;
+    const bool clean = isClean();
+    clear();
+    if (!clean)
+        resetClean();
+}
+
 MacroBlock GUndoStack::createMacroBlock(const QString &text)
 {
     beginMacro(text);

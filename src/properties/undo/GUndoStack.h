@@ -12,15 +12,24 @@ class Observable;
 /**
  * The road of all edits of a document and the keeper of its clean state. Commands
  * that don't touch the data model leave the document clean; macros dirty it.
+ *
+ * It holds no more than so many steps and commands; a document that forgotten ones
+ * have changed stays modified until it is saved.
  */
 class GUndoStack : public QUndoStack
 {
     Q_OBJECT
 
 public:
-    GUndoStack() = default;
+    /** Beyond these the oldest steps are forgotten. */
+    static constexpr int MaximumSteps = 100;
+    /** Those within macros count; beyond them a new step makes all others forgotten. */
+    static constexpr int MaximumCommands = 20000;
 
-    using QUndoStack::push;
+    GUndoStack();
+
+    void push(QUndoCommand *command);
+    void beginMacro(const QString &text);
 
     /**
      * Has @p setter called with @p newValue, undoably; nothing happens when the
@@ -55,4 +64,7 @@ public:
 
     /** Whether no command since the clean state has changed the data model. */
     bool isClean() const;
+
+private:
+    void makeRoom();
 };
