@@ -10,6 +10,7 @@ class TagControllerTest : public QObject
 private slots:
     void listsTags();
     void renamesAndRemovesEverywhere();
+    void removingUnusedTagsIsAnEdit();
     void makesTagsOfPaths();
 };
 
@@ -47,6 +48,23 @@ void TagControllerTest::renamesAndRemovesEverywhere()
     undo->undo();
     QCOMPARE(both->tags(), (QStringList{"blue", "red"}));
     QVERIFY(catalogue.project->allTags().isEmpty());
+}
+
+void TagControllerTest::removingUnusedTagsIsAnEdit()
+{
+    Catalogue catalogue;
+    catalogue.add("/d/a", {"item 10", "item 2"});
+    catalogue.project->setAllTags({"item 2", "unused", "item 10"});
+    GUndoStack *undo = catalogue.project->undoStack();
+    undo->setClean();
+    TagController(catalogue.project).removeUnusedTagsFromGlobalList();
+    QCOMPARE(catalogue.project->allTags(), (QStringList{"item 2", "item 10"}));
+    QVERIFY(!undo->isClean());
+    undo->setClean();
+    TagController(catalogue.project).removeUnusedTagsFromGlobalList();
+    QVERIFY(undo->isClean());
+    undo->undo();
+    QVERIFY(catalogue.project->allTags().contains("unused"));
 }
 
 void TagControllerTest::makesTagsOfPaths()

@@ -107,7 +107,10 @@ void TagController::addFileTagsToGlobalList()
 
 void TagController::removeUnusedTagsFromGlobalList()
 {
-    m_project->setAllTags((allTags() & usedTags()).values());
+    QStringList used = (allTags() & usedTags()).values();
+    LocaleAwareFunctions::sort(used);
+    // Unlike what follows from the files' tags, that the others are gone is known only here.
+    m_project->allTagsProp()->setValue(used, tr("remove unused tags"));
 }
 
 void TagController::createFakeTags()

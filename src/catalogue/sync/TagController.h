@@ -39,6 +39,7 @@ public:
     void removeTag(const QString &tag);
 
     void addFileTagsToGlobalList();
+    /** An edit like any other: one undo step, unless all tags are used. */
     void removeUnusedTagsFromGlobalList();
 
     /**
