@@ -27,6 +27,10 @@ private slots:
     void showsCommonValuePlaceholderOrNothing();
     void typingReachesAllFilesInOneStep();
     void typingInOneFileMerges();
+    void undoGivesEachFileItsOwnText_data();
+    void undoGivesEachFileItsOwnText();
+    void deletedTextIsNotUndone();
+    void otherFilesAreNotUndone();
     void changeFromElsewhereKeepsCursor();
     void wrongTypeIsRefused();
 
@@ -100,6 +104,67 @@ void tst_notesedit::typingInOneFileMerges()
     QCOMPARE(m_project->files().at(0)->notes(), QStringLiteral("for the cushion"));
     QCOMPARE(m_project->undoStack()->count(), 1);
     QCOMPARE(m_project->undoStack()->undoText(), QStringLiteral("'Notes' change"));
+}
+
+void tst_notesedit::undoGivesEachFileItsOwnText_data()
+{
+    QTest::addColumn<bool>("turns");
+    QTest::newRow("at once") << false;
+    QTest::newRow("with the event loop turning") << true;
+}
+
+void tst_notesedit::undoGivesEachFileItsOwnText()
+{
+    QFETCH(bool, turns);
+    const QStringList own{QStringLiteral("roses"), QStringLiteral("leaves"), QString()};
+    const auto notes = [this] {
+        QStringList texts;
+        for (const auto &file : m_project->files())
+            texts.append(file->notes());
+        return texts;
+    };
+    const auto turn = [turns] {
+        if (turns)
+            QCoreApplication::processEvents();
+    };
+    for (int i = 0; i < own.size(); ++i)
+        m_project->files().at(i)->setNotes(own.at(i));
+    edit({0, 1, 2});
+    const QStringList typed{QStringLiteral("abc"), QStringLiteral("abc"), QStringLiteral("abc")};
+    // Back and forth, as often as one likes.
+    QTest::keyClicks(field(), QStringLiteral("abc"));
+    for (int i = 0; i < 3; ++i) {
+        turn();
+        QCOMPARE(notes(), typed);
+        QTest::keySequence(field(), QKeySequence::Undo);
+        QCOMPARE(notes(), own);
+        QTRY_COMPARE(field()->placeholderText(), QStringLiteral("multiple values"));
+        turn();
+        QTest::keySequence(field(), QKeySequence::Redo);
+    }
+    QCOMPARE(notes(), typed);
+    QVERIFY(!m_project->undoStack()->isClean());
+}
+
+void tst_notesedit::deletedTextIsNotUndone()
+{
+    m_project->files().at(0)->setNotes(QStringLiteral("roses"));
+    edit({0, 1});
+    QTest::keyClicks(field(), QStringLiteral("a"));
+    QTest::keyClick(field(), Qt::Key_Backspace);
+    QVERIFY(m_project->files().at(0)->notes().isEmpty());
+}
+
+void tst_notesedit::otherFilesAreNotUndone()
+{
+    m_project->files().at(1)->setNotes(QStringLiteral("abc"));
+    edit({0});
+    QTest::keyClicks(field(), QStringLiteral("abc"));
+    // The text is the same, and stays in the field as it is.
+    edit({1});
+    QTest::keySequence(field(), QKeySequence::Undo);
+    QCOMPARE(m_project->files().at(1)->notes(), QStringLiteral("abc"));
+    QCOMPARE(m_project->files().at(0)->notes(), QStringLiteral("abc"));
 }
 
 void tst_notesedit::changeFromElsewhereKeepsCursor()

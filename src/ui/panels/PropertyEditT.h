@@ -44,22 +44,45 @@ public:
     /** Writes to all properties, as one undo step. */
     void setValue(const T &newValue)
     {
-        const QString undoText = PropertyEdit::tr("'%1' change").arg(description()->displayName());
         if (m_typed.count() == 1)
-            m_typed.first()->setValue(newValue, undoText);
+            m_typed.first()->setValue(newValue, undoText());
         else if (m_typed.count() > 1)
-            setAllValues(newValue, undoText + QStringLiteral(" (%1x)").arg(m_typed.count()));
+            setAllValues([&newValue](int) { return newValue; });
+    }
+
+    /** Those of all properties, in their order. */
+    QList<T> values() const
+    {
+        QList<T> values;
+        values.reserve(m_typed.count());
+        for (const P *property : m_typed)
+            values.append(property->value());
+        return values;
+    }
+
+    /** Writes to each property its own of as many values, as one undo step. */
+    void setValues(const QList<T> &newValues)
+    {
+        setAllValues([&newValues](int index) { return newValues.at(index); });
     }
 
 private:
-    void setAllValues(const T &newValue, const QString &undoText)
+    QString undoText() const
     {
+        return PropertyEdit::tr("'%1' change").arg(description()->displayName());
+    }
+
+    template <class ValueAt>
+    void setAllValues(ValueAt valueAt)
+    {
+        const QString text = undoText() + QStringLiteral(" (%1x)").arg(m_typed.count());
         GUndoStack *undoStack = project()->undoStack();
         const QList<const Observable *> observables(m_typed.begin(), m_typed.end());
-        undoStack->beginMacroAndDeferAnnouncements(undoText, observables);
-        for (P *property : qAsConst(m_typed)) {
-            if (!(property->value() == newValue))
-                property->setValue(newValue, undoText);
+        undoStack->beginMacroAndDeferAnnouncements(text, observables);
+        for (int i = 0; i < m_typed.count(); ++i) {
+            const T newValue = valueAt(i);
+            if (!(m_typed.at(i)->value() == newValue))
+                m_typed.at(i)->setValue(newValue, text);
         }
         undoStack->endMacroAndExecuteAnnouncements();
     }

@@ -19,6 +19,17 @@ PropertyStringMultilineEdit::PropertyStringMultilineEdit(QWidget *parent,
     PropertyStringMultilineEdit::disableWidget();
 }
 
+void PropertyStringMultilineEdit::setProperties(const QList<Property *> &properties)
+{
+    const bool same = properties == this->properties();
+    PropertyEditT::setProperties(properties);
+    if (same || !m_edit)
+        return;
+    // What was typed into other records is not to be undone in these.
+    m_typedOver.clear();
+    m_edit->document()->clearUndoRedoStacks();
+}
+
 QWidget *PropertyStringMultilineEdit::widget()
 {
     return m_edit;
@@ -28,6 +39,7 @@ void PropertyStringMultilineEdit::disableWidget()
 {
     if (!m_edit)
         return;
+    m_showsMultipleValues = false;
     setTextSilently(QString());
     m_edit->setPlaceholderText(QString());
     m_edit->setEnabled(false);
@@ -37,6 +49,7 @@ void PropertyStringMultilineEdit::setMultiState()
 {
     if (!m_edit)
         return;
+    m_showsMultipleValues = true;
     setTextSilently(QString());
     m_edit->setPlaceholderText(multiText());
     m_edit->setEnabled(true);
@@ -46,21 +59,42 @@ void PropertyStringMultilineEdit::displayValue()
 {
     if (!m_edit)
         return;
-    // Setting an equal text would take the cursor away from where the user types.
-    if (value() != m_edit->toPlainText())
-        setTextSilently(value());
+    m_showsMultipleValues = false;
+    setTextSilently(value());
     m_edit->setPlaceholderText(QString());
     m_edit->setEnabled(true);
 }
 
 void PropertyStringMultilineEdit::textChanged()
 {
-    if (m_signalsActive)
-        setValue(m_edit->toPlainText());
+    if (!m_signalsActive)
+        return;
+    if (isUndone()) {
+        setValues(m_typedOver);
+        m_typedOver.clear();
+        // The field tells so later only, and may be typed into before.
+        m_showsMultipleValues = !allValuesIdentical();
+        return;
+    }
+    if (m_showsMultipleValues && m_typedOver.isEmpty())
+        m_typedOver = values();
+    setValue(m_edit->toPlainText());
+}
+
+/** Whether all that was typed over differing texts is undone: not deleted, which is an edit. */
+bool PropertyStringMultilineEdit::isUndone() const
+{
+    return !m_typedOver.isEmpty() && m_edit->document()->isEmpty() &&
+           !m_edit->document()->isUndoAvailable();
 }
 
 void PropertyStringMultilineEdit::setTextSilently(const QString &text)
 {
+    // Setting an equal text would take the cursor away from where the user types, and all that
+    // he can undo.
+    if (text == m_edit->toPlainText())
+        return;
     const QScopedValueRollback<bool> silence(m_signalsActive, false);
     m_edit->setPlainText(text);
+    m_typedOver.clear();
 }

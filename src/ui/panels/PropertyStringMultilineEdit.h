@@ -8,7 +8,10 @@
 
 class GResizingTextEdit;
 
-/** A field of several lines for a text that one or many records have. */
+/**
+ * A field of several lines for a text that one or many records have. What is typed over
+ * differing texts can be undone in the field: each record then gets its own text back.
+ */
 class PropertyStringMultilineEdit : public PropertyEditT<PropertyString, QString>
 {
     Q_OBJECT
@@ -18,6 +21,7 @@ public:
     PropertyStringMultilineEdit(QWidget *parent, PropertyDescriptionString *description,
                                 GProject *project);
 
+    void setProperties(const QList<Property *> &properties) override;
     QWidget *widget() override;
 
 protected:
@@ -28,7 +32,11 @@ protected:
 private:
     void textChanged();
     void setTextSilently(const QString &text);
+    bool isUndone() const;
 
     QPointer<GResizingTextEdit> m_edit;
     bool m_signalsActive = true;
+    bool m_showsMultipleValues = false;
+    /** What the records had before something was typed over their differing texts. */
+    QStringList m_typedOver;
 };
