@@ -1,4 +1,5 @@
 #include "app/application/SingleApplication.h"
+#include "app/application/TerminationSignals.h"
 #include "base/DependencyRegistry.h"
 #include "base/ExitDeadline.h"
 #include "base/FileNameEncoding.h"
@@ -71,6 +72,9 @@ int runApplication(int argc, char **argv)
     Metrics::createInstance(QStringLiteral("40817263"));
     if (arguments.contains(QStringLiteral("--do-not-track")))
         Metrics::instance()->setDoNotTrack(true);
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::received, &app,
+                     &GApplication::quitWhenIdle);
     const int result = app.exec();
     ExitDeadline::start(ExitLimit, result);
     return result;

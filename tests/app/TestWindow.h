@@ -21,9 +21,13 @@ public:
     }
     bool saveFile(const QString &) override { return true; }
     bool isModified() const override { return modified; }
+    bool isBusy() const override { return busy; }
+    void cancelWork() override { cancelled = true; }
 
     bool modified = false;
     bool canLoad = false;
+    bool busy = false;
+    bool cancelled = false;
     QStringList loadedFiles;
 
 protected:

@@ -60,12 +60,14 @@ private slots:
     void barrier_data();
     void barrier();
     void barrierShowsErrorsOfWorkers();
-    void outlivesItsWindow();
+    void barrierElsewhere();
+    void endsWithItsLastWindow();
     void cancelledQuitKeepsTheProgram();
     void listsWindows();
     void keepsWindowState();
     void closesOnceConfirmed();
     void opensAFileInItsWindow();
+    void quitsWhenIdle();
     void quitsWhenTheWindowsAreGone();
 
 private:
@@ -172,6 +174,19 @@ void tst_application::barrier()
     QVERIFY2(answer.text().startsWith(text), qPrintable(answer.text()));
 }
 
+// Where Qt enters the program without notify(), as with the signals of the application.
+void tst_application::barrierElsewhere()
+{
+    for (const Throw action : {Throw([] { throw Error(QStringLiteral("The disk is full.")); }),
+                               Throw([] { throw std::runtime_error("a < b"); })}) {
+        const MessageBoxes answer;
+        QVERIFY(!app()->guarded(action));
+        QCOMPARE(answer.count(), 1);
+    }
+    QVERIFY(!app()->guarded([] { throw 42; }));
+    QVERIFY(app()->guarded([] {}));
+}
+
 void tst_application::barrierShowsErrorsOfWorkers()
 {
     QThread worker;
@@ -187,14 +202,15 @@ void tst_application::barrierShowsErrorsOfWorkers()
     QVERIFY(worker.wait());
 }
 
-void tst_application::outlivesItsWindow()
+// Without a dock or an application menu nothing would lead back to a program without a window.
+void tst_application::endsWithItsLastWindow()
 {
     app()->newDocument();
     app()->newDocument();
     QCOMPARE(app()->mainWindowCount(), 1);
-    QVERIFY(theWindow()->closeWindow());
-    QTimer::singleShot(50, app(), [] { QCoreApplication::exit(7); });
-    QCOMPARE(app()->exec(), 7);
+    QTimer::singleShot(0, app(), [] { QVERIFY(theWindow()->closeWindow()); });
+    QTimer::singleShot(10000, app(), [] { QCoreApplication::exit(7); });
+    QCOMPARE(app()->exec(), 0);
     QCOMPARE(app()->mainWindowCount(), 0);
 
     app()->onClickOnDock();
@@ -321,6 +337,35 @@ void tst_application::opensAFileInItsWindow()
 }
 
 // Last, since a program quits once.
+
+// The system may ask at any moment: here in the middle of work, with a dialog and a menu open.
+void tst_application::quitsWhenIdle()
+{
+    auto *window = new TestWindow;
+    window->show();
+    window->busy = true;
+    bool answered = false;
+    QTimer::singleShot(0, app(), [&] {
+        GMessageBox question(GMessageBox::Question, window, QStringLiteral("Remove?"));
+        QTimer::singleShot(0, window, [window] {
+            QMenu menu;
+            menu.addAction(QStringLiteral("Item"));
+            QTimer::singleShot(0, app(), &GApplication::quitWhenIdle);
+            menu.exec(window->mapToGlobal(QPoint()));
+        });
+        answered = question.exec() == QMessageBox::No;
+        // The work sees only now that it was cancelled.
+        QTimer::singleShot(0, window, [window] {
+            QCOMPARE(app()->mainWindowCount(), 1);
+            window->busy = !window->cancelled;
+        });
+    });
+    QTimer::singleShot(10000, app(), [] { QCoreApplication::exit(7); });
+    QCOMPARE(app()->exec(), 0);
+    QVERIFY(answered);
+    QCOMPARE(app()->mainWindowCount(), 0);
+}
+
 void tst_application::quitsWhenTheWindowsAreGone()
 {
     (new TestWindow)->show();

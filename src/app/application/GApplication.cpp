@@ -5,6 +5,7 @@
 #include "app/frame/GFileTypeRegistry.h"
 #include "base/BuildConfig.h"
 #include "base/Error.h"
+#include "base/files/PrivateAccess.h"
 #include "base/GDebug.h"
 #include "base/GSettings.h"
 #include "base/GTranslationLoader.h"
@@ -15,13 +16,8 @@
 
 #include <cstdlib>
 #include <QDir>
-#include <QFileOpenEvent>
 #include <QMessageBox>
 #include <QTimer>
-
-#ifdef Q_OS_MACOS
-#include <QColorDialog>
-#endif
 
 GApplication::GApplication(int &argc, char **argv, const QString &applicationName,
                            const QString &version, const QString &shortName, bool singleWindowMode)
@@ -48,6 +44,7 @@ GApplication::GApplication(int &argc, char **argv, const QString &applicationNam
     BreakpadCrashHandler::install();
     setAttribute(Qt::AA_UseHighDpiPixmaps);
     setQuitOnLastWindowClosed(false);
+    prepareToQuit();
     createApplicationLevelActions();
     connect(&m_recentFileProvider, &GRecentFileProvider::loadFile, this, &GApplication::openFile);
     connect(&m_recentFileProvider, &GRecentFileProvider::fileListRefreshed, this,
@@ -57,6 +54,7 @@ GApplication::GApplication(int &argc, char **argv, const QString &applicationNam
     m_windowMenu = std::make_unique<QMenu>(tr("&Window"));
     connect(m_windowMenu.get(), &QMenu::aboutToShow, this, &GApplication::updateWindowMenu);
     m_firstStart = GSettings().getAndSetFirstStart();
+    PrivateAccess::takeFromOthers(GSettings().fileName());
     QDir::setCurrent(QDir::homePath());
     QTimer::singleShot(0, this, &GApplication::createApplicationLevelMenuBar);
 }
@@ -75,41 +73,43 @@ GApplication *GApplication::instance()
 
 bool GApplication::nativeEventFilter(const QByteArray &eventType, void *message, long *result)
 {
-    return fileAssociationHandler()->nativeEventFilter(eventType, message, result);
-}
-
-bool GApplication::event(QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::Close:
-        closeAllWindowsAndQuit();
-        event->ignore();
-        return true;
-    case QEvent::ApplicationActivate:
-        emit activate();
-        break;
-    case QEvent::FileOpen:
-        openFile(static_cast<QFileOpenEvent *>(event)->file());
-        return true;
-    default:
-        break;
-    }
-    return QApplication::event(event);
+    bool taken = false;
+    guarded(
+        [&] { taken = fileAssociationHandler()->nativeEventFilter(eventType, message, result); });
+    return taken;
 }
 
 bool GApplication::notify(QObject *receiver, QEvent *event)
 {
     try {
         return QApplication::notify(receiver, event);
-    } catch (const Error &error) {
-        emit criticalError(
-            tr("Caught unhandled error:<br/>%1<br/>").arg(error.toString().toHtmlEscaped()));
-    } catch (const std::exception &exception) {
-        reportException(exception);
     } catch (...) {
-        logUnknownException();
+        reportCaught();
     }
     return false;
+}
+
+void GApplication::reportCaught() noexcept
+{
+    try {
+        try {
+            throw;
+        } catch (const Error &error) {
+            reportError(error);
+        } catch (const std::exception &exception) {
+            reportException(exception);
+        } catch (...) {
+            logUnknownException();
+        }
+    } catch (...) {
+        // Nothing is left to tell it with.
+    }
+}
+
+void GApplication::reportError(const Error &error)
+{
+    emit criticalError(
+        tr("Caught unhandled error:<br/>%1<br/>").arg(error.toString().toHtmlEscaped()));
 }
 
 void GApplication::reportException(const std::exception &exception)
@@ -130,19 +130,6 @@ void GApplication::logUnknownException()
 void GApplication::displayCriticalError(const QString &text)
 {
     QMessageBox::critical(nullptr, tr("Critical Exception"), text);
-}
-
-void GApplication::registerMainWindow(GMainWindow *window)
-{
-    m_mainWindows.append(window);
-    updateWindowMenu();
-}
-
-void GApplication::unregisterMainWindow(GMainWindow *window)
-{
-    m_mainWindows.removeOne(window);
-    if (m_quitting && m_mainWindows.isEmpty())
-        quit();
 }
 
 int GApplication::mainWindowCount() const
@@ -182,27 +169,6 @@ void GApplication::finalizeStartup()
     const QStringList names = std::exchange(m_filesToOpen, {});
     for (const QString &name : names)
         openFile(name);
-}
-
-bool GApplication::closeAllWindowsAndQuit()
-{
-#ifdef Q_OS_MACOS
-    // Dismisses the colour panel of the platform, which would keep the program alive.
-    {
-        QColorDialog panel;
-        panel.setOption(QColorDialog::NoButtons);
-        panel.setCurrentColor(Qt::white);
-    }
-#endif
-    const QList<GMainWindow *> windows = m_mainWindows;
-    for (GMainWindow *window : windows) {
-        if (!window->closeWindow())
-            return false;
-    }
-    m_quitting = true;
-    if (m_mainWindows.isEmpty())
-        quit();
-    return true;
 }
 
 void GApplication::onClickOnDock()

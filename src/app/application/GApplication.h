@@ -9,7 +9,9 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 
+class Error;
 class GAction;
 class GFileType;
 class GMainWindow;
@@ -18,6 +20,9 @@ class GMainWindow;
  * The frame's application object: the commands that belong to no window, the
  * registry of windows, what opening a file means, the barrier that exceptions
  * end at, and quitting. Main thread only.
+ *
+ * Where there is neither a dock nor an application menu to come back through, the
+ * program ends with its last window.
  */
 class GApplication : public QApplication,
                      public GApplicationAddons,
@@ -47,7 +52,27 @@ public:
     QMenu *windowMenu() const;
 
     bool event(QEvent *event) override;
+
+    /** Tells what an event handler has thrown and goes on; nothing thrown ends the program. */
     bool notify(QObject *receiver, QEvent *event) override;
+
+    /**
+     * Runs @p action behind the barrier of notify(): for the roads by which Qt calls us without
+     * going through it, such as the signals of the application itself, and for destructors.
+     * False when something was thrown.
+     */
+    template <class Action>
+    bool guarded(Action &&action) noexcept
+    {
+        try {
+            action();
+            return true;
+        } catch (...) {
+            reportCaught();
+        }
+        return false;
+    }
+
     bool nativeEventFilter(const QByteArray &eventType, void *message, long *result) override;
 
     void registerMainWindow(GMainWindow *window);
@@ -75,6 +100,12 @@ public slots:
     /** Closes the windows in order; false when the user kept one, and nothing is quit then. */
     bool closeAllWindowsAndQuit();
 
+    /**
+     * The same at somebody else's wish, at any moment: cancels what is running and what is
+     * being asked, and closes the windows as soon as that has come to its end.
+     */
+    void quitWhenIdle();
+
     virtual void newDocument();
     virtual void openDocument();
     virtual void showFeedbackDialog() = 0;
@@ -100,11 +131,17 @@ protected:
     /** Ends the start-up and opens the files that came in meanwhile. */
     void finalizeStartup();
 
-    /** Reports what is neither an Error nor to be shown as one. */
-    void reportException(const std::exception &exception);
-    static void logUnknownException();
+    /** Shows what was caught as an Error. */
+    virtual void reportError(const Error &error);
 
 private:
+    void reportCaught() noexcept;
+    void reportException(const std::exception &exception);
+    static void logUnknownException();
+    void prepareToQuit();
+    void saveForSessionEnd(QSessionManager &manager);
+    bool isBusy() const;
+    void cancelWork();
     void createApplicationLevelActions();
     void createApplicationLevelMenuBar();
     void displayCriticalError(const QString &text);
@@ -130,6 +167,7 @@ private:
     std::unique_ptr<QMenu> m_windowMenu;
     std::unique_ptr<QMenuBar> m_menuBar;
     bool m_quitting = false;
+    QTimer m_quitTimer;
     QList<GMainWindow *> m_mainWindows;
     bool m_firstStart = false;
     ErrorCollector m_errorCollector;

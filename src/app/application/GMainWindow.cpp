@@ -185,14 +185,14 @@ void GMainWindow::saveAs()
 
 bool GMainWindow::closeWindow()
 {
-    m_closeConfirmed = confirmCloseWindowIfModified();
+    m_closeConfirmed = !isBusy() && confirmClose();
     if (!m_closeConfirmed)
         return false;
     close();
     return m_closeConfirmed;
 }
 
-bool GMainWindow::confirmCloseWindowIfModified()
+bool GMainWindow::confirmClose()
 {
     if (!isModified())
         return true;
@@ -214,7 +214,7 @@ bool GMainWindow::confirmCloseWindowIfModified()
 
 void GMainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_closeConfirmed && !confirmCloseWindowIfModified()) {
+    if (!m_closeConfirmed && (isBusy() || !confirmClose())) {
         event->ignore();
         return;
     }
@@ -224,6 +224,18 @@ void GMainWindow::closeEvent(QCloseEvent *event)
     saveWindowState(QString());
     shutdownWindow();
 }
+
+bool GMainWindow::saveForSessionEnd()
+{
+    return !isModified();
+}
+
+bool GMainWindow::isBusy() const
+{
+    return false;
+}
+
+void GMainWindow::cancelWork() {}
 
 void GMainWindow::shutdownWindow() {}
 

@@ -48,6 +48,23 @@ public:
     virtual bool saveFile(const QString &name) = 0;
     virtual bool isModified() const = 0;
 
+    /**
+     * Whether the window may close; when what is in it would be lost, the user is asked.
+     * May be called when the window then stays.
+     */
+    virtual bool confirmClose();
+
+    /**
+     * Saves what must outlive the end of the session, which may still be called off. Asks
+     * nobody; false when it could not be saved.
+     */
+    virtual bool saveForSessionEnd();
+
+    /** Whether long work is running that lets events in. The window can't be closed then. */
+    virtual bool isBusy() const;
+    /** Asks such work to come to its end. */
+    virtual void cancelWork();
+
 public slots:
     void showRaiseActivateWindow();
     virtual void save();
@@ -87,7 +104,6 @@ protected:
 
 private:
     void createBasicActions();
-    bool confirmCloseWindowIfModified();
     QString settingsGroup(const QString &group) const;
     QList<QSplitter *> namedSplitters() const;
 

@@ -54,7 +54,7 @@ HooplineApplication::HooplineApplication(int &argc, char **argv)
 
 HooplineApplication::~HooplineApplication()
 {
-    GlobalTracking::aboutToQuit();
+    guarded([] { GlobalTracking::aboutToQuit(); });
 }
 
 HooplineApplication *HooplineApplication::instance()
@@ -98,24 +98,10 @@ QPixmap HooplineApplication::updaterPixmap() const
     return QPixmap(QStringLiteral(":/hoopline.png"));
 }
 
-bool HooplineApplication::notify(QObject *receiver, QEvent *event)
-{
-    try {
-        // This barrier stands in the place of the base class's.
-        return QApplication::notify(receiver, event); // NOLINT(bugprone-parent-virtual-call)
-    } catch (const Error &error) {
-        showError(error.toString());
-    } catch (const std::exception &exception) {
-        reportException(exception);
-    } catch (...) {
-        logUnknownException();
-    }
-    return false;
-}
-
-void HooplineApplication::showError(const QString &text)
+void HooplineApplication::reportError(const Error &error)
 {
     // Also what a worker's event handler throws is shown by the thread that has the windows.
+    const QString text = error.toString();
     QMetaObject::invokeMethod(this, [text] { QMessageBox::critical(nullptr, tr("Error"), text); });
 }
 
@@ -126,8 +112,13 @@ void HooplineApplication::emitSyncGlobalSettings()
 
 void HooplineApplication::newDocument()
 {
-    if (mainWindowCount() == 0)
+    if (mainWindowCount() > 0)
+        return;
+    try {
         windowFactory()()->show();
+    } catch (const AbortException &) {
+        closeAllWindowsAndQuit();
+    }
 }
 
 void HooplineApplication::showPreferences()
@@ -154,8 +145,10 @@ void HooplineApplication::launch()
         finalizeStartup();
         window->show();
         QTimer::singleShot(NetworkDelay, this, &HooplineApplication::launchAsyncNetworkTasks);
+    } catch (const AbortException &) {
+        closeAllWindowsAndQuit();
     } catch (const Error &error) {
-        showError(error.toString());
+        reportError(error);
         closeAllWindowsAndQuit();
     }
 }

@@ -35,14 +35,11 @@ public:
     QList<GAction *> applicationLevelToolbarActions() const override;
     QPixmap updaterPixmap() const override;
 
-    /** Shows an Error to the user and goes on; nothing thrown by a handler ends the program. */
-    bool notify(QObject *receiver, QEvent *event) override;
-
     /** Says that a setting which widgets keep a copy of has changed. */
     void emitSyncGlobalSettings();
 
 public slots:
-    /** Makes the window, unless there is one. */
+    /** Makes the window, unless there is one. Quits when the user gives it up. */
     void newDocument() override;
     void showPreferences() override;
     void showFeedbackDialog() override;
@@ -54,8 +51,9 @@ signals:
     /** Widgets that keep a copy of a setting read it again. */
     void syncGlobalSettings();
 
-private:
-    void showError(const QString &text);
+protected:
+    void reportError(const Error &error) override;
 
+private:
     QSharedPointer<WindowsUpdater> m_updater;
 };
