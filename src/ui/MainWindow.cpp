@@ -1,5 +1,6 @@
 #include "ui/MainWindow.h"
 
+#include "app/application/HooplineApplication.h"
 #include "app/frame/GAction.h"
 #include "app/frame/GFileDialog.h"
 #include "base/Error.h"
@@ -7,10 +8,13 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"
+#include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/ProjectController.h"
 #include "online/metrics/Metrics.h"
 #include "preview/cache/PreviewCache.h"
+#include "ui/CatalogueKeeper.h"
+#include "ui/CatalogueQuestions.h"
 #include "ui/CenterView.h"
 #include "ui/ExportDialog.h"
 #include "ui/LeftSidebar.h"
@@ -21,6 +25,7 @@
 #include "widgets/style/GWidgetStyles.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QFontMetrics>
@@ -51,8 +56,7 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
     QCoreApplication::processEvents();
 
     setWindowTitle(QGuiApplication::applicationDisplayName());
-    m_controller = std::make_unique<ProjectController>();
-    m_controller->loadOrCreateProject();
+    const bool folderWasMissing = loadCatalogue(&splash);
     m_project = m_controller->project();
     m_progressDialog = new ProgressDialog(this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this,
@@ -73,22 +77,47 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
         updateUI();
     else
         filter()->setDirectory(folders.first());
+    m_keeper->tellKept();
+    if (folderWasMissing)
+        m_keeper->tellFolderWasMissing();
 }
 
 MainWindow::~MainWindow()
 {
-    PreviewCache::instance().clear();
-    saveAtEnd();
+    HooplineApplication::instance()->guarded([this] {
+        PreviewCache::instance().clear();
+        m_keeper->saveAnyway();
+    });
     // The panes use the models, which go with the controller.
     delete m_splitter;
 }
 
-void MainWindow::saveAtEnd()
+/** True when the folder of the catalogue was missing though it should have been there. */
+bool MainWindow::loadCatalogue(QWidget *splash)
 {
-    try {
-        m_controller->saveProjectIfModified();
-    } catch (const Error &error) {
-        QMessageBox::critical(nullptr, tr("Error"), error.toString());
+    bool folderWasMissing = false;
+    const auto ask = [splash](const Error &error) {
+        // It would lie over the question.
+        splash->hide();
+        if (!CatalogueQuestions::wantsToTryAgain(error))
+            throw AbortException();
+        splash->show();
+    };
+    for (;;) {
+        m_controller = std::make_unique<ProjectController>();
+        try {
+            m_controller->loadOrCreateProject();
+            return folderWasMissing;
+        } catch (const CatalogueFolderMissingError &error) {
+            // Where drives are mounted, the user may seldom make a folder.
+            folderWasMissing = QDir().mkpath(GlobalSettings().applicationDataPath());
+            if (!folderWasMissing)
+                ask(error);
+        } catch (const CatalogueUnusableError &error) {
+            ask(error);
+        } catch (const CatalogueUnsavedError &error) {
+            ask(error);
+        }
     }
 }
 
@@ -113,6 +142,7 @@ void MainWindow::createPanes()
     m_left = new LeftSidebar(this, m_project, model->filter());
     m_center = new CenterView(this, m_project, model);
     m_right = new RightSidebar(this, m_project, model->selection());
+    m_keeper = std::make_unique<CatalogueKeeper>(m_controller.get(), m_notices, this);
     m_splitter->addWidget(m_left);
     m_splitter->addWidget(m_center);
     m_splitter->addWidget(m_right);
@@ -152,11 +182,33 @@ void MainWindow::readSettings(GSettings &settings)
     m_right->restoreWidgetState(settings);
 }
 
-void MainWindow::shutdownWindow()
+bool MainWindow::confirmClose()
 {
-    // An edit that is under way is finished by the loss of the focus.
+    finishEdit();
+    return m_keeper->saveBeforeEnd();
+}
+
+bool MainWindow::saveForSessionEnd()
+{
+    finishEdit();
+    return m_keeper->saveAnyway();
+}
+
+void MainWindow::cancelWork()
+{
+    m_progressDialog->reject();
+}
+
+/** An edit that is under way is finished by the loss of the focus. */
+void MainWindow::finishEdit()
+{
     if (QWidget *widget = focusWidget())
         widget->clearFocus();
+}
+
+void MainWindow::shutdownWindow()
+{
+    finishEdit();
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -186,9 +238,18 @@ void MainWindow::runWithProgress(const std::function<void()> &operation)
 {
     const QScopedValueRollback<bool> running(m_operationRunning, true);
     m_center->setScanning(true);
-    const auto scanned = qScopeGuard([this] { m_center->setScanning(false); });
+    m_keeper->setPaused(true);
+    const auto scanned = qScopeGuard([this] {
+        m_keeper->setPaused(false);
+        m_center->setScanning(false);
+    });
     m_progressDialog->show();
-    operation();
+    try {
+        operation();
+    } catch (const CatalogueUnsavedError &error) {
+        m_keeper->tellUnsaved(error.reason());
+    }
+    m_keeper->tellKept();
     m_progressDialog->hide();
 }
 
@@ -269,8 +330,11 @@ void MainWindow::updateUI()
 
 void MainWindow::applicationStateChanged(Qt::ApplicationState state)
 {
-    if (state == Qt::ApplicationActive)
-        m_controller->reloadProjectIfNewerOnDisk();
-    else
-        m_controller->saveProjectIfModified();
+    // The signal comes from outside of all event handlers.
+    HooplineApplication::instance()->guarded([this, state] {
+        if (state == Qt::ApplicationActive)
+            m_keeper->reload();
+        else
+            m_keeper->save();
+    });
 }

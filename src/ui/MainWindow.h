@@ -6,6 +6,7 @@
 #include <memory>
 #include <QSharedPointer>
 
+class CatalogueKeeper;
 class CenterView;
 class GToolBar;
 class IFilterModel;
@@ -22,10 +23,21 @@ class MainWindow : public GMainWindow
     Q_OBJECT
 
 public:
-    /** Loads or creates the catalogue. @throws Error when that is not possible */
+    /**
+     * Loads or creates the catalogue. When that is not possible the user may try again.
+     * @throws AbortException when he gives it up
+     */
     MainWindow();
     /** Saves the catalogue. */
     ~MainWindow() override;
+
+    /** Saves the catalogue; the user is asked what to do when that fails. */
+    bool confirmClose() override;
+    bool saveForSessionEnd() override;
+
+    /** During a scan. */
+    bool isBusy() const override { return m_operationRunning; }
+    void cancelWork() override;
 
     /** The catalogue saves itself and is never opened as a document. */
     bool loadFile(const QString &name) override;
@@ -50,6 +62,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    bool loadCatalogue(QWidget *splash);
     void createPanes();
     void createActions();
     void createMenus();
@@ -58,7 +71,7 @@ private:
     void addDirectories(const QStringList &directories);
     void runWithProgress(const std::function<void()> &operation);
     void hideStaleProgress();
-    void saveAtEnd();
+    void finishEdit();
     IFilterModel *filter() const;
 
     GAction *m_addFolderAction = nullptr;
@@ -79,5 +92,6 @@ private:
     RightSidebar *m_right = nullptr;
     QSharedPointer<Project> m_project;
     std::unique_ptr<ProjectController> m_controller;
+    std::unique_ptr<CatalogueKeeper> m_keeper;
     bool m_operationRunning = false;
 };

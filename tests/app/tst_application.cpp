@@ -6,6 +6,7 @@
 #include "base/Error.h"
 #include "online/services/GUrlProvider.h"
 #include "support/MessageBoxes.h"
+#include "widgets/controls/GMessageBox.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>

@@ -73,9 +73,14 @@ void ProjectController::recoverProject()
     keep(damaged, CatalogueFile::Damaged, designs);
 }
 
+bool ProjectController::isModified() const
+{
+    return !m_project->undoStack()->isClean();
+}
+
 void ProjectController::saveProjectIfModified()
 {
-    if (m_project->undoStack()->isClean())
+    if (!isModified())
         return;
     saveProject();
     m_project->undoStack()->setClean();
@@ -146,7 +151,7 @@ void ProjectController::reload(const QByteArray &bytes)
 {
     DataModelReader reader;
     reader.parse(m_project.data(), bytes, m_file.path());
-    const bool modified = !m_project->undoStack()->isClean();
+    const bool modified = isModified();
     const QByteArray present = DataModelWriter().toBytes(m_project.data());
     if (modified)
         keep(present, CatalogueFile::Unsaved);

@@ -78,6 +78,9 @@ public:
      */
     virtual void saveProjectIfModified();
 
+    /** Whether there is something to save. */
+    bool isModified() const;
+
     /** Writes the catalogue as it is now to a file of the user's choice. @throws Error */
     void saveCopy(const QString &path) const;
 

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <chrono>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class CatalogueUnsavedError;
+class NoticeBar;
+class ProjectController;
+
+/**
+ * Gets the catalogue to the disk and back for the window. What fails is told once in the
+ * bar, stays there until it is put right and is tried again every few seconds; what had to
+ * give way to something else is told there as well. Nothing of this is thrown.
+ */
+class CatalogueKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** None is owned, and all must outlive the keeper. @param window what dialogs stand over */
+    CatalogueKeeper(ProjectController *controller, NoticeBar *notices, QWidget *window);
+
+    /** How long to wait before what failed is tried again; some seconds at the start. */
+    void setRetryInterval(std::chrono::milliseconds interval) { m_interval = interval; }
+
+    /** While work on the catalogue is under way that saves at its end, nothing is tried. */
+    void setPaused(bool paused) { m_paused = paused; }
+
+    /** Saves what is modified. */
+    void save();
+
+    /** The same, also while work is under way; false when it could not be saved. */
+    bool saveAnyway();
+
+    /** Takes over a catalogue that is newer on the disk. */
+    void reload();
+
+    /** Tells of a save that somebody else has tried. */
+    void tellUnsaved(const QString &reason);
+
+    /** Tells what had to give way since the last time. */
+    void tellKept();
+
+    /** Tells that the folder of the catalogue was missing and had to be made anew. */
+    void tellFolderWasMissing();
+
+    /**
+     * Saves what is modified, and asks the user what to do as long as that fails. False when
+     * the window is to stay; otherwise nothing is left to be saved, or it was given up.
+     */
+    bool saveBeforeEnd();
+
+private:
+    QString trySave();
+    void tellUnreadable(const QString &reason);
+    void withdrawWhatIsRight();
+    void retryLater(std::chrono::milliseconds lastAttempt);
+    void retry();
+    bool saveCopy();
+
+    ProjectController *m_controller;
+    NoticeBar *m_notices;
+    QWidget *m_window;
+    std::chrono::milliseconds m_interval;
+    QTimer m_retryTimer;
+    bool m_paused = false;
+    bool m_givenUp = false;
+};
