@@ -2,6 +2,98 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CatalogueFile</name>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; is gone. Is its drive plugged in?</source>
+        <translation>Der Ordner „%1“ ist nicht mehr da. Ist sein Laufwerk angeschlossen?</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueKeeper</name>
+    <message>
+        <source>Your last changes could not be saved: %1</source>
+        <translation>Die letzten Änderungen konnten nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Save a copy…</source>
+        <translation>Kopie sichern …</translation>
+    </message>
+    <message>
+        <source>Another program has changed the catalogue, and it cannot be read: %1</source>
+        <translation>Ein anderes Programm hat den Katalog geändert, und er lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>The catalogue was damaged by another program. It was replaced by what is shown here and kept as %1.</source>
+        <translation>Der Katalog wurde von einem anderen Programm beschädigt. Er wurde durch das ersetzt, was hier gezeigt wird, und als %1 aufgehoben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>
+        <translation>
+            <numerusform>Der Katalog war beschädigt. %n Stickmuster konnte übernommen werden; die beschädigte Datei wurde als %1 aufgehoben.</numerusform>
+            <numerusform>Der Katalog war beschädigt. %n Stickmuster konnten übernommen werden; die beschädigte Datei wurde als %1 aufgehoben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program had changed the catalogue. What it wrote was kept as %1.</source>
+        <translation>Ein anderes Programm hatte den Katalog geändert. Was es schrieb, wurde als %1 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the catalogue, which is shown now. Your changes that had not been saved were kept as %1.</source>
+        <translation>Ein anderes Programm hat den Katalog geändert, der jetzt gezeigt wird. Die noch nicht gesicherten Änderungen wurden als %1 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>The folder of the catalogue, %1, was not there, and an empty one was made. Is it on a drive that is not plugged in? Then quit, plug it in and start again.</source>
+        <translation>Der Ordner des Katalogs, %1, war nicht da, und ein leerer wurde angelegt. Liegt er auf einem Laufwerk, das nicht angeschlossen ist? Dann bitte beenden, anschließen und neu starten.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved.</source>
+        <translation>Die Kopie konnte nicht gesichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueQuestions</name>
+    <message>
+        <source>The catalogue cannot be used.</source>
+        <translation>Der Katalog kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Your last changes could not be saved.</source>
+        <translation>Die letzten Änderungen konnten nicht gesichert werden.</translation>
+    </message>
+    <message>
+        <source>Save a copy…</source>
+        <translation>Kopie sichern …</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>Beenden, ohne zu sichern</translation>
+    </message>
+    <message>
+        <source>Save a copy of the catalogue</source>
+        <translation>Kopie des Katalogs sichern</translation>
+    </message>
+    <message>
+        <source>Catalogues (*.xml)</source>
+        <translation>Kataloge (*.xml)</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueReport</name>
     <message>
         <source>File</source>
@@ -63,6 +155,13 @@
     <message>
         <source>Print the version.</source>
         <translation>Die Version ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>DataFolder</name>
+    <message>
+        <source>The folder of the catalogue, &apos;%1&apos;, is not there. Is its drive plugged in?</source>
+        <translation>Der Ordner des Katalogs, „%1“, ist nicht da. Ist sein Laufwerk angeschlossen?</translation>
     </message>
 </context>
 <context>
@@ -379,10 +478,6 @@
         <translation>Wird geladen ...</translation>
     </message>
     <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
         <source>Number of stitches: 99 mm x 99 mm</source>
         <translation>Anzahl der Stiche: 999 mm x 999 mm</translation>
     </message>
@@ -621,6 +716,10 @@
         <source>&apos;%1&apos; is not a Hoopline Organizer project file</source>
         <translation>„%1“ ist keine Projektdatei von Hoopline Organizer</translation>
     </message>
+    <message>
+        <source>Failed to read file &apos;%1&apos;: %2</source>
+        <translation>Die Datei „%1“ konnte nicht gelesen werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>ScanCommand</name>
@@ -661,6 +760,10 @@
     <message>
         <source>auto-create tags</source>
         <translation>Schlagwörter automatisch anlegen</translation>
+    </message>
+    <message>
+        <source>remove unused tags</source>
+        <translation>Unbenutzte Schlagwörter entfernen</translation>
     </message>
 </context>
 <context>

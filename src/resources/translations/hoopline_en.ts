@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CatalogueKeeper</name>
+    <message numerus="yes">
+        <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>
+        <translation>
+            <numerusform>The catalogue was damaged. %n design could be taken over; the damaged file was kept as %1.</numerusform>
+            <numerusform>The catalogue was damaged. %n designs could be taken over; the damaged file was kept as %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CatalogueReport</name>
     <message numerus="yes">
         <source>%n design(s)</source>

@@ -2,6 +2,97 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>CatalogueFile</name>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; is gone. Is its drive plugged in?</source>
+        <translation>文件夹“%1”不见了。它所在的驱动器是否已连接？</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueKeeper</name>
+    <message>
+        <source>Your last changes could not be saved: %1</source>
+        <translation>最近的更改无法保存：%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Save a copy…</source>
+        <translation>保存副本…</translation>
+    </message>
+    <message>
+        <source>Another program has changed the catalogue, and it cannot be read: %1</source>
+        <translation>另一个程序更改了目录，现在无法读取：%1</translation>
+    </message>
+    <message>
+        <source>The catalogue was damaged by another program. It was replaced by what is shown here and kept as %1.</source>
+        <translation>目录被另一个程序损坏。它已由此处显示的内容替换，并保留为 %1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>
+        <translation>
+            <numerusform>目录已损坏。已恢复 %n 个花样；损坏的文件保留为 %1。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Another program had changed the catalogue. What it wrote was kept as %1.</source>
+        <translation>另一个程序更改过目录。它写入的内容保留为 %1。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the catalogue, which is shown now. Your changes that had not been saved were kept as %1.</source>
+        <translation>另一个程序更改了目录，现在显示的就是它。您尚未保存的更改保留为 %1。</translation>
+    </message>
+    <message>
+        <source>The folder of the catalogue, %1, was not there, and an empty one was made. Is it on a drive that is not plugged in? Then quit, plug it in and start again.</source>
+        <translation>目录所在的文件夹 %1 不存在，已新建一个空文件夹。它是否位于未连接的驱动器上？如果是，请退出，连接驱动器后重新启动。</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved.</source>
+        <translation>无法保存副本。</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueQuestions</name>
+    <message>
+        <source>The catalogue cannot be used.</source>
+        <translation>目录无法使用。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Your last changes could not be saved.</source>
+        <translation>最近的更改无法保存。</translation>
+    </message>
+    <message>
+        <source>Save a copy…</source>
+        <translation>保存副本…</translation>
+    </message>
+    <message>
+        <source>Quit without saving</source>
+        <translation>不保存并退出</translation>
+    </message>
+    <message>
+        <source>Save a copy of the catalogue</source>
+        <translation>保存目录副本</translation>
+    </message>
+    <message>
+        <source>Catalogues (*.xml)</source>
+        <translation>目录 (*.xml)</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueReport</name>
     <message>
         <source>File</source>
@@ -62,6 +153,13 @@
     <message>
         <source>Print the version.</source>
         <translation>显示版本。</translation>
+    </message>
+</context>
+<context>
+    <name>DataFolder</name>
+    <message>
+        <source>The folder of the catalogue, &apos;%1&apos;, is not there. Is its drive plugged in?</source>
+        <translation>目录所在的文件夹“%1”不存在。它所在的驱动器是否已连接？</translation>
     </message>
 </context>
 <context>
@@ -377,10 +475,6 @@
         <translation>正在载入…</translation>
     </message>
     <message>
-        <source>Error</source>
-        <translation>错误</translation>
-    </message>
-    <message>
         <source>Number of stitches: 99 mm x 99 mm</source>
         <translation>绣花花样的总针数：99 毫米 x 99 毫米</translation>
     </message>
@@ -618,6 +712,10 @@
         <source>&apos;%1&apos; is not a Hoopline Organizer project file</source>
         <translation>“%1”不是 Hoopline Organizer 项目文件</translation>
     </message>
+    <message>
+        <source>Failed to read file &apos;%1&apos;: %2</source>
+        <translation>无法读取文件“%1”：%2</translation>
+    </message>
 </context>
 <context>
     <name>ScanCommand</name>
@@ -658,6 +756,10 @@
     <message>
         <source>auto-create tags</source>
         <translation>自动创建标签</translation>
+    </message>
+    <message>
+        <source>remove unused tags</source>
+        <translation>删除未使用的标签</translation>
     </message>
 </context>
 <context>
