@@ -6,9 +6,7 @@
 #include "support/TestClock.h"
 
 #include <cstdio>
-#include <QEventLoop>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <unistd.h>
 
 namespace {
@@ -17,13 +15,6 @@ void say(const QByteArray &line)
 {
     std::printf("%s\n", line.constData());
     std::fflush(stdout);
-}
-
-void letEventsIn()
-{
-    QEventLoop loop;
-    QTimer::singleShot(100, &loop, &QEventLoop::quit);
-    loop.exec();
 }
 
 /** Tells how long the program would have waited, and goes on. */
@@ -43,13 +34,7 @@ int main(int argc, char **argv)
 {
     using Mode = SingleApplication::Mode;
     const QByteArray role = argc > 1 ? argv[1] : "";
-    const bool windowless = role == "windowless";
-    HooplineApplication::setWindowFactory([windowless] {
-        // As a window does that shows a splash screen first.
-        if (windowless)
-            letEventsIn();
-        return new TestWindow;
-    });
+    HooplineApplication::setWindowFactory([] { return new TestWindow; });
     const bool secondary = role == "secondary";
     SingleApplication app(argc, argv, secondary,
                           Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000,
@@ -68,16 +53,6 @@ int main(int argc, char **argv)
                      [](quint32 id, const QByteArray &message) {
                          say("message " + QByteArray::number(id) + " " + message);
                      });
-    QTimer untilShown;
-    QObject::connect(&untilShown, &QTimer::timeout, &app, [&untilShown] {
-        if (!theWindow() || !theWindow()->isVisible())
-            return;
-        untilShown.stop();
-        delete theWindow();
-        say("windowless");
-    });
-    if (windowless)
-        untilShown.start(10);
     // Ends in good order when the test lets go of it or is no more.
     const QSocketNotifier letGo(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&letGo, &QSocketNotifier::activated, &app, &QCoreApplication::quit);

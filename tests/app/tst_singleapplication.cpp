@@ -67,7 +67,6 @@ private slots:
     void init();
     void cleanup();
     void secondStartEndsAndRaisesThePrimary();
-    void secondStartBringsTheWindowBack();
     void secondaryTalksToThePrimary();
     void twentyStartsLeaveOnePrimary();
     void killedPrimaryLocksNobodyOut();
@@ -147,19 +146,6 @@ void tst_singleapplication::secondStartEndsAndRaisesThePrimary()
     QCOMPARE(second->exitCode(), 0);
     QVERIFY(waitForLine(*m_primary, "started 1"));
     QVERIFY(!second->readAllStandardOutput().contains("primary"));
-}
-
-// The window lets events in while it is made, and the caller is gone by then.
-void tst_singleapplication::secondStartBringsTheWindowBack()
-{
-    m_primary = start({QStringLiteral("windowless")});
-    QVERIFY(waitForLine(*m_primary, "windowless"));
-    for (int i = 0; i < 2; ++i) {
-        Process second = start();
-        QVERIFY(second->waitForFinished(Patience));
-        QCOMPARE(second->exitCode(), 0);
-        QVERIFY(waitForLine(*m_primary, "started 1"));
-    }
 }
 
 void tst_singleapplication::secondaryTalksToThePrimary()
