@@ -34,6 +34,7 @@ QString digest(const QString &text)
 } // namespace
 
 QString GSettings::mIniFile;
+bool GSettings::mReadOnly = false;
 
 static std::unique_ptr<QSettings> openStore(const QString &iniFile)
 {
@@ -62,6 +63,11 @@ void GSettings::setIniFile(const QString &path)
     mIniFile = path;
 }
 
+void GSettings::setReadOnly(bool readOnly)
+{
+    mReadOnly = readOnly;
+}
+
 QVariant GSettings::value(const QString &key, const QVariant &defaultValue) const
 {
     return m_settings->value(key, defaultValue);
@@ -69,7 +75,8 @@ QVariant GSettings::value(const QString &key, const QVariant &defaultValue) cons
 
 void GSettings::setValue(const QString &key, const QVariant &value)
 {
-    m_settings->setValue(key, value);
+    if (!mReadOnly)
+        m_settings->setValue(key, value);
 }
 
 bool GSettings::contains(const QString &key) const
@@ -79,7 +86,8 @@ bool GSettings::contains(const QString &key) const
 
 void GSettings::remove(const QString &key)
 {
-    m_settings->remove(key);
+    if (!mReadOnly)
+        m_settings->remove(key);
 }
 
 void GSettings::beginGroup(const QString &name)

@@ -30,6 +30,12 @@ public:
     /** Where the store keeps what it holds. */
     QString fileName() const;
 
+    /**
+     * From now on nothing is stored or removed: for what must leave no trace. Values that
+     * are decided on their first use are then decided anew at each.
+     */
+    static void setReadOnly(bool readOnly);
+
     QVariant value(const QString &key, const QVariant &defaultValue = QVariant()) const;
     void setValue(const QString &key, const QVariant &value);
     bool contains(const QString &key) const;
@@ -96,5 +102,6 @@ public:
 
 private:
     static QString mIniFile;
+    static bool mReadOnly;
     std::unique_ptr<QSettings> m_settings;
 };

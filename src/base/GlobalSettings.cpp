@@ -16,9 +16,12 @@ const QString ImperialUnits = QStringLiteral("imperialUnits");
 
 QString GlobalSettings::applicationDataPath()
 {
-    if (!contains(ApplicationDataPath))
-        setApplicationDataPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    return value(ApplicationDataPath).toString();
+    const QVariant stored = value(ApplicationDataPath);
+    if (stored.isValid())
+        return stored.toString();
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    setApplicationDataPath(path);
+    return path;
 }
 
 void GlobalSettings::setApplicationDataPath(const QString &path)
@@ -32,6 +35,11 @@ QString GlobalSettings::previewImagePath(const QByteArray &hash)
     if (hash.isNull())
         return directory;
     return directory + QString::fromLatin1(hash.toHex()) + QStringLiteral(".png");
+}
+
+QString GlobalSettings::lockFilePath()
+{
+    return applicationDataPath() + QStringLiteral("/hoopline-organizer.lock");
 }
 
 QString GlobalSettings::lastImportPath() const
@@ -57,9 +65,12 @@ void GlobalSettings::setGridScaleFactor(int percent)
 
 bool GlobalSettings::imperialUnits()
 {
-    if (!contains(ImperialUnits))
-        setImperialUnits(QLocale::system().measurementSystem() != QLocale::MetricSystem);
-    return value(ImperialUnits).toBool();
+    const QVariant stored = value(ImperialUnits);
+    if (stored.isValid())
+        return stored.toBool();
+    const bool imperial = QLocale::system().measurementSystem() != QLocale::MetricSystem;
+    setImperialUnits(imperial);
+    return imperial;
 }
 
 void GlobalSettings::setImperialUnits(bool imperial)

@@ -22,6 +22,9 @@ public:
      */
     QString previewImagePath(const QByteArray &hash);
 
+    /** What whoever writes the catalogue holds a lock on, beside the catalogue. */
+    QString lockFilePath();
+
     /** Where the add-folder dialog starts. */
     QString lastImportPath() const;
     void setLastImportPath(const QString &path);

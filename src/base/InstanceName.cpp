@@ -1,6 +1,7 @@
 #include "base/InstanceName.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 
 #ifdef Q_OS_UNIX
 #include <pwd.h>
@@ -15,6 +16,15 @@ QString InstanceName::toString() const
                                  &applicationVersion, &applicationFilePath, &userName})
         hash.addData(field->toUtf8());
     return QString::fromLatin1(hash.result().toBase64().replace('/', '_'));
+}
+
+QStringList InstanceName::socketPaths(const QString &name)
+{
+    QStringList paths{QDir::temp().absoluteFilePath(name)};
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (QDir::isAbsolutePath(runtime))
+        paths.append(QDir(runtime).filePath(name));
+    return paths;
 }
 
 QString InstanceName::currentUser()
