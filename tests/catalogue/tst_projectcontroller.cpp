@@ -24,7 +24,7 @@ private slots:
     void removesOnlyWholeSmartFolders();
     void savesUserEdits();
     void reloadsNewerCatalogueOnly();
-    void savesNothingWhenScanFails();
+    void vanishedDesignLeavesTheOthers();
     void userDataSurvivesHostileNames();
 
 private:
@@ -153,18 +153,22 @@ void ProjectControllerTest::reloadsNewerCatalogueOnly()
     QCOMPARE(m_controller->project()->allTags(), QStringList{"new"});
 }
 
-void ProjectControllerTest::savesNothingWhenScanFails()
+void ProjectControllerTest::vanishedDesignLeavesTheOthers()
 {
     QVERIFY(DstDesign::square().writeTo(path("a.dst")));
+    QVERIFY(DstDesign::square("Stays").writeTo(path("b.dst")));
     m_controller->loadOrCreateProject();
-    const QByteArray before = saved();
     m_listener.onProceed = [this](const QString &text) {
         if (text.startsWith(QLatin1String("Loading")))
             QFile::remove(path("a.dst"));
     };
-    QVERIFY_EXCEPTION_THROWN(m_controller->addDirectories({m_folder->designs()}), Error);
-    QCOMPARE(saved(), before);
-    ChangeManager::instance().finishBulkOperation(true);
+    m_controller->addDirectories({m_folder->designs()});
+    QVERIFY(saved().contains("Stays"));
+    const auto unreadable = m_controller->unreadableFiles();
+    QCOMPARE(unreadable.size(), 1);
+    QCOMPARE(unreadable.constFirst().path, path("a.dst"));
+    QVERIFY(!unreadable.constFirst().damaged);
+    QVERIFY(unreadable.constFirst().reason.contains("No such file"));
 }
 
 void ProjectControllerTest::userDataSurvivesHostileNames()

@@ -1,6 +1,7 @@
 #include "catalogue/sync/FileSync.h"
 
 #include "base/EmptyProgressListener.h"
+#include "base/Error.h"
 #include "base/files/DirectoryScanner.h"
 #include "base/files/FileTools.h"
 #include "catalogue/records/File.h"
@@ -65,6 +66,7 @@ void FileSync::syncFilesWithDisk(const QStringList &formats)
 {
     m_tracking.beginSync(formats);
     m_counts = SyncCounts();
+    m_unreadable.clear();
     const Paths onDisk = findSupportedFiles();
     // What an aborted scan did not reach must never be taken for deleted.
     if (!m_listener->abortState())
@@ -142,7 +144,12 @@ QSet<QString> FileSync::reconnectFiles(const Paths &fresh, const Paths &gone)
     for (const QString &path : paths) {
         if (!sizes.contains(int(QFileInfo(path).size())))
             continue;
-        const QByteArray bytes = FileTools::readAll(path, FileTools::Binary);
+        QByteArray bytes;
+        try {
+            bytes = FileTools::readAll(path, FileTools::Binary);
+        } catch (const Error &) {
+            continue; // noted when its record is made
+        }
         const QSharedPointer<IFile> file = vanished.value(calculateContentHash(bytes));
         if (!file)
             continue;
@@ -191,7 +198,10 @@ void FileSync::addFileData(const Paths &fresh)
     for (const QString &path : paths) {
         const auto file = QSharedPointer<File>::create(m_project.data());
         file->setAbsoluteFilePath(path);
-        updateFileData(file);
+        if (isStopped())
+            ++m_counts.unreached;
+        else
+            updateFileData(file);
         files.append(file);
     }
     m_project->setFiles(files);
@@ -204,26 +214,36 @@ void FileSync::updateFileData(const Paths &kept)
         return;
     const auto files = m_project->files();
     for (const QSharedPointer<IFile> &file : files) {
-        if (kept.contains(file->absoluteFilePath()))
+        if (kept.contains(file->absoluteFilePath()) && !isStopped())
             m_counts.updated += updateFileData(file);
     }
+}
+
+bool FileSync::isStopped()
+{
+    if (!m_listener->abortState())
+        return false;
+    m_listener->proceed(QStringLiteral("Aborting..."));
+    return true;
 }
 
 int FileSync::updateFileData(const QSharedPointer<IFile> &file)
 {
     const QString path = file->absoluteFilePath();
     const QFileInfo info(path);
-    if (m_listener->abortState()) {
-        m_listener->proceed(QStringLiteral("Aborting..."));
-        return 0;
-    }
     m_listener->proceed(QStringLiteral("Loading ") + info.fileName());
 
     if (isUnchanged(*file, info))
         return 0;
 
     // Ahead of the new date and size: a file that can't be read must look changed the next time.
-    const QByteArray bytes = FileTools::readAll(path, FileTools::Binary);
+    QByteArray bytes;
+    try {
+        bytes = FileTools::readAll(path, FileTools::Binary);
+    } catch (const Error &error) {
+        noteUnreadable({path, error.toString(), false});
+        return 0;
+    }
     file->setModificationDate(static_cast<unsigned int>(info.lastModified().toSecsSinceEpoch()));
     file->setFileSize(static_cast<int>(info.size()));
     const QByteArray hash = calculateContentHash(bytes);
@@ -235,7 +255,6 @@ int FileSync::updateFileData(const QSharedPointer<IFile> &file)
     const Pattern pattern = readPattern(path, bytes);
     if (!pattern) {
         m_tracking.fileFormatError();
-        ++m_counts.unreadable;
         return 1;
     }
     copyMetaData(pattern, file);
@@ -257,10 +276,17 @@ QSharedPointer<Embroidery::EmbPattern> FileSync::readPattern(const QString &path
 {
     try {
         return Embroidery::EmbroideryIO::readByteArray(path, bytes);
-    } catch (const Embroidery::IOException &) {
+    } catch (const Embroidery::IOException &exception) {
         // One damaged design must not end the run for all the others.
+        noteUnreadable({path, exception.message, true});
         return Pattern();
     }
+}
+
+void FileSync::noteUnreadable(const UnreadableFile &file)
+{
+    m_unreadable.append(file);
+    ++m_counts.unreadable;
 }
 
 void FileSync::copyMetaData(const Pattern &pattern, const QSharedPointer<IFile> &file)

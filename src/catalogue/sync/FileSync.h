@@ -6,6 +6,7 @@
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/FileSyncTracking.h"
 #include "catalogue/sync/SyncCounts.h"
+#include "catalogue/sync/UnreadableFile.h"
 #include <QByteArray>
 #include <QSet>
 #include <QSharedPointer>
@@ -39,13 +40,14 @@ public:
     /**
      * The whole run over the project's smart folders.
      * @param formats wildcards of the formats that are read, such as "*.pes"
-     * @throws Error when a file that must be looked into cannot be read; what was
-     *         done until then stays in the project
+     * A file that cannot be read leaves its record as it is; the others go on.
      */
     void syncFilesWithDisk(const QStringList &formats);
 
     int numChangedFiles() const { return m_counts.changed(); }
     SyncCounts counts() const { return m_counts; }
+    /** In the order in which the run met them. */
+    QList<UnreadableFile> unreadableFiles() const { return m_unreadable; }
 
     /**
      * Above this many megabytes previews that no record needs are deleted; 0
@@ -68,8 +70,10 @@ private:
     void removeFileData(const Paths &gone);
     void addFileData(const Paths &fresh);
     void updateFileData(const Paths &kept);
+    bool isStopped();
     int updateFileData(const QSharedPointer<IFile> &file);
     bool isUnchanged(const IFile &file, const QFileInfo &onDisk) const;
+    void noteUnreadable(const UnreadableFile &file);
     Pattern readPattern(const QString &path, const QByteArray &bytes);
     void copyMetaData(const Pattern &pattern, const QSharedPointer<IFile> &file);
     void updatePreviewImage(const Pattern &pattern, const QByteArray &hash);
@@ -80,6 +84,7 @@ private:
     QSharedPointer<Project> m_project;
     IProgressAbortListener *m_listener;
     SyncCounts m_counts;
+    QList<UnreadableFile> m_unreadable;
     QSet<QByteArray> m_existingPreviewKeys;
     GlobalSettings m_settings;
     FileSyncTracking m_tracking;

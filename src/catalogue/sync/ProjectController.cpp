@@ -199,6 +199,7 @@ void ProjectController::scanSmartFolders()
         FileSync sync(m_project, m_listener, m_usage);
         sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
         m_lastScan = sync.counts();
+        m_unreadable = sync.unreadableFiles();
         if (sync.numChangedFiles() > 0) {
             m_project->undoStack()->resetClean();
             PreviewCache::instance().clear();

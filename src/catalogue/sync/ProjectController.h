@@ -6,6 +6,7 @@
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/CatalogueFile.h"
 #include "catalogue/sync/SyncCounts.h"
+#include "catalogue/sync/UnreadableFile.h"
 #include <memory>
 #include <QCoreApplication>
 #include <QList>
@@ -55,6 +56,7 @@ public:
 
     /** What the last scan did. */
     SyncCounts lastScan() const { return m_lastScan; }
+    QList<UnreadableFile> unreadableFiles() const { return m_unreadable; }
 
     /**
      * Loads the catalogue into a new project. A missing catalogue is created. Of a damaged
@@ -109,8 +111,7 @@ public:
 
     /**
      * Brings the catalogue into line with the disk and saves what changed.
-     * @throws Error when a design file cannot be read, which leaves announcements
-     *         held back and nothing saved, or when the catalogue cannot be written
+     * @throws Error when the catalogue cannot be written
      */
     void scanSmartFolders();
 
@@ -134,4 +135,5 @@ private:
     std::unique_ptr<FilterSelectionModel> m_selectionModel;
     SyncCounts m_lastScan;
     QList<Kept> m_kept;
+    QList<UnreadableFile> m_unreadable;
 };
