@@ -4,6 +4,7 @@
 #include "catalogue/records/IThread.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "cli/JsonWriter.h"
+#include "cli/TextWidth.h"
 #include <algorithm>
 #include <QColor>
 #include <QStringList>
@@ -40,10 +41,10 @@ void writeThreads(JsonWriter &json, const QList<QSharedPointer<IThread>> &thread
     json.endArray();
 }
 
-QString csvField(const QString &text)
+QString csvField(const QString &text, QLatin1Char separator)
 {
-    const bool plain = std::none_of(text.begin(), text.end(), [](QChar c) {
-        return c == QLatin1Char('"') || c == QLatin1Char(',') || c == QLatin1Char('\n') ||
+    const bool plain = std::none_of(text.begin(), text.end(), [separator](QChar c) {
+        return c == QLatin1Char('"') || c == separator || c == QLatin1Char('\n') ||
                c == QLatin1Char('\r');
     });
     if (plain)
@@ -53,12 +54,23 @@ QString csvField(const QString &text)
     return QLatin1Char('"') + quoted + QLatin1Char('"');
 }
 
-QString csvLine(const QStringList &fields)
+QString csvLine(const QStringList &fields, QLatin1Char separator)
 {
     QStringList line;
     for (const QString &field : fields)
-        line.append(csvField(field));
-    return line.join(QLatin1Char(','));
+        line.append(csvField(field, separator));
+    return line.join(separator);
+}
+
+QString tableLine(const QStringList &row, const QVector<int> &widths)
+{
+    QStringList cells;
+    for (int i = 0; i < row.size(); ++i)
+        cells.append(TextWidth::padded(row.at(i), widths.at(i)));
+    QString line = cells.join(QStringLiteral("  "));
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    return line;
 }
 
 } // namespace
@@ -92,10 +104,12 @@ void CatalogueReport::writeJson(const Files &files)
 
 void CatalogueReport::writeCsv(const Files &files)
 {
+    constexpr QLatin1Char comma(',');
+    constexpr QLatin1Char semicolon(';');
     m_output.writeLine(QStringLiteral("file,name,md5,file_size,modification_date,stitch_count,"
                                       "width_mm,height_mm,thread_count,notes,tags,favorite"));
     for (const auto &file : files) {
-        m_output.writeLine(csvLine({
+        const QStringList fields{
             file->absoluteFilePath(),
             file->name(),
             QString::fromLatin1(file->contentHash().toHex()),
@@ -106,9 +120,12 @@ void CatalogueReport::writeCsv(const Files &files)
             QString::fromLatin1(extent(file->designSize().height())),
             QString::number(file->threads().size()),
             file->notes(),
-            file->tags().join(QLatin1Char(';')),
+            csvLine(file->tags(), semicolon),
             file->isFavorite() ? QStringLiteral("true") : QStringLiteral("false"),
-        }));
+        };
+        const QString line = csvLine(fields, comma);
+        // Programs get the text as it is.
+        m_output.writeLine(m_output.isTerminal() ? Console::printable(line) : line);
     }
 }
 
@@ -116,7 +133,7 @@ void CatalogueReport::writeTable(const Files &files)
 {
     const bool imperial = GlobalSettings().imperialUnits();
     QVector<QStringList> rows{
-        {QString(), tr("File"), tr("Size"), tr("Stitches"), tr("Colours"), tr("Tags")}};
+        {QString(), tr("File"), tr("Size"), tr("Stitches"), tr("Colors"), tr("Tags")}};
     for (const auto &file : files) {
         rows.append({file->isFavorite() ? QStringLiteral("*") : QString(),
                      Console::printable(file->absoluteFilePath()),
@@ -127,16 +144,10 @@ void CatalogueReport::writeTable(const Files &files)
     QVector<int> widths(rows.constFirst().size(), 0);
     for (const QStringList &row : qAsConst(rows)) {
         for (int i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], row.at(i).size());
+            widths[i] = std::max(widths[i], TextWidth::of(row.at(i)));
     }
-    for (const QStringList &row : qAsConst(rows)) {
-        QStringList cells;
-        for (int i = 0; i < row.size(); ++i)
-            cells.append(row.at(i).leftJustified(widths.at(i)));
-        QString text = cells.join(QStringLiteral("  "));
-        while (text.endsWith(QLatin1Char(' ')))
-            text.chop(1);
-        m_output.writeLine(text);
-    }
-    m_output.writeLine(tr("%n design(s)", nullptr, files.size()));
+    m_output.writeRemark(tableLine(rows.takeFirst(), widths));
+    for (const QStringList &row : qAsConst(rows))
+        m_output.writeLine(tableLine(row, widths));
+    m_output.writeRemark(tr("%n design(s)", nullptr, files.size()));
 }

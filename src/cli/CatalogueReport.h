@@ -18,9 +18,12 @@ public:
 
     /** One object per record, a line each. */
     void writeJson(const Files &files);
-    /** A line of column names, then a line per record. */
+    /**
+     * A line of column names, then a line per record. The tags are one field, which is
+     * such a line in itself, with semicolons.
+     */
     void writeCsv(const Files &files);
-    /** Aligned columns and a closing line with the number of designs. */
+    /** Aligned columns below their heads, and a closing line with the number of designs. */
     void writeTable(const Files &files);
 
 private:

@@ -1,50 +1,59 @@
 #include "cli/CommandLine.h"
 
+#include "cli/CommandError.h"
 #include "cli/Console.h"
-#include "cli/ExitStatus.h"
-#include <cstdio>
-#include <QCoreApplication>
 
 CommandLine::CommandLine(const QString &usage, const QString &description,
-                         const QStringList &arguments)
-    : m_usage(QCoreApplication::translate("CommandLine", "Usage: %1").arg(usage)),
-      m_arguments(arguments)
+                         const QList<QCommandLineOption> &options)
+    : m_usage(usageLine(usage)), m_options(options)
 {
     m_parser.setApplicationDescription(description);
+    m_parser.addOptions(options);
     // The parser's own help option brings one for options of Qt along, which have no use here.
-    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                        QCoreApplication::translate("CommandLine", "Print this help.")});
-    m_parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
-                        QCoreApplication::translate("CommandLine", "Print the version.")});
+    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, tr("Print this help.")});
+    m_parser.addOption({{QStringLiteral("V"), QStringLiteral("v"), QStringLiteral("version")},
+                        tr("Print the version.")});
 }
 
-bool CommandLine::parse()
+void CommandLine::parse(const QStringList &arguments)
 {
-    if (!m_parser.parse(QStringList(QStringLiteral("hoopline-cli")) + m_arguments)) {
-        m_exitStatus = fail(m_parser.errorText());
-        return false;
-    }
-    if (isSet("help"))
-        answer(helpText());
-    else if (isSet("version"))
-        answer(QStringLiteral("hoopline-cli %1\n").arg(QCoreApplication::applicationVersion()));
-    else
-        return true;
-    return false;
+    if (!m_parser.parse(QStringList(QStringLiteral("hoopline-cli")) + arguments))
+        throw UsageError(m_parser.errorText());
+    if (!isAnswer())
+        refuseRepetition();
 }
 
-void CommandLine::answer(const QString &text)
+void CommandLine::refuseRepetition() const
+{
+    for (const QCommandLineOption &option : m_options) {
+        const bool takesValue = !option.valueName().isEmpty();
+        if (takesValue && m_parser.values(option).size() > 1 && m_parser.isSet(option))
+            throw UsageError(
+                tr("The option --%1 can be given only once.").arg(option.names().constLast()));
+    }
+}
+
+void CommandLine::expectNoArguments() const
+{
+    const QStringList arguments = positionalArguments();
+    if (!arguments.isEmpty())
+        throw UsageError(tr("Unexpected argument '%1'.").arg(arguments.constFirst()));
+}
+
+int CommandLine::answer() const
 {
     StandardOutput output;
-    output.write(text.toUtf8());
-    m_exitStatus = output.flush() ? Success : Failure;
+    if (isSet("help"))
+        output.write(helpText().toUtf8());
+    else
+        output.writeLine(
+            QStringLiteral("hoopline-cli %1").arg(QCoreApplication::applicationVersion()));
+    return output.flush() ? Success : Failure;
 }
 
-int CommandLine::fail(const QString &message) const
+QString CommandLine::usageLine(const QString &usage)
 {
-    Console::reportError(message);
-    std::fputs((m_usage + QLatin1Char('\n')).toUtf8().constData(), stderr);
-    return WrongUsage;
+    return tr("Usage: %1").arg(usage);
 }
 
 QString CommandLine::helpText() const

@@ -1,42 +1,44 @@
 #pragma once
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
-/**
- * The command line of one subcommand. Answers "--help" and "--version", and
- * turns what is wrong into a message and a usage line on standard error.
- */
+/** The command line of one subcommand. */
 class CommandLine
 {
-public:
-    /** @param arguments what follows the subcommand's name */
-    CommandLine(const QString &usage, const QString &description, const QStringList &arguments);
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
 
-    void addOption(const QCommandLineOption &option) { m_parser.addOption(option); }
+public:
+    CommandLine(const QString &usage, const QString &description,
+                const QList<QCommandLineOption> &options);
 
     /**
-     * True when the command is to run; otherwise exitStatus() tells how the
-     * process is to end.
+     * @param arguments what follows the subcommand's name
+     * @throws UsageError for an option that is unknown, lacks its value or has two
      */
-    bool parse();
+    void parse(const QStringList &arguments);
+
+    /** Whether the user asked for the help or the version rather than for the command. */
+    bool isAnswer() const { return isSet("help") || isSet("version"); }
+    /** Prints the help or the version. @return the exit status of the process */
+    int answer() const;
 
     bool isSet(const char *option) const { return m_parser.isSet(QLatin1String(option)); }
     QString value(const char *option) const { return m_parser.value(QLatin1String(option)); }
     QStringList positionalArguments() const { return m_parser.positionalArguments(); }
 
-    /** Reports a wrong command line. Always WrongUsage. */
-    int fail(const QString &message) const;
+    /** @throws UsageError when there is any positional argument */
+    void expectNoArguments() const;
 
-    int exitStatus() const { return m_exitStatus; }
+    static QString usageLine(const QString &usage);
 
 private:
-    void answer(const QString &text);
+    void refuseRepetition() const;
     QString helpText() const;
 
     QString m_usage;
-    QStringList m_arguments;
+    QList<QCommandLineOption> m_options;
     QCommandLineParser m_parser;
-    int m_exitStatus = 0;
 };

@@ -1,5 +1,6 @@
 #include "cli/Console.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #ifdef Q_OS_UNIX
@@ -14,11 +15,28 @@ namespace {
 constexpr int PieceSize = 64 * 1024;
 constexpr int DefaultWidth = 80;
 
+bool isTerminal(FILE *file)
+{
+#ifdef Q_OS_UNIX
+    return isatty(fileno(file));
+#elif defined(Q_OS_WIN)
+    return _isatty(_fileno(file));
+#else
+    return false;
+#endif
+}
+
+bool isBetween(QChar c, ushort first, ushort last)
+{
+    return c.unicode() >= first && c.unicode() <= last;
+}
+
 } // namespace
 
-StandardOutput::StandardOutput()
+StandardOutput::StandardOutput() : m_isTerminal(::isTerminal(stdout))
 {
-    m_failed = !m_file.open(stdout, QIODevice::WriteOnly);
+    if (!m_file.open(stdout, QIODevice::WriteOnly))
+        fail();
 }
 
 void StandardOutput::write(const QByteArray &bytes)
@@ -33,38 +51,57 @@ void StandardOutput::writeLine(const QString &line)
     write(line.toUtf8() + '\n');
 }
 
+void StandardOutput::writeRemark(const QString &line)
+{
+    if (m_isTerminal)
+        writeLine(line);
+    else
+        Console::remark(line);
+}
+
 bool StandardOutput::flush()
 {
-    if (!m_failed && !m_pending.isEmpty())
-        m_failed = m_file.write(m_pending) != m_pending.size() || !m_file.flush();
+    if (!m_failed && !m_pending.isEmpty() &&
+        (m_file.write(m_pending) != m_pending.size() || !m_file.flush()))
+        fail();
     m_pending.clear();
     return !m_failed;
 }
 
+void StandardOutput::fail()
+{
+    m_failed = true;
+    Console::reportError(tr("The output could not be written: %1").arg(m_file.errorString()));
+}
+
 void Console::reportError(const QString &message)
 {
-    const QByteArray line = "hoopline-cli: " + printable(message).toUtf8() + '\n';
-    std::fputs(line.constData(), stderr);
+    remark(QStringLiteral("hoopline-cli: ") + printable(message));
+}
+
+void Console::remark(const QString &line)
+{
+    std::fputs((line + QLatin1Char('\n')).toUtf8().constData(), stderr);
+}
+
+bool Console::isUnprintable(QChar c)
+{
+    constexpr ushort arabicLetterMark = 0x061C;
+    return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+           c == QChar::ParagraphSeparator || c.unicode() == arabicLetterMark ||
+           isBetween(c, 0x200E, 0x200F) || isBetween(c, 0x202A, 0x202E) ||
+           isBetween(c, 0x2066, 0x2069);
 }
 
 QString Console::printable(QString text)
 {
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control)
-            c = QChar::ReplacementCharacter;
-    }
+    std::replace_if(text.begin(), text.end(), isUnprintable, QChar(QChar::ReplacementCharacter));
     return text;
 }
 
 bool Console::errorIsTerminal()
 {
-#ifdef Q_OS_UNIX
-    return isatty(STDERR_FILENO);
-#elif defined(Q_OS_WIN)
-    return _isatty(_fileno(stderr));
-#else
-    return false;
-#endif
+    return isTerminal(stderr);
 }
 
 int Console::terminalWidth()

@@ -2,6 +2,7 @@
 
 #include "cli/Console.h"
 #include "cli/Interrupt.h"
+#include "cli/TextWidth.h"
 #include <algorithm>
 #include <cstdio>
 
@@ -39,7 +40,7 @@ void ConsoleProgress::proceed(const QString &text)
 
 int ConsoleProgress::abortState() const
 {
-    return Interrupt::requested() ? Aborted : 0;
+    return Interrupt::received() != 0 ? Aborted : 0;
 }
 
 void ConsoleProgress::draw(const QString &text)
@@ -50,8 +51,7 @@ void ConsoleProgress::draw(const QString &text)
                        .arg(QString(filled, QLatin1Char('#')))
                        .arg(QString(BarWidth - filled, QLatin1Char('.')))
                        .arg(share, 3);
-    line += Console::printable(text);
-    line.truncate(Console::terminalWidth() - 1);
+    line = TextWidth::cut(line + Console::printable(text), Console::terminalWidth() - 1);
     std::fputs(("\r" + line.toUtf8() + "\033[K").constData(), stderr);
     std::fflush(stderr);
     m_drawn = true;

@@ -1,5 +1,6 @@
 #include "cli/DesignFile.h"
 
+#include "cli/LocalPath.h"
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"
 #include "embroidery/ReadHelper.h"
@@ -14,11 +15,12 @@ namespace {
 /** The bytes of the file; of one that the engine refuses for its size no more than it takes. */
 QByteArray bytesOf(const QString &name)
 {
-    const QFileInfo info(name);
+    const QString path = LocalPath::of(name);
+    const QFileInfo info(path);
     // Reading a device or a pipe might never end.
     if (info.exists() && !info.isFile() && !info.isDir())
         throw IOException(QStringLiteral("Not a regular file: ") + name);
-    QFile file(name);
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw IOException(QStringLiteral("Failed to open file: ") + name);
     return file.read(Embroidery::ReadHelper::MaximumSize + 1);

@@ -1,16 +1,14 @@
 #include "cli/DesignReport.h"
 
+#include "base/GlobalSettings.h"
+#include "catalogue/records/LocaleAwareFunctions.h"
+#include "cli/TextWidth.h"
 #include "embroidery/EmbThread.h"
 
 namespace {
 
 constexpr double UnitsPerMillimetre = 10.0;
 constexpr int LabelWidth = 12;
-
-QString millimetres(double units)
-{
-    return QString::number(units / UnitsPerMillimetre, 'f', 1);
-}
 
 } // namespace
 
@@ -88,10 +86,10 @@ void DesignReport::writeTable(const DesignFile &file)
     const QRectF bounds = pattern.boundingRect();
     m_output.writeLine(Console::printable(file.name()));
     writeRow(tr("Format"), pattern.format());
-    writeRow(tr("Size"),
-             tr("%1 x %2 mm").arg(millimetres(bounds.width()), millimetres(bounds.height())));
+    writeRow(tr("Size"), LocaleAwareFunctions::toString(bounds.size() / UnitsPerMillimetre,
+                                                        GlobalSettings().imperialUnits()));
     writeRow(tr("Stitches"), QString::number(pattern.getStitchCount()));
-    writeRow(tr("Colours"), QString::number(pattern.getThreadCount()));
+    writeRow(tr("Colors"), QString::number(pattern.getThreadCount()));
     writeRow(tr("MD5"), file.md5());
     const auto metadata = pattern.getMetadata();
     for (auto it = metadata.begin(); it != metadata.end(); ++it)
@@ -111,8 +109,8 @@ void DesignReport::writeRow(const QString &label, const QString &text)
     QString margin = Console::printable(label);
     const QStringList lines = text.split(QLatin1Char('\n'));
     for (const QString &line : lines) {
-        m_output.writeLine(QStringLiteral("  %1 %2").arg(margin.leftJustified(LabelWidth),
-                                                         Console::printable(line)));
+        m_output.writeLine(QStringLiteral("  ") + TextWidth::padded(margin, LabelWidth) +
+                           QLatin1Char(' ') + Console::printable(line));
         margin.clear();
     }
 }

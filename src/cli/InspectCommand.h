@@ -1,19 +1,25 @@
 #pragma once
 
+#include "cli/Command.h"
 #include <QCoreApplication>
 #include <QStringList>
 
 class DesignFile;
 
 /** Reads designs and tells about them. */
-class InspectCommand
+class InspectCommand : public Command
 {
     Q_DECLARE_TR_FUNCTIONS(InspectCommand)
 
 public:
-    /** @return the exit status of the process */
-    static int run(const QStringList &arguments);
+    QString name() const override { return QStringLiteral("inspect"); }
+    QString summary() const override;
+    QString arguments() const override { return QStringLiteral("[options] FILE..."); }
+    QString description() const override;
+    QList<QCommandLineOption> options() const override;
+    int run(const CommandLine &line) const override;
 
 private:
+    static int parseSize(const QString &text);
     static bool render(const DesignFile &file, const QString &target, int size);
 };

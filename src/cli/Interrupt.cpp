@@ -5,12 +5,12 @@
 
 namespace {
 
-std::atomic<bool> interruptRequested{false};
-static_assert(std::atomic<bool>::is_always_lock_free, "signal handlers must not lock");
+std::atomic<int> receivedSignal{0};
+static_assert(std::atomic<int>::is_always_lock_free, "signal handlers must not lock");
 
 extern "C" void noteSignal(int signal)
 {
-    interruptRequested = true;
+    receivedSignal = signal;
     std::signal(signal, SIG_DFL);
 }
 
@@ -20,9 +20,10 @@ void Interrupt::install()
 {
     std::signal(SIGINT, noteSignal);
     std::signal(SIGTERM, noteSignal);
+    std::signal(SIGHUP, noteSignal);
 }
 
-bool Interrupt::requested()
+int Interrupt::received()
 {
-    return interruptRequested;
+    return receivedSignal;
 }

@@ -9,6 +9,7 @@ namespace Interrupt {
  */
 void install();
 
-bool requested();
+/** The number of the signal that came; 0 when none did. */
+int received();
 
 } // namespace Interrupt

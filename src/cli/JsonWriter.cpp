@@ -58,7 +58,7 @@ QByteArray JsonWriter::quoted(const QString &text)
         if (c == QLatin1Char('"') || c == QLatin1Char('\\')) {
             result += QLatin1Char('\\');
             result += c;
-        } else if (c.unicode() < 0x20 || c.unicode() == 0x7f) {
+        } else if (Console::isUnprintable(c)) {
             result += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
         } else if (c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
             result += c;

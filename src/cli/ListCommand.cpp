@@ -4,77 +4,124 @@
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/sync/ProjectController.h"
 #include "cli/CatalogueReport.h"
+#include "cli/CommandError.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
-#include "cli/ExitStatus.h"
-#include <QDir>
+#include "cli/LocalPath.h"
+#include "embroidery/EmbroideryIO.h"
+#include <algorithm>
 #include <QFileInfo>
 #include <QRegularExpression>
 
 namespace {
 
-/** "WxH" in millimetres; an invalid size when @p text is something else. */
+/** "WxH" in millimetres. @throws UsageError when @p text is something else */
 QSizeF parseSize(const QString &text)
 {
     static const QRegularExpression form(
         QStringLiteral("^([0-9]+(?:\\.[0-9]+)?)[xX]([0-9]+(?:\\.[0-9]+)?)$"));
     const auto match = form.match(text);
-    return match.hasMatch() ? QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble())
-                            : QSizeF();
+    if (!match.hasMatch())
+        throw UsageError(ListCommand::tr("The size must look like 100x130."));
+    return QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble());
+}
+
+/** @throws UsageError when designs of that type are not read */
+void expectKnownType(const QString &type)
+{
+    QStringList types = Embroidery::EmbroideryIO::supportedFormats();
+    types.replaceInStrings(QStringLiteral("*."), QString());
+    if (!types.contains(type, Qt::CaseInsensitive))
+        throw UsageError(ListCommand::tr("Unknown type '%1'; there are %2.")
+                             .arg(type, types.join(QStringLiteral(", "))));
+}
+
+bool liesIn(const QString &path, const QString &folder)
+{
+    return path == folder || folder == QLatin1String("/") ||
+           path.startsWith(folder + QLatin1Char('/'));
+}
+
+/** @throws Error when the catalogue knows neither the folder nor any design in it */
+void expectKnownFolder(const QString &folder, const Project &project)
+{
+    const QStringList roots = project.smartFolders();
+    const bool isSearched = QFileInfo(folder).isDir() &&
+                            std::any_of(roots.begin(), roots.end(),
+                                        [&](const QString &root) { return liesIn(folder, root); });
+    const auto files = project.files();
+    const bool holdsDesigns = std::any_of(files.begin(), files.end(), [&](const auto &file) {
+        return liesIn(file->absoluteFilePath(), folder);
+    });
+    if (!isSearched && !holdsDesigns)
+        throw Error(ListCommand::tr("The folder '%1' is not in the catalogue.").arg(folder));
 }
 
 } // namespace
 
-int ListCommand::run(const QStringList &arguments)
+QString ListCommand::summary() const
 {
-    CommandLine line(QStringLiteral("hoopline-cli list [options]"),
-                     tr("Prints the designs of the catalogue, narrowed as in the organiser."),
-                     arguments);
-    addOptions(line);
-    if (!line.parse())
-        return line.exitStatus();
-    if (!line.positionalArguments().isEmpty())
-        return line.fail(tr("Unexpected argument '%1'.").arg(line.positionalArguments().first()));
+    return tr("Print the designs of the catalogue.");
+}
+
+QString ListCommand::description() const
+{
+    return tr("Prints the designs of the catalogue, narrowed as in the organizer.");
+}
+
+QList<QCommandLineOption> ListCommand::options() const
+{
+    return {
+        {QStringLiteral("folder"), tr("Only designs below this folder."), QStringLiteral("P")},
+        {QStringLiteral("tag"), tr("Only designs with this tag."), QStringLiteral("T")},
+        {QStringLiteral("type"), tr("Only designs of this format, for instance dst."),
+         QStringLiteral("EXT")},
+        {QStringLiteral("max-size"), tr("Only designs that fit into this many millimeters."),
+         QStringLiteral("WxH")},
+        {QStringLiteral("search"), tr("Only designs whose file name or notes hold the text."),
+         QStringLiteral("TEXT")},
+        {QStringLiteral("favorites"), tr("Only favorites.")},
+        {QStringLiteral("json"), tr("Print one JSON object per design, a line each.")},
+        {QStringLiteral("csv"), tr("Print comma-separated values.")},
+    };
+}
+
+int ListCommand::run(const CommandLine &line) const
+{
+    line.expectNoArguments();
     if (line.isSet("json") && line.isSet("csv"))
-        return line.fail(tr("Choose one of --json and --csv."));
+        throw UsageError(tr("Choose one of --json and --csv."));
     if (line.isSet("folder") && line.value("folder").isEmpty())
-        return line.fail(tr("The folder must not be empty."));
-    const QSizeF maxSize = parseSize(line.value("max-size"));
-    if (line.isSet("max-size") && !maxSize.isValid())
-        return line.fail(tr("The size must look like 100x130."));
-    return print(line, maxSize);
-}
+        throw UsageError(tr("The folder must not be empty."));
+    if (line.isSet("type"))
+        expectKnownType(line.value("type"));
+    const QSizeF maxSize = line.isSet("max-size") ? parseSize(line.value("max-size")) : QSizeF();
 
-void ListCommand::addOptions(CommandLine &line)
-{
-    line.addOption(
-        {QStringLiteral("folder"), tr("Only designs below this folder."), QStringLiteral("P")});
-    line.addOption({QStringLiteral("tag"), tr("Only designs with this tag."), QStringLiteral("T")});
-    line.addOption({QStringLiteral("type"), tr("Only designs of this format, for instance dst."),
-                    QStringLiteral("EXT")});
-    line.addOption({QStringLiteral("max-size"),
-                    tr("Only designs that fit into this many millimetres."),
-                    QStringLiteral("WxH")});
-    line.addOption({QStringLiteral("search"),
-                    tr("Only designs whose file name or notes hold the text."),
-                    QStringLiteral("TEXT")});
-    line.addOption({QStringLiteral("favorites"), tr("Only favourites.")});
-    line.addOption({QStringLiteral("json"), tr("Print one JSON object per design, a line each.")});
-    line.addOption({QStringLiteral("csv"), tr("Print comma-separated values.")});
-}
-
-int ListCommand::print(const CommandLine &line, const QSizeF &maxSize)
-{
     ProjectController controller;
+    if (!QFileInfo::exists(controller.projectFilePath()))
+        throw Error(tr("There is no catalogue yet; 'hoopline-cli scan FOLDER' makes one."));
+    controller.loadProject();
+    const QString folder =
+        line.isSet("folder") ? LocalPath::absolute(line.value("folder")) : QString();
+    if (!folder.isEmpty())
+        expectKnownFolder(folder, *controller.project());
+
+    IFilterModel &filter = *controller.selectionModel()->filter();
+    filter.setDirectory(folder);
+    filter.setTag(line.value("tag"));
+    filter.setFileType(line.value("type"));
+    if (maxSize.isValid())
+        filter.setMaxDesignSize(maxSize);
+    filter.setSearchSubstring(line.value("search"));
+    filter.setFavoritesOnly(line.isSet("favorites"));
+    return print(line, filter.filteredFiles());
+}
+
+int ListCommand::print(const CommandLine &line, const QList<QSharedPointer<IFile>> &files)
+{
+
     StandardOutput output;
     CatalogueReport report(output);
-    QList<QSharedPointer<IFile>> files;
-    if (QFileInfo::exists(controller.projectFilePath())) {
-        controller.loadProject();
-        IFilterModel &filter = *controller.selectionModel()->filter();
-        applyFilters(line, maxSize, filter);
-        files = filter.filteredFiles();
-    }
     if (line.isSet("json"))
         report.writeJson(files);
     else if (line.isSet("csv"))
@@ -82,17 +129,4 @@ int ListCommand::print(const CommandLine &line, const QSizeF &maxSize)
     else
         report.writeTable(files);
     return output.flush() ? Success : Failure;
-}
-
-void ListCommand::applyFilters(const CommandLine &line, const QSizeF &maxSize, IFilterModel &filter)
-{
-    if (line.isSet("folder"))
-        filter.setDirectory(QDir::cleanPath(QFileInfo(line.value("folder")).absoluteFilePath()));
-    filter.setTag(line.value("tag"));
-    filter.setFileType(line.value("type"));
-    if (line.isSet("max-size"))
-        filter.setMaxDesignSize(maxSize);
-    if (line.isSet("search"))
-        filter.setSearchSubstring(line.value("search"));
-    filter.setFavoritesOnly(line.isSet("favorites"));
 }

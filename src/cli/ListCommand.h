@@ -1,23 +1,24 @@
 #pragma once
 
+#include "cli/Command.h"
 #include <QCoreApplication>
-#include <QSizeF>
-#include <QStringList>
+#include <QSharedPointer>
 
-class CommandLine;
-class IFilterModel;
+class IFile;
 
-/** Prints the catalogue, narrowed as in the organiser; never changes it. */
-class ListCommand
+/** Prints the catalogue, narrowed as in the organiser. */
+class ListCommand : public Command
 {
     Q_DECLARE_TR_FUNCTIONS(ListCommand)
 
 public:
-    /** @return the exit status of the process */
-    static int run(const QStringList &arguments);
+    QString name() const override { return QStringLiteral("list"); }
+    QString summary() const override;
+    QString arguments() const override { return QStringLiteral("[options]"); }
+    QString description() const override;
+    QList<QCommandLineOption> options() const override;
+    int run(const CommandLine &line) const override;
 
 private:
-    static void addOptions(CommandLine &line);
-    static int print(const CommandLine &line, const QSizeF &maxSize);
-    static void applyFilters(const CommandLine &line, const QSizeF &maxSize, IFilterModel &filter);
+    static int print(const CommandLine &line, const QList<QSharedPointer<IFile>> &files);
 };

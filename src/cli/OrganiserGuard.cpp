@@ -1,12 +1,18 @@
 #include "cli/OrganiserGuard.h"
 
 #include "base/InstanceName.h"
+#include <algorithm>
+#include <cerrno>
 #include <QCoreApplication>
-#include <QLocalSocket>
+#include <QFile>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
-constexpr int AnswerMilliseconds = 1000;
+constexpr timeval AnswerTime = {1, 0};
 
 QString organiserName()
 {
@@ -16,6 +22,27 @@ QString organiserName()
     name.organisationDomain = QCoreApplication::organizationDomain();
     name.userName = InstanceName::currentUser();
     return name.toString();
+}
+
+/** Whether a server listens at @p path, be it that it is too busy to take the call. */
+bool serverAnswers(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    sockaddr_un address = {};
+    if (name.size() >= int(sizeof(address.sun_path)))
+        return false; // no server has so long a name
+    address.sun_family = AF_UNIX;
+    std::copy(name.begin(), name.end(), address.sun_path);
+
+    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (descriptor < 0)
+        return true;
+    setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &AnswerTime, sizeof(AnswerTime));
+    const int result =
+        connect(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof(address));
+    const bool isThere = result == 0 || errno == EAGAIN || errno == EINTR;
+    close(descriptor);
+    return isThere;
 }
 
 } // namespace
@@ -41,6 +68,11 @@ bool OrganiserGuard::isOrganiserRunning() const
     return !knowsThatNoneRuns() && organiserAnswers();
 }
 
+QString OrganiserGuard::runningText()
+{
+    return tr("Hoopline Organizer is running. Close it first, or rescan in its window.");
+}
+
 bool OrganiserGuard::knowsThatNoneRuns() const
 {
     if (!m_locked || m_block.size() < int(sizeof(InstanceBlock)))
@@ -51,11 +83,6 @@ bool OrganiserGuard::knowsThatNoneRuns() const
 
 bool OrganiserGuard::organiserAnswers() const
 {
-    QLocalSocket socket;
-    socket.connectToServer(m_name);
-    if (socket.waitForConnected(AnswerMilliseconds))
-        return true;
-    // Any other failure comes from a server that is there but busy.
-    return socket.error() != QLocalSocket::ServerNotFoundError &&
-           socket.error() != QLocalSocket::ConnectionRefusedError;
+    const QStringList paths = InstanceName::socketPaths(m_name);
+    return std::any_of(paths.begin(), paths.end(), serverAnswers);
 }

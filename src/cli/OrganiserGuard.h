@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/InstanceBlock.h"
+#include <QCoreApplication>
 #include <QSharedMemory>
 #include <QString>
 
@@ -11,6 +12,8 @@
  */
 class OrganiserGuard
 {
+    Q_DECLARE_TR_FUNCTIONS(OrganiserGuard)
+
 public:
     OrganiserGuard();
     ~OrganiserGuard();
@@ -23,6 +26,9 @@ public:
      * recorded while other processes hold the block, but does not answer.
      */
     bool isOrganiserRunning() const;
+
+    /** What to tell people whose command has to wait until none runs. */
+    static QString runningText();
 
 private:
     bool knowsThatNoneRuns() const;

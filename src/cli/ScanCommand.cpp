@@ -1,67 +1,61 @@
 #include "cli/ScanCommand.h"
 
-#include "base/GlobalSettings.h"
-#include "catalogue/sync/DataFolder.h"
-#include "cli/CatalogueInUseError.h"
+#include "base/Error.h"
+#include "base/GSettings.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/ConsoleProgress.h"
 #include "cli/ExitStatus.h"
 #include "cli/Interrupt.h"
+#include "cli/LocalPath.h"
 #include "cli/ScanController.h"
-#include <QDir>
+#include "cli/ScanRehearsal.h"
+#include <algorithm>
 #include <QFileInfo>
-#include <QLockFile>
 
-int ScanCommand::run(const QStringList &arguments)
+QString ScanCommand::summary() const
 {
-    CommandLine line(QStringLiteral("hoopline-cli scan [options] [FOLDER...]"),
-                     tr("Adds the folders to the catalogue and brings it into line with the disk. "
-                        "Without a folder it rescans the folders that are there."),
-                     arguments);
-    if (!line.parse())
-        return line.exitStatus();
-
-    QStringList folders;
-    const QStringList given = line.positionalArguments();
-    for (const QString &folder : given) {
-        const QFileInfo info(folder);
-        if (folder.isEmpty() || !info.isDir()) {
-            Console::reportError(tr("'%1' is not a folder").arg(folder));
-            return Failure;
-        }
-        folders.append(QDir::cleanPath(info.absoluteFilePath()));
-    }
-    try {
-        return scan(folders);
-    } catch (const CatalogueInUseError &error) {
-        Console::reportError(error.toString());
-        return CatalogueInUse;
-    }
+    return tr("Add folders to the catalogue, bring it into line with the disk.");
 }
 
-int ScanCommand::scan(const QStringList &folders)
+QString ScanCommand::description() const
 {
-    const QString dataPath = GlobalSettings().applicationDataPath();
-    DataFolder::prepare(dataPath);
-    QLockFile lock(dataPath + QStringLiteral("/hoopline-cli.lock"));
-    lock.setStaleLockTime(0); // only a dead process leaves a stale lock, however long a scan takes
-    if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError)
-        throw CatalogueInUseError(tr("Another scan is running."));
+    return tr("Adds the folders to the catalogue and brings it into line with the disk. "
+              "Without a folder it rescans the folders that are there.");
+}
 
-    ScanController controller;
+QList<QCommandLineOption> ScanCommand::options() const
+{
+    return {
+        {QStringLiteral("prune"),
+         tr("Go on while a folder is missing or suddenly empty; its designs leave the catalogue.")},
+        {QStringLiteral("dry-run"), tr("Only tell what would happen.")},
+    };
+}
+
+int ScanCommand::run(const CommandLine &line) const
+{
+    const QStringList folders = parseFolders(line.positionalArguments());
+    const bool prune = line.isSet("prune");
+    GSettings::setReadOnly(line.isSet("dry-run"));
+    if (line.isSet("dry-run"))
+        return ScanRehearsal(folders).run(prune);
+
+    ScanController controller(prune);
     controller.open();
     synchronise(controller, folders);
+    return report(controller);
+}
 
-    const SyncCounts done = controller.lastScan();
-    StandardOutput output;
-    output.writeLine(QStringLiteral("added %1, updated %2, moved %3, removed %4, unreadable %5")
-                         .arg(done.added)
-                         .arg(done.updated)
-                         .arg(done.reconnected)
-                         .arg(done.removed)
-                         .arg(done.unreadable));
-    return output.flush() ? Success : Failure;
+QStringList ScanCommand::parseFolders(const QStringList &names)
+{
+    QStringList folders;
+    for (const QString &name : names) {
+        if (name.isEmpty() || !QFileInfo(LocalPath::of(name)).isDir())
+            throw Error(tr("'%1' is not a folder").arg(name));
+        folders.append(LocalPath::absolute(name));
+    }
+    return folders;
 }
 
 void ScanCommand::synchronise(ScanController &controller, const QStringList &folders)
@@ -74,4 +68,31 @@ void ScanCommand::synchronise(ScanController &controller, const QStringList &fol
     else
         controller.addDirectories(folders);
     controller.setProgressAbortListener(nullptr);
+}
+
+int ScanCommand::report(const ScanController &controller)
+{
+    const QList<UnreadableFile> unreadable = controller.unreadableFiles();
+    for (const UnreadableFile &file : unreadable)
+        Console::reportError(file.reason.contains(file.path)
+                                 ? file.reason
+                                 : QStringLiteral("%1: %2").arg(file.path, file.reason));
+    const SyncCounts done = controller.lastScan();
+    if (done.unreached > 0)
+        Console::reportError(
+            tr("Stopped; %n new design(s) are still to be read.", nullptr, done.unreached));
+
+    StandardOutput output;
+    output.writeLine(QStringLiteral("added %1, updated %2, moved %3, removed %4, unreadable %5")
+                         .arg(done.added - done.unreached)
+                         .arg(done.updated)
+                         .arg(done.reconnected)
+                         .arg(done.removed)
+                         .arg(done.unreadable));
+    const bool written = output.flush();
+    if (Interrupt::received() != 0)
+        return SignalReceived + Interrupt::received();
+    const bool diskFailed = std::any_of(unreadable.begin(), unreadable.end(),
+                                        [](const auto &file) { return !file.damaged; });
+    return written && !diskFailed ? Success : Failure;
 }

@@ -1,20 +1,27 @@
 #pragma once
 
+#include "cli/Command.h"
 #include <QCoreApplication>
 #include <QStringList>
 
 class ScanController;
 
 /** Adds folders to the catalogue and brings it into line with the disk. */
-class ScanCommand
+class ScanCommand : public Command
 {
     Q_DECLARE_TR_FUNCTIONS(ScanCommand)
 
 public:
-    /** @return the exit status of the process */
-    static int run(const QStringList &arguments);
+    QString name() const override { return QStringLiteral("scan"); }
+    QString summary() const override;
+    QString arguments() const override { return QStringLiteral("[options] [FOLDER...]"); }
+    QString description() const override;
+    QList<QCommandLineOption> options() const override;
+    bool writes() const override { return true; }
+    int run(const CommandLine &line) const override;
 
 private:
-    static int scan(const QStringList &folders);
+    static QStringList parseFolders(const QStringList &names);
     static void synchronise(ScanController &controller, const QStringList &folders);
+    static int report(const ScanController &controller);
 };

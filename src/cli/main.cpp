@@ -1,15 +1,10 @@
 #include "base/BuildConfig.h"
-#include "base/Error.h"
 #include "base/FileNameEncoding.h"
 #include "base/GDebug.h"
 #include "base/GTranslationLoader.h"
-#include "cli/CommandLine.h"
-#include "cli/Console.h"
-#include "cli/ExitStatus.h"
-#include "cli/InspectCommand.h"
-#include "cli/ListCommand.h"
-#include "cli/ScanCommand.h"
-#include <exception>
+#include "cli/Companion.h"
+#include <algorithm>
+#include <memory>
 #include <QGuiApplication>
 
 // Q_INIT_RESOURCE declares what it calls in the namespace around it, so this is outside of one.
@@ -24,38 +19,19 @@ namespace {
 
 constexpr int CriticalMessagesOnly = 4;
 
-int runWithoutCommand(const QStringList &arguments)
+/**
+ * Only a scan paints pixmaps, which need the classes around windows; these make a runtime
+ * folder for the user where there is none, and all other commands leave no trace.
+ */
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
-    CommandLine line(
-        QStringLiteral("hoopline-cli scan|inspect|list [options] [ARGUMENT...]"),
-        QCoreApplication::translate(
-            "main", "The companion of Hoopline Organizer that needs no window.\n"
-                    "\n"
-                    "Commands; each has a --help of its own:\n"
-                    "  scan     Add folders to the catalogue, bring it into line with the disk.\n"
-                    "  inspect  Read designs and tell about them.\n"
-                    "  list     Print the designs of the catalogue."),
-        arguments);
-    if (!line.parse())
-        return line.exitStatus();
-    if (line.positionalArguments().isEmpty())
-        return line.fail(QCoreApplication::translate("main", "No command given."));
-    return line.fail(QCoreApplication::translate("main", "Unknown command '%1'.")
-                         .arg(line.positionalArguments().constFirst()));
-}
-
-int run(QStringList arguments)
-{
-    arguments.removeFirst();
-    const QString command = arguments.value(0);
-    const QStringList rest = arguments.mid(1);
-    if (command == QLatin1String("scan"))
-        return ScanCommand::run(rest);
-    if (command == QLatin1String("inspect"))
-        return InspectCommand::run(rest);
-    if (command == QLatin1String("list"))
-        return ListCommand::run(rest);
-    return runWithoutCommand(arguments);
+    const auto has = [&](const char *argument) {
+        return std::any_of(argv + 1, argv + argc,
+                           [&](const char *given) { return qstrcmp(given, argument) == 0; });
+    };
+    if (has("scan") && !has("--dry-run"))
+        return std::make_unique<QGuiApplication>(argc, argv);
+    return std::make_unique<QCoreApplication>(argc, argv);
 }
 
 } // namespace
@@ -68,19 +44,11 @@ int main(int argc, char **argv)
     theLogServer()->setGlobalLogLevel(CriticalMessagesOnly);
     qInstallMessageHandler(GDebug::redirectQDebug);
 
-    QGuiApplication app(argc, argv);
+    const auto app = makeApplication(argc, argv);
     // The names of the program itself: settings and catalogue are shared with it.
     QCoreApplication::setApplicationName(QStringLiteral("Hoopline Organizer"));
     QCoreApplication::setOrganizationName(QLatin1String(BuildConfig::Organisation));
     QCoreApplication::setApplicationVersion(QLatin1String(BuildConfig::Version));
-    loadTranslations(app);
-
-    try {
-        return run(app.arguments());
-    } catch (const Error &error) {
-        Console::reportError(error.toString());
-    } catch (const std::exception &error) {
-        Console::reportError(QString::fromLocal8Bit(error.what()));
-    }
-    return Failure;
+    loadTranslations(*app);
+    return Companion().run(QCoreApplication::arguments().mid(1));
 }

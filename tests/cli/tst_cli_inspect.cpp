@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtTest>
+#include <unistd.h>
 
 class CliInspectTest : public QObject
 {
@@ -23,6 +24,10 @@ private slots:
     void keepsHostileTextOffTheTerminal();
     void rendersPreview_data();
     void rendersPreview();
+    void refusesToHarmFiles_data();
+    void refusesToHarmFiles();
+    void forgottenTargetCostsNoDesign();
+    void replacesByForce();
     void failsWhenPreviewCannotBeWritten();
 
 private:
@@ -111,7 +116,10 @@ void CliInspectTest::printsNumbersThatReadBackExactly()
 
 void CliInspectTest::escapesNames()
 {
-    const QStringList names{"say \"hi\" \\ there.dst", "line\nfeed\ttab\033[31m.dst",
+    const QStringList names{"say \"hi\" \\ there.dst",
+                            "line\nfeed\ttab\033[31m.dst",
+                            QString::fromUtf8("\302\233K \342\200\256tsd.dst"),
+                            ":colon.dst",
                             QString::fromUtf8("\345\210\272\347\273\243 \360\237\214\271.dst"),
                             "--json.dst"};
     for (const QString &name : names)
@@ -120,6 +128,8 @@ void CliInspectTest::escapesNames()
     for (const QJsonObject &object : inspect(QStringList("--") + names))
         told.append(object.value("file").toString());
     QCOMPARE(told, names);
+    const auto result = m_cli.run(QStringList{"inspect", "--json", "--"} + names);
+    QVERIFY(!result.out.contains("\302\233") && !result.out.contains("\342\200\256"));
 }
 
 void CliInspectTest::printsTable()
@@ -143,7 +153,7 @@ void CliInspectTest::keepsHostileTextOffTheTerminal()
     QVERIFY(DstDesign::square("A\033]0;x\007B").writeTo(m_cli.workPath("esc\033[2J.dst")));
     const auto result = m_cli.run({"inspect", "esc\033[2J.dst", "gone\033[2J.dst"});
     QCOMPARE(result.status, 1);
-    QVERIFY(result.out.contains("10.0 x 10.0 mm"));
+    QVERIFY(result.out.contains("10mm x 10mm"));
     QVERIFY(result.error.contains("Failed to open file: "));
     QVERIFY(!(result.out + result.error).contains('\033'));
 }
@@ -163,10 +173,57 @@ void CliInspectTest::rendersPreview()
     design.stitch(100, 50).stitch(-100, -50).stitch(100, 0);
     QVERIFY(design.writeTo(m_cli.workPath("wide.dst")));
     const auto result =
-        m_cli.run(QStringList{"inspect", "--render", "picture", "wide.dst"} + options);
+        m_cli.run(QStringList{"inspect", "--force", "--render", "picture", "wide.dst"} + options);
     QCOMPARE(result.status, 0);
     QImage image(m_cli.workPath("picture"), "PNG");
     QTEST(image.size(), "size");
+}
+
+void CliInspectTest::refusesToHarmFiles_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("status");
+    QTest::newRow("another design") << "b.dst" << QStringList{} << 2;
+    QTest::newRow("another design, by force") << "b.dst" << QStringList{"--force"} << 2;
+    QTest::newRow("any design's name") << "new.PES" << QStringList{"--force"} << 2;
+    QTest::newRow("itself by a link") << "link.png" << QStringList{"--force"} << 2;
+    QTest::newRow("itself by another name") << "twin.png" << QStringList{"--force"} << 2;
+    QTest::newRow("some file") << "notes.txt" << QStringList{} << 1;
+    QTest::newRow("some folder") << "folder" << QStringList{"--force"} << 1;
+}
+
+void CliInspectTest::refusesToHarmFiles()
+{
+    QFETCH(QString, target);
+    QFETCH(QStringList, options);
+    QVERIFY(DstDesign::square("B").writeTo(m_cli.workPath("b.dst")));
+    QVERIFY(CatalogueFolder::write(m_cli.workPath("notes.txt"), "mine"));
+    QFile::link(m_cli.workPath("a.dst"), m_cli.workPath("link.png"));
+    ::link(m_cli.workPath("a.dst").toLocal8Bit(), m_cli.workPath("twin.png").toLocal8Bit());
+    QDir(m_cli.workPath()).mkpath("folder");
+    const QByteArray before = CatalogueFolder::read(m_cli.workPath(target));
+    const auto result = m_cli.run(QStringList{"inspect", "--render", target, "a.dst"} + options);
+    QTEST(result.status, "status");
+    QVERIFY2(result.error.contains(target.toUtf8()), result.error);
+    QCOMPARE(result.out, QByteArray());
+    QCOMPARE(CatalogueFolder::read(m_cli.workPath(target)), before);
+}
+
+// As a shell makes it of "--render *.dst".
+void CliInspectTest::forgottenTargetCostsNoDesign()
+{
+    QVERIFY(DstDesign::square("B").writeTo(m_cli.workPath("b.dst")));
+    const QByteArray before = CatalogueFolder::read(m_cli.workPath("a.dst"));
+    QCOMPARE(m_cli.run({"inspect", "--render", "a.dst", "b.dst"}).status, 2);
+    QCOMPARE(CatalogueFolder::read(m_cli.workPath("a.dst")), before);
+}
+
+void CliInspectTest::replacesByForce()
+{
+    QVERIFY(CatalogueFolder::write(m_cli.workPath("old.png"), "old"));
+    QCOMPARE(m_cli.run({"inspect", "--force", "--render", "old.png", "a.dst"}).status, 0);
+    QVERIFY(!QImage(m_cli.workPath("old.png")).isNull());
 }
 
 void CliInspectTest::failsWhenPreviewCannotBeWritten()
@@ -174,6 +231,7 @@ void CliInspectTest::failsWhenPreviewCannotBeWritten()
     const auto result = m_cli.run({"inspect", "--render", "none/such/o.png", "a.dst"});
     QCOMPARE(result.status, 1);
     QVERIFY(result.error.contains("none/such/o.png"));
+    QVERIFY(!QFile::exists(m_cli.workPath("none")));
 }
 
 QTEST_GUILESS_MAIN(CliInspectTest)

@@ -3,7 +3,11 @@
 #include "catalogue/sync/ProjectController.h"
 #include "CliProcess.h"
 #include "support/DstDesign.h"
+#include "support/Terminal.h"
+#include <algorithm>
+#include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,7 +25,12 @@ private slots:
     void tellsAllAboutRecords();
     void quotesCsv();
     void printsTable();
-    void listsNothingWithoutCatalogue();
+    void showsAllToPeople_data();
+    void showsAllToPeople();
+    void alignsWideCharacters();
+    void tellsWhatIsMissing_data();
+    void tellsWhatIsMissing();
+    void leavesNoTrace();
 
 private:
     CliProcess m_cli;
@@ -42,10 +51,12 @@ void CliListTest::initTestCase()
     const auto files = controller.project()->files();
     for (const auto &file : files) {
         if (file->name() == QLatin1String("Rose")) {
-            file->setTags({"flowers", "red"});
+            file->setTags({"flowers", "red", "a;b,\"c\""});
             file->setNotes("two\nlines");
+
         } else {
             file->setFavorite(file->name() == QLatin1String("Ten"));
+            file->setNotes(QString::fromUtf8("\302\233K"));
         }
     }
     controller.saveProjectIfModified();
@@ -92,7 +103,7 @@ void CliListTest::tellsAllAboutRecords()
     QCOMPARE(rose.value("md5").toString().size(), 32);
     QCOMPARE(rose.value("stitch_count").toInt(), 8);
     QCOMPARE(rose.value("width_mm").toDouble(), 10.0);
-    QCOMPARE(rose.value("tags").toArray(), (QJsonArray{"flowers", "red"}));
+    QCOMPARE(rose.value("tags").toArray(), (QJsonArray{"flowers", "red", "a;b,\"c\""}));
     QCOMPARE(rose.value("notes").toString(), QStringLiteral("two\nlines"));
     QCOMPARE(rose.value("favorite").toBool(true), false);
     QCOMPARE(rose.value("threads").toArray().size(), 2);
@@ -103,25 +114,117 @@ void CliListTest::quotesCsv()
     const auto result = m_cli.run({"list", "--csv", "--tag", "red"});
     QVERIFY(result.out.startsWith("file,name,"));
     QVERIFY2(result.out.contains("/flowers/a,\"\"b\"\".dst\",Rose,"), result.out);
-    QVERIFY2(result.out.contains(",\"two\nlines\",flowers;red,false\n"), result.out);
+    QVERIFY2(result.out.contains(
+                 ",\"two\nlines\",\"flowers;red;\"\"a;b,\"\"\"\"c\"\"\"\"\"\"\",false\n"),
+             result.out);
 }
 
 void CliListTest::printsTable()
 {
-    const auto result = m_cli.run({"list", "--favorites"});
-    const auto lines = result.out.trimmed().split('\n');
-    QCOMPARE(lines.size(), 3);
-    QVERIFY(lines.at(1).startsWith("*  " + m_cli.workPath("designs/item10.dst").toUtf8()));
-    QCOMPARE(lines.at(2), QByteArray("1 design"));
+    const auto result = m_cli.run({"list"});
+    const auto lines = result.out.split('\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY2(lines.at(2).startsWith("*  " + m_cli.workPath("designs/item10.dst").toUtf8()),
+             lines.at(2));
+    QVERIFY2(lines.at(2).contains("  6mm x 6mm  "), lines.at(2));
+    // A program that reads the lines gets nothing but designs.
+    QVERIFY(result.error.startsWith("   File "));
+    QVERIFY(result.error.endsWith("\n3 designs\n"));
 }
 
-void CliListTest::listsNothingWithoutCatalogue()
+void CliListTest::showsAllToPeople_data()
 {
+    QTest::addColumn<QString>("form");
+    QTest::addColumn<QByteArray>("head");
+    QTest::newRow("table") << "--favorites" << QByteArray("   File ");
+    QTest::newRow("CSV") << "--csv" << QByteArray("file,name,");
+}
+
+void CliListTest::showsAllToPeople()
+{
+    QFETCH(QString, form);
+    QFETCH(QByteArray, head);
+    const Terminal terminal;
+    if (!terminal.isValid())
+        QSKIP("there are no pseudo-terminals here");
+    QProcess process;
+    process.setStandardOutputFile(terminal.name());
+    QVERIFY(m_cli.start(process, {"list", form}));
+    const auto result = CliProcess::finish(process);
+    const QByteArray shown = terminal.read();
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY2(shown.startsWith(head), shown);
+    QVERIFY2(shown.contains("item10"), shown);
+    QVERIFY2(!shown.contains("\302\233"), shown);
+}
+
+void CliListTest::alignsWideCharacters()
+{
+    const CliProcess cli;
+    const QStringList names{"ab", QString::fromUtf8("\347\216\253\347\221\260"),
+                            QString::fromUtf8("u\314\210")}; // two wide; a combining mark
+    QDir(cli.workPath()).mkpath("d");
+    for (const QString &name : names)
+        QVERIFY(DstDesign::square().writeTo(cli.workPath("d/" + name + ".dst")));
+    QCOMPARE(cli.run({"scan", "d"}).status, 0);
+    QList<int> blanks;
+    for (const QString &line : QString::fromUtf8(cli.run({"list"}).out).split('\n')) {
+        if (!line.isEmpty())
+            blanks.append(line.mid(3).indexOf("10mm") - line.mid(3).indexOf(".dst") - 4);
+    }
+    std::sort(blanks.begin(), blanks.end());
+    QCOMPARE(blanks, (QList<int>{2, 4, 5}));
+}
+
+void CliListTest::tellsWhatIsMissing_data()
+{
+    QTest::addColumn<bool>("hasCatalogue");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("catalogue") << false << QStringList{"--json"} << QByteArray("no catalogue");
+    QTest::newRow("folder elsewhere")
+        << true << QStringList{"--folder", "/nowhere"} << QByteArray("'/nowhere'");
+    QTest::newRow("folder that begins alike")
+        << true << QStringList{"--folder", "designs/flow"} << QByteArray("designs/flow'");
+}
+
+void CliListTest::tellsWhatIsMissing()
+{
+    QFETCH(bool, hasCatalogue);
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, message);
     const CliProcess fresh;
-    const auto result = fresh.run({"list", "--json"});
-    QCOMPARE(result.status, 0);
+    const auto result = (hasCatalogue ? m_cli : fresh).run(QStringList{"list"} + options);
+    QCOMPARE(result.status, 1);
     QCOMPARE(result.out, QByteArray());
-    QVERIFY(!QFile::exists(fresh.dataPath("hoopline-organizer.xml")));
+    QVERIFY2(result.error.contains(message), result.error);
+}
+
+static QStringList everythingBelow(const QString &folder)
+{
+    QStringList all;
+    QDirIterator entry(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (entry.hasNext()) {
+        const QFileInfo info(entry.next());
+        all.append(info.filePath() + ' ' + info.lastModified().toString(Qt::ISODateWithMs));
+    }
+    all.sort();
+    return all;
+}
+
+void CliListTest::leavesNoTrace()
+{
+    const CliProcess cli;
+    QVERIFY(QDir().mkpath(cli.dataPath()));
+    QVERIFY(QFile::copy(m_cli.dataPath("hoopline-organizer.xml"),
+                        cli.dataPath("hoopline-organizer.xml")));
+    const QString root = QDir::cleanPath(cli.workPath(".."));
+    const QStringList before = everythingBelow(root);
+    QCOMPARE(cli.run({"list"}).status, 0);
+    QCOMPARE(cli.run({"inspect", m_cli.workPath("designs/item10.dst")}).status, 0);
+    QCOMPARE(cli.run({"scan", "--dry-run", "--prune"}).status, 0);
+    QCOMPARE(everythingBelow(root), before);
 }
 
 QTEST_GUILESS_MAIN(CliListTest)

@@ -1,17 +1,16 @@
+#include "base/files/FileLock.h"
 #include "CliProcess.h"
 #include "FakeOrganiser.h"
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
+#include "support/Terminal.h"
 #include <memory>
 #include <QDir>
-#include <QLockFile>
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
-#include <unistd.h>
+#include <sys/resource.h>
 #endif
 
 class CliScanTest : public QObject
@@ -25,9 +24,15 @@ private slots:
     void refusesWhatIsNoFolder();
     void leavesUnreadableCatalogueAlone();
     void refusesWhileOrganiserRuns();
-    void runsAfterOrganiserWasKilled();
-    void refusesWhileAnotherScanRuns();
-    void savesNothingWhenOrganiserStartsMeanwhile();
+    void refusesWhileTheLockIsHeld_data();
+    void refusesWhileTheLockIsHeld();
+    void oldLockFilesBlockNobody_data();
+    void oldLockFilesBlockNobody();
+    void refusesWhileAFolderIsMissing_data();
+    void refusesWhileAFolderIsMissing();
+    void rehearsesWhatItDoes();
+    void namesWhatTheDiskDoesNotGive();
+    void fullDiskLeavesTheCatalogue();
     void windsDownOnInterrupt();
     void showsProgressOnTerminalOnly();
 
@@ -72,8 +77,9 @@ void CliScanTest::bringsCatalogueIntoLine()
     makeDesigns(3);
     QVERIFY(CatalogueFolder::write(m_cli->workPath("designs/bad.hus"), "junk"));
     auto result = m_cli->run({"scan", "designs/"});
-    QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.status, 0);
+    QCOMPARE(result.error.count('\n'), 1);
+    QVERIFY2(result.error.contains("designs/bad.hus: "), result.error);
     QCOMPARE(result.out, QByteArray("added 4, updated 0, moved 0, removed 0, unreadable 1\n"));
     QVERIFY(catalogue().contains("<string>" + m_cli->workPath("designs").toUtf8() + "</string>"));
 
@@ -119,48 +125,150 @@ void CliScanTest::refusesWhileOrganiserRuns()
     QCOMPARE(result.out, QByteArray());
     QVERIFY(result.error.contains("Hoopline Organizer is running"));
     QVERIFY(catalogue().isEmpty());
+    organiser.stopAnswering(); // as after a kill
+    QCOMPARE(m_cli->run({"scan", "designs"}).status, 0);
     QCOMPARE(m_cli->run({"list"}).status, 0);
 }
 
-void CliScanTest::runsAfterOrganiserWasKilled()
+void CliScanTest::refusesWhileTheLockIsHeld_data()
+{
+    QTest::addColumn<QString>("holder");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("scan") << "hoopline-cli" << QByteArray("Another scan is running");
+    QTest::newRow("organiser elsewhere")
+        << "hoopline-organizer" << QByteArray("Hoopline Organizer is running");
+}
+
+void CliScanTest::refusesWhileTheLockIsHeld()
+{
+    QFETCH(QString, holder);
+    QFETCH(QByteArray, message);
+    makeDesigns(1);
+    QVERIFY(QDir().mkpath(m_cli->dataPath()));
+    FileLock lock(m_cli->dataPath("hoopline-organizer.lock"), holder);
+    QCOMPARE(lock.tryLock(), FileLock::Held);
+    const auto result = m_cli->run({"scan", "designs"});
+    QCOMPARE(result.status, 3);
+    QVERIFY2(result.error.contains(message), result.error);
+    QVERIFY(catalogue().isEmpty());
+    QCOMPARE(m_cli->run({"scan", "--dry-run", "designs"}).status, 0);
+}
+
+void CliScanTest::oldLockFilesBlockNobody_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("of a process that lives")
+        << QByteArray::number(QCoreApplication::applicationPid()) + "\nhoopline-cli\nhere\n";
+    QTest::newRow("of another machine") << QByteArray("1\nhoopline-cli\nlong-gone-machine\n");
+}
+
+void CliScanTest::oldLockFilesBlockNobody()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(QDir().mkpath(m_cli->dataPath()));
+    for (const char *name : {"hoopline-cli.lock", "hoopline-organizer.lock"})
+        QVERIFY(CatalogueFolder::write(m_cli->dataPath(name), content));
+    QCOMPARE(m_cli->run({"scan"}).status, 0);
+    QVERIFY(!QFile::exists(m_cli->dataPath("hoopline-cli.lock")));
+}
+
+void CliScanTest::refusesWhileAFolderIsMissing_data()
+{
+    QTest::addColumn<bool>("empty");
+    QTest::newRow("not plugged in") << false;
+    QTest::newRow("suddenly empty") << true;
+}
+
+void CliScanTest::refusesWhileAFolderIsMissing()
+{
+    QFETCH(bool, empty);
+    makeDesigns(3);
+    QVERIFY(QDir(m_cli->workPath()).mkpath("more"));
+    QCOMPARE(m_cli->run({"scan", "designs", "more"}).status, 0);
+    const QByteArray before = catalogue();
+    QVERIFY(QFile::rename(m_cli->workPath("designs"), m_cli->workPath("away")));
+    if (empty)
+        QDir(m_cli->workPath()).mkpath("designs/not/a/design");
+    for (const QStringList &arguments :
+         {QStringList{"scan"}, QStringList{"scan", "--dry-run"}, QStringList{"scan", "more"}}) {
+        const auto result = m_cli->run(arguments);
+        QCOMPARE(result.status, 4);
+        QCOMPARE(result.out, QByteArray());
+        QVERIFY2(result.error.contains(m_cli->workPath("designs").toUtf8() + ": "), result.error);
+        QCOMPARE(catalogue(), before);
+    }
+    const auto rehearsal = m_cli->run({"scan", "--prune", "--dry-run"});
+    QCOMPARE(rehearsal.lastLine(),
+             QByteArray("would add 0, update 0, move 0, remove 3, unreadable 0"));
+    QCOMPARE(m_cli->run({"scan", "--prune"}).lastLine(),
+             QByteArray("added 0, updated 0, moved 0, removed 3, unreadable 0"));
+}
+
+void CliScanTest::rehearsesWhatItDoes()
+{
+    makeDesigns(5);
+    QCOMPARE(m_cli->run({"scan", "designs"}).status, 0);
+    const QByteArray before = catalogue();
+    QVERIFY(QFile::rename(m_cli->workPath("designs/0.dst"), m_cli->workPath("designs/m.dst")));
+    QVERIFY(DstDesign::square().writeTo(m_cli->workPath("designs/1.dst")));
+    QVERIFY(QFile::remove(m_cli->workPath("designs/2.dst")));
+    QVERIFY(QDir(m_cli->workPath()).mkpath("more"));
+    QVERIFY(DstDesign::square("New").writeTo(m_cli->workPath("more/NEW.DST")));
+    const auto rehearsal = m_cli->run({"scan", "--dry-run", "more"});
+    QCOMPARE(rehearsal.status, 0);
+    const QByteArray work = m_cli->workPath().toUtf8();
+    QCOMPARE(rehearsal.out, "update " + work + "/designs/1.dst\nmove " + work +
+                                "/designs/0.dst -> " + work + "/designs/m.dst\nadd " + work +
+                                "/more/NEW.DST\nremove " + work +
+                                "/designs/2.dst\n"
+                                "would add 1, update 1, move 1, remove 1, unreadable 0\n");
+    QCOMPARE(catalogue(), before);
+    QCOMPARE(m_cli->run({"scan", "more"}).lastLine(),
+             QByteArray("added 1, updated 1, moved 1, removed 1, unreadable 0"));
+}
+
+void CliScanTest::namesWhatTheDiskDoesNotGive()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("needs a file that cannot be read, whoever reads it");
+#else
+    makeDesigns(2);
+    QVERIFY(QFile::link("/proc/self/mem", m_cli->workPath("designs/broken.dst")));
+    QVERIFY(CatalogueFolder::write(m_cli->workPath("designs/bad.hus"), "junk"));
+    const auto result = m_cli->run({"scan", "designs"});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.error.contains("designs/broken.dst: Input/output error"), result.error);
+    QVERIFY2(result.error.contains("designs/bad.hus: "), result.error);
+    QCOMPARE(result.lastLine(), QByteArray("added 4, updated 0, moved 0, removed 0, unreadable 2"));
+    QVERIFY(catalogue().contains("designs/1.dst"));
+#endif
+}
+
+/** The companion on a disk that takes no file of more than some KB. */
+class OnFullDisk : public QProcess
+{
+protected:
+    void setupChildProcess() override
+    {
+        const rlimit small{4096, 4096};
+        signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+};
+
+void CliScanTest::fullDiskLeavesTheCatalogue()
 {
     makeDesigns(1);
-    FakeOrganiser organiser;
-    QVERIFY(organiser.start());
-    organiser.stopAnswering();
     QCOMPARE(m_cli->run({"scan", "designs"}).status, 0);
-}
-
-void CliScanTest::refusesWhileAnotherScanRuns()
-{
-    QVERIFY(QDir().mkpath(m_cli->dataPath()));
-    QLockFile lock(m_cli->dataPath("hoopline-cli.lock"));
-    QVERIFY(lock.tryLock());
-    const auto result = m_cli->run({"scan"});
-    QCOMPARE(result.status, 3);
-    QVERIFY(result.error.contains("scan"));
-}
-
-void CliScanTest::savesNothingWhenOrganiserStartsMeanwhile()
-{
-#ifndef Q_OS_UNIX
-    QSKIP("needs signals");
-#else
-    makeDesigns(400);
-    QProcess process;
-    QVERIFY(m_cli->start(process, {"scan", "designs"}));
-    QTRY_VERIFY_WITH_TIMEOUT(previewCount() > 0, 60000);
-    ::kill(pid_t(process.processId()), SIGSTOP);
-    QVERIFY(previewCount() < 400);
-    FakeOrganiser organiser;
-    QVERIFY(organiser.start());
     const QByteArray before = catalogue();
-    ::kill(pid_t(process.processId()), SIGCONT);
+    makeDesigns(40);
+    OnFullDisk process;
+    QVERIFY(m_cli->start(process, {"scan"}));
     const auto result = CliProcess::finish(process);
-    QCOMPARE(result.status, 3);
-    QVERIFY(result.error.contains("Nothing was saved"));
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.error.contains("hoopline-organizer.xml"), result.error);
     QCOMPARE(catalogue(), before);
-#endif
 }
 
 void CliScanTest::windsDownOnInterrupt()
@@ -174,11 +282,13 @@ void CliScanTest::windsDownOnInterrupt()
     QTRY_VERIFY_WITH_TIMEOUT(previewCount() > 0, 60000);
     ::kill(pid_t(process.processId()), SIGINT);
     const auto result = CliProcess::finish(process);
-    QCOMPARE(result.status, 0);
-    QCOMPARE(result.lastLine(),
-             QByteArray("added 400, updated 0, moved 0, removed 0, unreadable 0"));
+    QCOMPARE(result.status, 130);
     const int painted = previewCount();
     QVERIFY(painted < 400);
+    QCOMPARE(result.lastLine(), "added " + QByteArray::number(painted) +
+                                    ", updated 0, moved 0, removed 0, unreadable 0");
+    QVERIFY2(result.error.contains(QByteArray::number(400 - painted) + " new designs"),
+             result.error);
     QCOMPARE(m_cli->run({"scan"}).lastLine(), "added 0, updated " +
                                                   QByteArray::number(400 - painted) +
                                                   ", moved 0, removed 0, unreadable 0");
@@ -191,19 +301,15 @@ void CliScanTest::showsProgressOnTerminalOnly()
     QSKIP("needs a pseudo-terminal");
 #else
     makeDesigns(20);
-    const int terminal = posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-    if (terminal < 0 || grantpt(terminal) != 0 || unlockpt(terminal) != 0)
+    const Terminal terminal;
+    if (!terminal.isValid())
         QSKIP("there are no pseudo-terminals here");
     QProcess process;
-    process.setStandardErrorFile(QString::fromLocal8Bit(ptsname(terminal)));
+    process.setStandardErrorFile(terminal.name());
     QVERIFY(m_cli->start(process, {"scan", "designs"}));
     const auto result = CliProcess::finish(process);
-    char shown[4096];
-    const ssize_t count = ::read(terminal, shown, sizeof shown);
-    ::close(terminal);
+    const QByteArray text = terminal.read();
     QCOMPARE(result.status, 0);
-    QVERIFY(count > 0);
-    const QByteArray text(shown, int(count));
     QVERIFY2(text.contains('[') && text.contains('%'), text);
     QVERIFY2(text.endsWith("\r\033[K"), text);
     QCOMPARE(result.out.count('\n'), 1);

@@ -14,6 +14,8 @@ private slots:
     void tellsItsVersion();
     void failsWhenOutputIsLost_data();
     void failsWhenOutputIsLost();
+    void manualPageTellsAllOptions();
+    void hasNoWayToTheNetwork();
     void speaksTheLanguageOfTheSystem();
 };
 
@@ -22,6 +24,8 @@ void CliUsageTest::answersHelp_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("program") << QStringList{"--help"};
     QTest::newRow("short") << QStringList{"-h"};
+    QTest::newRow("word") << QStringList{"help"};
+    QTest::newRow("word for a command") << QStringList{"help", "list"};
     QTest::newRow("scan") << QStringList{"scan", "--help"};
     QTest::newRow("inspect") << QStringList{"inspect", "--help"};
     QTest::newRow("list") << QStringList{"list", "--help"};
@@ -42,6 +46,7 @@ void CliUsageTest::refusesWrongUsage_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("nothing") << QStringList{};
     QTest::newRow("unknown command") << QStringList{"sing"};
+    QTest::newRow("help for nothing known") << QStringList{"help", "sing"};
     QTest::newRow("unknown option") << QStringList{"--json"};
     QTest::newRow("unknown to scan") << QStringList{"scan", "--json"};
     QTest::newRow("unknown to inspect") << QStringList{"inspect", "--loud", "a.dst"};
@@ -52,6 +57,8 @@ void CliUsageTest::refusesWrongUsage_data()
     QTest::newRow("size of no number") << QStringList{"inspect", "--size", "big", "a.dst"};
     QTest::newRow("size of zero") << QStringList{"inspect", "--size", "0", "a.dst"};
     QTest::newRow("size beyond measure") << QStringList{"inspect", "--size", "99999", "a.dst"};
+    QTest::newRow("repeated value") << QStringList{"inspect", "--size", "4", "--size=5", "a.dst"};
+    QTest::newRow("unknown type") << QStringList{"list", "--type", "png"};
     QTest::newRow("list a file") << QStringList{"list", "a.dst"};
     QTest::newRow("two forms") << QStringList{"list", "--json", "--csv"};
     QTest::newRow("bad size") << QStringList{"list", "--max-size", "100"};
@@ -73,9 +80,11 @@ void CliUsageTest::refusesWrongUsage()
 
 void CliUsageTest::tellsItsVersion()
 {
-    const auto result = CliProcess().run({"--version"});
-    QCOMPARE(result.status, 0);
-    QVERIFY(result.out.startsWith("hoopline-cli 1."));
+    for (const QStringList &arguments : {QStringList{"--version"}, QStringList{"scan", "-V"}}) {
+        const auto result = CliProcess().run(arguments);
+        QCOMPARE(result.status, 0);
+        QVERIFY(result.out.startsWith("hoopline-cli 1."));
+    }
 }
 
 void CliUsageTest::failsWhenOutputIsLost_data()
@@ -83,7 +92,7 @@ void CliUsageTest::failsWhenOutputIsLost_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("help") << QStringList{"--help"};
     QTest::newRow("inspect") << QStringList{"inspect", "--json", "a.dst"};
-    QTest::newRow("list") << QStringList{"list"};
+    QTest::newRow("list") << QStringList{"list", "--csv"};
 }
 
 void CliUsageTest::failsWhenOutputIsLost()
@@ -93,10 +102,49 @@ void CliUsageTest::failsWhenOutputIsLost()
     QFETCH(QStringList, arguments);
     const CliProcess cli;
     QVERIFY(DstDesign::square().writeTo(cli.workPath("a.dst")));
+    QCOMPARE(cli.run({"scan"}).status, 0);
     QProcess process;
     process.setStandardOutputFile("/dev/full");
     QVERIFY(cli.start(process, arguments));
-    QCOMPARE(CliProcess::finish(process).status, 1);
+    const auto result = CliProcess::finish(process);
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.error.count('\n'), 1);
+    QVERIFY2(result.error.contains("No space left on device"), result.error);
+}
+
+// What help tells, the manual page tells, and nothing besides.
+void CliUsageTest::manualPageTellsAllOptions()
+{
+    QFile page(MANUAL_PAGE);
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString manual = QString::fromUtf8(page.readAll()).replace("\\-", "-");
+    const QRegularExpression command("^  ([a-z]+)  ", QRegularExpression::MultilineOption);
+    const QRegularExpression option("--[a-z][a-z-]+");
+    const CliProcess cli;
+    QSet<QString> told{"--help", "--version"};
+    auto commands = command.globalMatch(QString::fromUtf8(cli.run({"--help"}).out));
+    QVERIFY(commands.hasNext());
+    while (commands.hasNext()) {
+        const QString name = commands.next().captured(1);
+        QVERIFY2(manual.contains("\n.SS " + name + '\n'), qPrintable(name));
+        auto options = option.globalMatch(QString::fromUtf8(cli.run({"help", name}).out));
+        while (options.hasNext())
+            told.insert(options.next().captured());
+    }
+    QSet<QString> written;
+    auto options = option.globalMatch(manual);
+    while (options.hasNext())
+        written.insert(options.next().captured());
+    QCOMPARE(written, told);
+}
+
+void CliUsageTest::hasNoWayToTheNetwork()
+{
+    QFile program(CLI_PATH);
+    QVERIFY(program.open(QIODevice::ReadOnly));
+    const QByteArray bytes = program.readAll();
+    QVERIFY(bytes.contains("libQt5Core.so"));
+    QVERIFY(!bytes.contains("libQt5Network.so"));
 }
 
 void CliUsageTest::speaksTheLanguageOfTheSystem()
@@ -106,8 +154,7 @@ void CliUsageTest::speaksTheLanguageOfTheSystem()
     qputenv("LC_ALL", "C.UTF-8");
     QCOMPARE(result.error,
              QByteArray("hoopline-cli: Unbekannter Befehl \342\200\236sing\342\200\234."
-                        "\nAufruf: hoopline-cli scan|inspect|list [options] "
-                        "[ARGUMENT...]\n"));
+                        "\nAufruf: hoopline-cli COMMAND [options] [ARGUMENT...]\n"));
 }
 
 QTEST_GUILESS_MAIN(CliUsageTest)

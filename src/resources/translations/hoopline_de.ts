@@ -108,10 +108,6 @@
         <translation>Stiche</translation>
     </message>
     <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-    <message>
         <source>Tags</source>
         <translation>Schlagwörter</translation>
     </message>
@@ -121,6 +117,10 @@
             <numerusform>%n Stickmuster</numerusform>
             <numerusform>%n Stickmuster</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Farben</translation>
     </message>
 </context>
 <context>
@@ -156,6 +156,41 @@
         <source>Print the version.</source>
         <translation>Die Version ausgeben.</translation>
     </message>
+    <message>
+        <source>The option --%1 can be given only once.</source>
+        <translation>Die Option --%1 kann nur einmal angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>Unerwartetes Argument „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>Companion</name>
+    <message>
+        <source>No command given.</source>
+        <translation>Kein Befehl angegeben.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>Unerwartetes Argument „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown command &apos;%1&apos;.</source>
+        <translation>Unbekannter Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>The companion of Hoopline Organizer that needs no window.
+
+Commands; each has a --help of its own:</source>
+        <translation>Der Begleiter von Hoopline Organizer, der kein Fenster braucht.
+
+Befehle; jeder hat eine eigene --help:</translation>
+    </message>
+    <message>
+        <source>Print the help of a command.</source>
+        <translation>Die Hilfe eines Befehls ausgeben.</translation>
+    </message>
 </context>
 <context>
     <name>DataFolder</name>
@@ -175,16 +210,8 @@
         <translation>Größe</translation>
     </message>
     <message>
-        <source>%1 x %2 mm</source>
-        <translation>%1 x %2 mm</translation>
-    </message>
-    <message>
         <source>Stitches</source>
         <translation>Stiche</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
     </message>
     <message>
         <source>MD5</source>
@@ -193,6 +220,10 @@
     <message>
         <source>Thread %1</source>
         <translation>Garn %1</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Farben</translation>
     </message>
 </context>
 <context>
@@ -408,24 +439,20 @@
         <translation>%1: Das Stickmuster hat keine darstellbare Ausdehnung.</translation>
     </message>
     <message>
-        <source>Failed to write %1</source>
-        <translation>%1 konnte nicht geschrieben werden</translation>
-    </message>
-    <message>
         <source>Longer side of the preview in pixels; 400 if not given.</source>
         <translation>Längere Seite der Vorschau in Pixeln; ohne Angabe 400.</translation>
+    </message>
+    <message>
+        <source>Read designs and tell about them.</source>
+        <translation>Stickmuster lesen und Auskunft geben.</translation>
+    </message>
+    <message>
+        <source>With --render, replace a file that is there.</source>
+        <translation>Mit --render eine vorhandene Datei ersetzen.</translation>
     </message>
 </context>
 <context>
     <name>ListCommand</name>
-    <message>
-        <source>Prints the designs of the catalogue, narrowed as in the organiser.</source>
-        <translation>Gibt die Stickmuster des Katalogs aus, gefiltert wie im Programm.</translation>
-    </message>
-    <message>
-        <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Unerwartetes Argument „%1“.</translation>
-    </message>
     <message>
         <source>Choose one of --json and --csv.</source>
         <translation>Wählen Sie entweder --json oder --csv.</translation>
@@ -451,16 +478,8 @@
         <translation>Nur Stickmuster dieses Formats, zum Beispiel dst.</translation>
     </message>
     <message>
-        <source>Only designs that fit into this many millimetres.</source>
-        <translation>Nur Stickmuster, die in so viele Millimeter passen.</translation>
-    </message>
-    <message>
         <source>Only designs whose file name or notes hold the text.</source>
         <translation>Nur Stickmuster, deren Dateiname oder Notizen den Text enthalten.</translation>
-    </message>
-    <message>
-        <source>Only favourites.</source>
-        <translation>Nur Favoriten.</translation>
     </message>
     <message>
         <source>Print one JSON object per design, a line each.</source>
@@ -469,6 +488,34 @@
     <message>
         <source>Print comma-separated values.</source>
         <translation>Kommagetrennte Werte ausgeben.</translation>
+    </message>
+    <message>
+        <source>Unknown type &apos;%1&apos;; there are %2.</source>
+        <translation>Unbekanntes Format „%1“; es gibt %2.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; is not in the catalogue.</source>
+        <translation>Der Ordner „%1“ ist nicht im Katalog.</translation>
+    </message>
+    <message>
+        <source>Print the designs of the catalogue.</source>
+        <translation>Die Stickmuster des Katalogs ausgeben.</translation>
+    </message>
+    <message>
+        <source>Prints the designs of the catalogue, narrowed as in the organizer.</source>
+        <translation>Gibt die Stickmuster des Katalogs aus, gefiltert wie im Programm.</translation>
+    </message>
+    <message>
+        <source>Only designs that fit into this many millimeters.</source>
+        <translation>Nur Stickmuster, die in so viele Millimeter passen.</translation>
+    </message>
+    <message>
+        <source>Only favorites.</source>
+        <translation>Nur Favoriten.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
     </message>
 </context>
 <context>
@@ -551,6 +598,13 @@
     <message>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>OrganiserGuard</name>
+    <message>
+        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
+        <translation>Hoopline Organizer läuft. Schließen Sie es zuerst oder lesen Sie die Ordner in seinem Fenster neu ein.</translation>
     </message>
 </context>
 <context>
@@ -722,6 +776,29 @@
     </message>
 </context>
 <context>
+    <name>RenderTarget</name>
+    <message>
+        <source>The picture must not bear the name of a design: %1</source>
+        <translation>Das Bild darf nicht wie ein Stickmuster heißen: %1</translation>
+    </message>
+    <message>
+        <source>The picture must not replace a design: %1</source>
+        <translation>Das Bild darf kein Stickmuster ersetzen: %1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a folder</source>
+        <translation>„%1“ ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists; --force replaces it</source>
+        <translation>„%1“ gibt es schon; --force ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
+        <translation>%1 konnte nicht geschrieben werden: Den Ordner „%2“ gibt es nicht</translation>
+    </message>
+</context>
+<context>
     <name>ScanCommand</name>
     <message>
         <source>Adds the folders to the catalogue and brings it into line with the disk. Without a folder it rescans the folders that are there.</source>
@@ -732,19 +809,59 @@
         <translation>„%1“ ist kein Ordner</translation>
     </message>
     <message>
-        <source>Another scan is running.</source>
-        <translation>Es läuft bereits ein Einlesevorgang.</translation>
+        <source>Add folders to the catalogue, bring it into line with the disk.</source>
+        <translation>Ordner in den Katalog aufnehmen, ihn mit der Festplatte abgleichen.</translation>
+    </message>
+    <message>
+        <source>Go on while a folder is missing or suddenly empty; its designs leave the catalogue.</source>
+        <translation>Auch weitermachen, wenn ein Ordner fehlt oder plötzlich leer ist; seine Stickmuster verlassen den Katalog.</translation>
+    </message>
+    <message>
+        <source>Only tell what would happen.</source>
+        <translation>Nur sagen, was geschehen würde.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped; %n new design(s) are still to be read.</source>
+        <translation>
+            <numerusform>Abgebrochen; %n neues Stickmuster ist noch zu lesen.</numerusform>
+            <numerusform>Abgebrochen; %n neue Stickmuster sind noch zu lesen.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>ScanController</name>
     <message>
-        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
-        <translation>Hoopline Organizer läuft. Schließen Sie es zuerst oder lesen Sie die Ordner in seinem Fenster neu ein.</translation>
-    </message>
-    <message>
         <source>Hoopline Organizer was started during the scan. Nothing was saved.</source>
         <translation>Hoopline Organizer wurde während des Einlesens gestartet. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Another scan is running.</source>
+        <translation>Es läuft bereits ein Einlesevorgang.</translation>
+    </message>
+    <message>
+        <source>The catalogue was changed during the scan. Nothing was saved.</source>
+        <translation>Der Katalog wurde während des Einlesens geändert. Es wurde nichts gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFolderCheck</name>
+    <message>
+        <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
+        <translation>Es wurde nichts geändert. Mit --prune verlassen die Stickmuster solcher Ordner den Katalog.</translation>
+    </message>
+    <message numerus="yes">
+        <source>holds none of its %n design(s) any more</source>
+        <translation>
+            <numerusform>enthält sein Stickmuster nicht mehr</numerusform>
+            <numerusform>enthält keines seiner %n Stickmuster mehr</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StandardOutput</name>
+    <message>
+        <source>The output could not be written: %1</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -902,31 +1019,6 @@
     <message>
         <source>remove tag</source>
         <translation>Schlagwort entfernen</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>The companion of Hoopline Organizer that needs no window.
-
-Commands; each has a --help of its own:
-  scan     Add folders to the catalogue, bring it into line with the disk.
-  inspect  Read designs and tell about them.
-  list     Print the designs of the catalogue.</source>
-        <translation>Der Begleiter von Hoopline Organizer, der kein Fenster braucht.
-
-Befehle; jeder hat sein eigenes --help:
-  scan     Ordner zum Katalog hinzufügen und ihn mit der Festplatte abgleichen.
-  inspect  Stickmuster lesen und Auskunft über sie geben.
-  list     Die Stickmuster des Katalogs ausgeben.</translation>
-    </message>
-    <message>
-        <source>No command given.</source>
-        <translation>Kein Befehl angegeben.</translation>
-    </message>
-    <message>
-        <source>Unknown command &apos;%1&apos;.</source>
-        <translation>Unbekannter Befehl „%1“.</translation>
     </message>
 </context>
 </TS>

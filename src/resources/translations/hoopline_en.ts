@@ -42,6 +42,26 @@
     </message>
 </context>
 <context>
+    <name>ScanCommand</name>
+    <message numerus="yes">
+        <source>Stopped; %n new design(s) are still to be read.</source>
+        <translation>
+            <numerusform>Stopped; %n new design is still to be read.</numerusform>
+            <numerusform>Stopped; %n new designs are still to be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SmartFolderCheck</name>
+    <message numerus="yes">
+        <source>holds none of its %n design(s) any more</source>
+        <translation>
+            <numerusform>holds its %n design no more</numerusform>
+            <numerusform>holds none of its %n designs any more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TagsBox</name>
     <message numerus="yes">
         <source>This tag is attached to %n files</source>

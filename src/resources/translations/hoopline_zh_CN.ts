@@ -107,10 +107,6 @@
         <translation>针数</translation>
     </message>
     <message>
-        <source>Colours</source>
-        <translation>颜色数</translation>
-    </message>
-    <message>
         <source>Tags</source>
         <translation>标签</translation>
     </message>
@@ -119,6 +115,10 @@
         <translation>
             <numerusform>%n 个花样</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>颜色数</translation>
     </message>
 </context>
 <context>
@@ -154,6 +154,41 @@
         <source>Print the version.</source>
         <translation>显示版本。</translation>
     </message>
+    <message>
+        <source>The option --%1 can be given only once.</source>
+        <translation>选项 --%1 只能给出一次。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>意外的参数“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>Companion</name>
+    <message>
+        <source>No command given.</source>
+        <translation>未指定命令。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>意外的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>Unknown command &apos;%1&apos;.</source>
+        <translation>未知命令“%1”。</translation>
+    </message>
+    <message>
+        <source>The companion of Hoopline Organizer that needs no window.
+
+Commands; each has a --help of its own:</source>
+        <translation>Hoopline Organizer 的命令行工具，无需窗口。
+
+命令（每个命令都有自己的 --help）：</translation>
+    </message>
+    <message>
+        <source>Print the help of a command.</source>
+        <translation>输出某个命令的帮助。</translation>
+    </message>
 </context>
 <context>
     <name>DataFolder</name>
@@ -173,16 +208,8 @@
         <translation>尺寸</translation>
     </message>
     <message>
-        <source>%1 x %2 mm</source>
-        <translation>%1 x %2 mm</translation>
-    </message>
-    <message>
         <source>Stitches</source>
         <translation>针数</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>颜色数</translation>
     </message>
     <message>
         <source>MD5</source>
@@ -191,6 +218,10 @@
     <message>
         <source>Thread %1</source>
         <translation>绣线 %1</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>颜色数</translation>
     </message>
 </context>
 <context>
@@ -405,24 +436,20 @@
         <translation>%1：该花样没有可显示的范围。</translation>
     </message>
     <message>
-        <source>Failed to write %1</source>
-        <translation>无法写入 %1</translation>
-    </message>
-    <message>
         <source>Longer side of the preview in pixels; 400 if not given.</source>
         <translation>预览较长边的像素数；未指定时为 400。</translation>
+    </message>
+    <message>
+        <source>Read designs and tell about them.</source>
+        <translation>读取花样并显示其信息。</translation>
+    </message>
+    <message>
+        <source>With --render, replace a file that is there.</source>
+        <translation>与 --render 一起使用时，替换已有的文件。</translation>
     </message>
 </context>
 <context>
     <name>ListCommand</name>
-    <message>
-        <source>Prints the designs of the catalogue, narrowed as in the organiser.</source>
-        <translation>输出目录中的花样，筛选方式与程序相同。</translation>
-    </message>
-    <message>
-        <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>意外的参数“%1”。</translation>
-    </message>
     <message>
         <source>Choose one of --json and --csv.</source>
         <translation>请在 --json 和 --csv 中选择一个。</translation>
@@ -448,16 +475,8 @@
         <translation>仅此格式的花样，例如 dst。</translation>
     </message>
     <message>
-        <source>Only designs that fit into this many millimetres.</source>
-        <translation>仅不超过此毫米尺寸的花样。</translation>
-    </message>
-    <message>
         <source>Only designs whose file name or notes hold the text.</source>
         <translation>仅文件名或备注包含该文字的花样。</translation>
-    </message>
-    <message>
-        <source>Only favourites.</source>
-        <translation>仅收藏的花样。</translation>
     </message>
     <message>
         <source>Print one JSON object per design, a line each.</source>
@@ -466,6 +485,34 @@
     <message>
         <source>Print comma-separated values.</source>
         <translation>输出逗号分隔的值。</translation>
+    </message>
+    <message>
+        <source>Unknown type &apos;%1&apos;; there are %2.</source>
+        <translation>未知格式“%1”；可用的格式有 %2。</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; is not in the catalogue.</source>
+        <translation>文件夹“%1”不在花样库中。</translation>
+    </message>
+    <message>
+        <source>Print the designs of the catalogue.</source>
+        <translation>输出花样库中的花样。</translation>
+    </message>
+    <message>
+        <source>Prints the designs of the catalogue, narrowed as in the organizer.</source>
+        <translation>输出花样库中的花样，筛选方式与程序相同。</translation>
+    </message>
+    <message>
+        <source>Only designs that fit into this many millimeters.</source>
+        <translation>仅尺寸不超过该毫米数的花样。</translation>
+    </message>
+    <message>
+        <source>Only favorites.</source>
+        <translation>仅收藏的花样。</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
     </message>
 </context>
 <context>
@@ -548,6 +595,13 @@
     <message>
         <source>Close this message</source>
         <translation>关闭此消息</translation>
+    </message>
+</context>
+<context>
+    <name>OrganiserGuard</name>
+    <message>
+        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
+        <translation>Hoopline Organizer 正在运行。请先关闭它，或在其窗口中重新扫描。</translation>
     </message>
 </context>
 <context>
@@ -718,6 +772,29 @@
     </message>
 </context>
 <context>
+    <name>RenderTarget</name>
+    <message>
+        <source>The picture must not bear the name of a design: %1</source>
+        <translation>图片不能使用花样文件的名称：%1</translation>
+    </message>
+    <message>
+        <source>The picture must not replace a design: %1</source>
+        <translation>图片不能替换花样：%1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a folder</source>
+        <translation>“%1”是一个文件夹</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists; --force replaces it</source>
+        <translation>“%1”已存在；--force 将替换它</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
+        <translation>无法写入 %1：文件夹“%2”不存在</translation>
+    </message>
+</context>
+<context>
     <name>ScanCommand</name>
     <message>
         <source>Adds the folders to the catalogue and brings it into line with the disk. Without a folder it rescans the folders that are there.</source>
@@ -728,19 +805,57 @@
         <translation>“%1”不是文件夹</translation>
     </message>
     <message>
-        <source>Another scan is running.</source>
-        <translation>另一个扫描正在进行。</translation>
+        <source>Add folders to the catalogue, bring it into line with the disk.</source>
+        <translation>将文件夹加入花样库，并使其与磁盘保持一致。</translation>
+    </message>
+    <message>
+        <source>Go on while a folder is missing or suddenly empty; its designs leave the catalogue.</source>
+        <translation>即使文件夹缺失或突然变空也继续；其中的花样将从花样库中移除。</translation>
+    </message>
+    <message>
+        <source>Only tell what would happen.</source>
+        <translation>仅说明将会发生什么。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped; %n new design(s) are still to be read.</source>
+        <translation>
+            <numerusform>已停止；还有 %n 个新花样待读取。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>ScanController</name>
     <message>
-        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
-        <translation>Hoopline Organizer 正在运行。请先关闭它，或在其窗口中重新扫描。</translation>
-    </message>
-    <message>
         <source>Hoopline Organizer was started during the scan. Nothing was saved.</source>
         <translation>扫描期间启动了 Hoopline Organizer。未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>Another scan is running.</source>
+        <translation>另一个扫描正在进行。</translation>
+    </message>
+    <message>
+        <source>The catalogue was changed during the scan. Nothing was saved.</source>
+        <translation>扫描期间花样库被更改。未保存任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFolderCheck</name>
+    <message>
+        <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
+        <translation>未作任何更改。使用 --prune 会将此类文件夹中的花样从花样库中移除。</translation>
+    </message>
+    <message numerus="yes">
+        <source>holds none of its %n design(s) any more</source>
+        <translation>
+            <numerusform>已不再包含其 %n 个花样</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StandardOutput</name>
+    <message>
+        <source>The output could not be written: %1</source>
+        <translation>无法写入输出：%1</translation>
     </message>
 </context>
 <context>
@@ -896,31 +1011,6 @@
     <message>
         <source>remove tag</source>
         <translation>移除标签</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>The companion of Hoopline Organizer that needs no window.
-
-Commands; each has a --help of its own:
-  scan     Add folders to the catalogue, bring it into line with the disk.
-  inspect  Read designs and tell about them.
-  list     Print the designs of the catalogue.</source>
-        <translation>Hoopline Organizer 的命令行工具，无需窗口。
-
-命令（均支持 --help）：
-  scan     将文件夹添加到目录，并使目录与磁盘一致。
-  inspect  读取花样并显示其信息。
-  list     输出目录中的花样。</translation>
-    </message>
-    <message>
-        <source>No command given.</source>
-        <translation>未指定命令。</translation>
-    </message>
-    <message>
-        <source>Unknown command &apos;%1&apos;.</source>
-        <translation>未知命令“%1”。</translation>
     </message>
 </context>
 </TS>

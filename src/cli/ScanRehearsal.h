@@ -1,0 +1,42 @@
+#pragma once
+
+#include "catalogue/sync/ProjectController.h"
+#include "cli/Console.h"
+#include <QCoreApplication>
+#include <QMap>
+#include <QMultiHash>
+#include <QStringList>
+
+/** Tells what a scan would do, and changes nothing. */
+class ScanRehearsal
+{
+    Q_DECLARE_TR_FUNCTIONS(ScanRehearsal)
+
+public:
+    /** @param folders that the scan would add, by absolute path */
+    explicit ScanRehearsal(const QStringList &folders);
+
+    /**
+     * @param prune whether folders that are missing would be no obstacle
+     * @return the exit status of the process
+     * @throws CommandError where the scan would refuse
+     */
+    int run(bool prune);
+
+private:
+    using File = QSharedPointer<IFile>;
+
+    void loadCatalogue();
+    QStringList designsOnDisk() const;
+    void judge(const QString &path, const char *what, int &count);
+    bool isUnchanged(const IFile &file) const;
+    File takeVanishedTwin(const QString &path);
+    void tell(const char *what, const QString &path);
+
+    const QStringList m_folders;
+    ProjectController m_controller;
+    QMap<QString, File> m_vanished; ///< by path; all that are known, until they are met
+    QMultiHash<int, File> m_vanishedBySize;
+    SyncCounts m_counts;
+    StandardOutput m_output;
+};
