@@ -28,17 +28,32 @@ public:
     }
 };
 
+/** Tells what it is to show. */
+class PathWindow : public TestWindow
+{
+public:
+    void showPaths(const QStringList &paths) override
+    {
+        say("show " + QByteArray::number(paths.size()) + " " + paths.first().toUtf8());
+    }
+};
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     using Mode = SingleApplication::Mode;
     const QByteArray role = argc > 1 ? argv[1] : "";
-    HooplineApplication::setWindowFactory([] { return new TestWindow; });
+    HooplineApplication::setWindowFactory([] { return new PathWindow; });
+    QStringList paths;
+    for (int i = 2; i < argc; ++i)
+        paths.append(QFile::decodeName(argv[i]));
+    SingleApplication::setPathsToOpen(paths);
     const bool secondary = role == "secondary";
-    SingleApplication app(argc, argv, secondary,
-                          Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath, 1000,
-                          std::make_shared<TellingClock>());
+    SingleApplication app(
+        argc, argv, secondary, Mode::User | Mode::ExcludeAppVersion | Mode::ExcludeAppPath,
+        role == "hasty" ? 100 : 1000,
+        role == "patient" ? std::make_shared<Clock>() : std::make_shared<TellingClock>());
     GSettings().setAutoUpdatesEnabled(false);
     GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
     if (app.isSecondary()) {
@@ -58,5 +73,9 @@ int main(int argc, char **argv)
     QObject::connect(&letGo, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
     say("primary " + QByteArray::number(app.primaryPid()) + " " + app.primaryUser().toUtf8());
     say(app.sendMessage("to myself", 100) ? "sent to myself" : "not sent to myself");
-    return app.exec();
+    const int result = app.exec();
+    // As a window does that saves much.
+    if (role == "lingering")
+        usleep(300000);
+    return result;
 }

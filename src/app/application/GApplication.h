@@ -78,6 +78,7 @@ public:
     void registerMainWindow(GMainWindow *window);
     void unregisterMainWindow(GMainWindow *window);
     int mainWindowCount() const;
+    QList<GMainWindow *> mainWindows() const { return m_mainWindows; }
 
     /** The active window, when it is one of ours; null otherwise. */
     static GMainWindow *currentWindow();
@@ -90,6 +91,9 @@ public:
 
     /** From construction until finalizeStartup(): files to open wait meanwhile. */
     bool isStartingUp() const;
+
+    /** The last window is on its way out, and the process with it. */
+    bool isQuitting() const { return m_quitting; }
 
     /** A new hidden window for a file of this name; null when no type is registered. */
     GMainWindow *newFile(const QString &fileName);
@@ -133,6 +137,9 @@ protected:
 
     /** Shows what was caught as an Error. */
     virtual void reportError(const Error &error);
+
+    /** A file or folder that no window has a type for; nothing happens at this level. */
+    virtual void openUntyped(const QString &path);
 
 private:
     void reportCaught() noexcept;

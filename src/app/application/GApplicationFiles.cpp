@@ -56,7 +56,11 @@ void GApplication::openFile(const QString &fileName)
         target = newFile(fileName);
     if (target)
         loadInto(target, fileName, reused);
+    else
+        openUntyped(fileName);
 }
+
+void GApplication::openUntyped(const QString &) {}
 
 GMainWindow *GApplication::windowShowing(const QString &fileName) const
 {

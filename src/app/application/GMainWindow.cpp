@@ -241,6 +241,8 @@ void GMainWindow::shutdownWindow() {}
 
 void GMainWindow::installApplicationMenuItems(QMenu *, QMenu *) {}
 
+void GMainWindow::showPaths(const QStringList &) {}
+
 void GMainWindow::focusChanged(QWidget *, QWidget *) {}
 
 void GMainWindow::mainWindowPostInit()

@@ -65,6 +65,9 @@ public:
     /** Asks such work to come to its end. */
     virtual void cancelWork();
 
+    /** Files and folders of no document type that the user wants to see; ignored at this level. */
+    virtual void showPaths(const QStringList &paths);
+
 public slots:
     void showRaiseActivateWindow();
     virtual void save();

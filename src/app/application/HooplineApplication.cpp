@@ -16,6 +16,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
+#include <utility>
 
 namespace {
 
@@ -112,13 +113,29 @@ void HooplineApplication::emitSyncGlobalSettings()
 
 void HooplineApplication::newDocument()
 {
-    if (mainWindowCount() > 0)
+    if (mainWindowCount() != 0)
         return;
     try {
-        windowFactory()()->show();
+        if (GMainWindow *window = windowFactory()())
+            window->show();
     } catch (const AbortException &) {
         closeAllWindowsAndQuit();
     }
+}
+
+void HooplineApplication::openUntyped(const QString &path)
+{
+    if (m_pathsToShow.isEmpty())
+        QTimer::singleShot(0, this, &HooplineApplication::showPaths);
+    m_pathsToShow.append(path);
+}
+
+void HooplineApplication::showPaths()
+{
+    const QStringList paths = std::exchange(m_pathsToShow, {});
+    newDocument();
+    if (!mainWindows().isEmpty())
+        mainWindows().constFirst()->showPaths(paths);
 }
 
 void HooplineApplication::showPreferences()
@@ -138,10 +155,16 @@ void HooplineApplication::updateCheck()
 
 void HooplineApplication::launch()
 {
+    if (m_launchCancelled)
+        return;
     GlobalTracking::applicationStarted();
     FeedbackDialog::presentDialogIfCrashed();
     try {
         GMainWindow *window = windowFactory()();
+        if (!window) {
+            closeAllWindowsAndQuit();
+            return;
+        }
         finalizeStartup();
         window->show();
         QTimer::singleShot(NetworkDelay, this, &HooplineApplication::launchAsyncNetworkTasks);

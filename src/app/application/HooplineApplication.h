@@ -25,7 +25,8 @@ public:
     /**
      * Tells how the product's window is made and how its preferences are shown
      * over a parent, which may be null. The application knows neither by itself,
-     * since both stand above it. To be set before the event loop turns.
+     * since both stand above it. To be set before the event loop turns. A factory that
+     * returns null has told the user why, and ends the program.
      */
     static void setWindowFactory(const WindowFactory &factory);
     static void setPreferencesPresenter(const PreferencesPresenter &presenter);
@@ -54,6 +55,16 @@ signals:
 protected:
     void reportError(const Error &error) override;
 
+    /** Keeps a start that is going to end from making its window. */
+    void cancelLaunch() { m_launchCancelled = true; }
+
+    /** Has the window show them as soon as it is there, all that come together at once. */
+    void openUntyped(const QString &path) override;
+
 private:
+    void showPaths();
+
+    bool m_launchCancelled = false;
+    QStringList m_pathsToShow;
     QSharedPointer<WindowsUpdater> m_updater;
 };

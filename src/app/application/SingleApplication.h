@@ -2,6 +2,7 @@
 
 #include "app/application/HooplineApplication.h"
 #include "base/Clock.h"
+#include "base/files/FileLock.h"
 
 #include <memory>
 
@@ -9,9 +10,13 @@ class SingleApplicationPrivate;
 
 /**
  * The application object of main: makes sure that one user runs one instance.
- * A second process tells the first that it was started and ends inside the
- * constructor with status 0; one that can't take part in the guard ends there
- * with status 1.
+ * A second process tells the first that it was started, and what it was to open, and
+ * ends inside the constructor with status 0.
+ *
+ * Two things tell who is the first: the record in shared memory with the local server,
+ * and the lock of those who write the catalogue. Where they differ, the lock is right,
+ * since it cannot outlive its holder. A process that finds the lock taken by another
+ * instance that does not answer says so and ends with status 1.
  */
 class SingleApplication : public HooplineApplication
 {
@@ -28,12 +33,22 @@ public:
     Q_DECLARE_FLAGS(Options, Mode)
 
     /**
-     * @param timeout for the talk with the primary, in milliseconds
+     * @param timeout for each step of the talk with the primary, in milliseconds; five times
+     *        as long a primary may take to answer
      * @param clock by which a start that finds a half-written block waits
      */
     SingleApplication(int &argc, char **argv, bool allowSecondary, Options options, int timeout,
                       const std::shared_ptr<Clock> &clock = std::make_shared<Clock>());
     ~SingleApplication() override;
+
+    /** The application as this class; null when there is none or another one. */
+    static SingleApplication *instance();
+
+    /**
+     * What this process was asked to open, by absolute paths: the primary opens it. To be
+     * set before the application object is made.
+     */
+    static void setPathsToOpen(const QStringList &paths);
 
     bool isPrimary() const;
     bool isSecondary() const;
@@ -47,6 +62,12 @@ public:
     QString currentUser() const;
 
     /**
+     * The lock of those who write the catalogue, which the primary takes when it is free.
+     * While a scan holds it the primary has to wait for it before it loads the catalogue.
+     */
+    FileLock &catalogueLock() { return m_lock; }
+
+    /**
      * Sends raw bytes to the primary and waits up to @p timeout milliseconds
      * for each step. False when that failed, and always on the primary.
      */
@@ -55,12 +76,21 @@ public:
 signals:
     /** On the primary: another process was started. */
     void instanceStarted();
+    /** Bytes as they come in; a message may come in pieces. */
     void receivedMessage(quint32 instanceId, QByteArray message);
+    /** All that a process has sent which is gone now. */
+    void receivedWholeMessage(quint32 instanceId, QByteArray message);
 
 private:
     void joinOrEnd(bool allowSecondary, int timeout, Clock &clock);
-    void endWith(int status);
+    void waitWhileTorn(Clock &clock, Clock::Milliseconds since);
+    void joinAsSecondary(int timeout);
+    bool mayLead();
+    void openAll(const QStringList &paths);
+    [[noreturn]] void endWith(int status);
+    [[noreturn]] void endForLackOfAnAnswer();
 
+    FileLock m_lock;
     std::unique_ptr<SingleApplicationPrivate> m_private;
 };
 

@@ -1,22 +1,18 @@
 #include "app/application/SingleApplicationPrivate.h"
 
+#include "base/GDebug.h"
 #include "base/InstanceName.h"
 
-#include <cstring>
-#include <QDataStream>
+#include <cerrno>
+#include <csignal>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QThread>
-#include <QTimer>
 
 namespace {
 
-constexpr int StreamVersion = QDataStream::Qt_5_6; // 17 on the wire
-static_assert(StreamVersion == 17);
-constexpr qint64 HeaderLength = sizeof(quint64);
-constexpr int ReadBufferSize = 64 * 1024;
-// Longer than any start holds the lock, so that a dead process locks nobody out.
-constexpr int StaleLockTime = 10000;
+// Longer than any start holds the lock.
+constexpr int LongestStart = 10000;
 constexpr unsigned long LockPollInterval = 10;
 
 } // namespace
@@ -24,9 +20,9 @@ constexpr unsigned long LockPollInterval = 10;
 SingleApplicationPrivate::SingleApplicationPrivate(SingleApplication *application,
                                                    SingleApplication::Options modes)
     : owner(application), options(modes), blockServerName(genBlockServerName(modes)),
-      startLock(QDir::temp().filePath(blockServerName + QStringLiteral(".lock")))
+      startLock(QDir::temp().filePath(blockServerName + QStringLiteral(".lock")),
+                QStringLiteral("hoopline-organizer"))
 {
-    startLock.setStaleLockTime(StaleLockTime);
 }
 
 SingleApplicationPrivate::~SingleApplicationPrivate()
@@ -35,26 +31,26 @@ SingleApplicationPrivate::~SingleApplicationPrivate()
     m_connectionMap.clear();
     if (socket)
         socket->close();
-    if (memory && memory->isAttached()) {
-        memory->lock();
-        if (server) {
-            server->close();
-            server.reset();
-            block()->primary = false;
-            block()->primaryPid = -1;
-            block()->primaryUser[0] = 0;
-            block()->seal();
+    lockBlock();
+    if (server) {
+        server->close();
+        server.reset();
+        if (InstanceBlock *record = block()) {
+            record->primary = false;
+            record->primaryPid = -1;
+            record->primaryUser[0] = 0;
+            record->seal();
         }
-        memory->unlock();
     }
+    unlockBlock();
     memory.reset();
+    startLock.unlockAndRemove();
 }
 
 void SingleApplicationPrivate::enterStart()
 {
-    QDeadlineTimer deadline(StaleLockTime);
-    while (!startLock.isLocked() && !startLock.tryLock() &&
-           startLock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
+    QDeadlineTimer deadline(LongestStart);
+    while (startLock.tryLock() == FileLock::HeldByOther && !deadline.hasExpired())
         QThread::msleep(LockPollInterval);
 }
 
@@ -96,166 +92,67 @@ bool SingleApplicationPrivate::openMemoryBlock()
 
 InstanceBlock *SingleApplicationPrivate::block() const
 {
-    return static_cast<InstanceBlock *>(memory->data());
+    return memory ? static_cast<InstanceBlock *>(memory->data()) : nullptr;
+}
+
+void SingleApplicationPrivate::lockBlock()
+{
+    if (block())
+        memory->lock();
+}
+
+void SingleApplicationPrivate::unlockBlock()
+{
+    if (block())
+        memory->unlock();
+}
+
+SingleApplicationPrivate::Record SingleApplicationPrivate::record() const
+{
+    const InstanceBlock *record = block();
+    if (!record)
+        return Record::None;
+    if (!record->isIntact())
+        return Record::Torn;
+    return record->primary ? Record::Primary : Record::None;
+}
+
+bool SingleApplicationPrivate::recordedPrimaryLives() const
+{
+    if (record() != Record::Primary)
+        return false;
+    const auto pid = pid_t(block()->primaryPid);
+    return pid > 0 && (kill(pid, 0) == 0 || errno != ESRCH);
 }
 
 void SingleApplicationPrivate::startPrimary()
 {
-    QLocalServer::removeServer(blockServerName);
+    listen();
+    instanceNumber = 0;
+    InstanceBlock *record = block();
+    if (!record)
+        return;
+    record->primary = true;
+    record->primaryPid = QCoreApplication::applicationPid();
+    qstrncpy(record->primaryUser, getUsername().toUtf8().constData(),
+             sizeof(InstanceBlock::primaryUser));
+    record->seal();
+}
+
+void SingleApplicationPrivate::listen()
+{
     server = std::make_unique<QLocalServer>();
     server->setSocketOptions(options.testFlag(SingleApplication::Mode::User)
                                  ? QLocalServer::UserAccessOption
                                  : QLocalServer::WorldAccessOption);
-    server->listen(blockServerName);
     connect(server.get(), &QLocalServer::newConnection, this,
             &SingleApplicationPrivate::slotConnectionEstablished);
-
-    block()->primary = true;
-    block()->primaryPid = QCoreApplication::applicationPid();
-    qstrncpy(block()->primaryUser, getUsername().toUtf8().constData(),
-             sizeof(InstanceBlock::primaryUser));
-    block()->seal();
-    instanceNumber = 0;
-}
-
-QByteArray SingleApplicationPrivate::initMessage(ConnectionType type) const
-{
-    QByteArray body;
-    QDataStream bodyStream(&body, QIODevice::WriteOnly);
-    bodyStream.setVersion(StreamVersion);
-    bodyStream << blockServerName.toLatin1() << quint8(type) << instanceNumber;
-    bodyStream << qChecksum(body.constData(), uint(body.size()));
-
-    QByteArray header;
-    QDataStream headerStream(&header, QIODevice::WriteOnly);
-    headerStream.setVersion(StreamVersion);
-    headerStream << quint64(body.size());
-    return header + body;
-}
-
-void SingleApplicationPrivate::connectToPrimary(int timeout, ConnectionType type)
-{
-    if (!socket)
-        socket = std::make_unique<QLocalSocket>();
-    if (socket->state() == QLocalSocket::ConnectedState)
-        return;
-    if (socket->state() != QLocalSocket::ConnectingState)
-        socket->connectToServer(blockServerName, QIODevice::ReadWrite);
-    if (socket->state() == QLocalSocket::ConnectingState)
-        socket->waitForConnected(timeout);
-    if (socket->state() != QLocalSocket::ConnectedState)
-        return;
-    socket->write(initMessage(type));
-    socket->flush();
-    socket->waitForBytesWritten(timeout);
-}
-
-void SingleApplicationPrivate::slotConnectionEstablished()
-{
-    QLocalSocket *client = server->nextPendingConnection();
-    if (!client)
-        return;
-    client->setReadBufferSize(ReadBufferSize);
-    m_connectionMap.insert(client, ConnectionInfo());
-
-    connect(client, &QLocalSocket::aboutToClose, this, [this, client] {
-        const ConnectionInfo info = m_connectionMap.value(client);
-        if (info.stage == Stage::Connected && client->bytesAvailable() > 0)
-            slotDataAvailable(client, info.instanceId);
-    });
-    connect(client, &QLocalSocket::disconnected, this, [this, client] {
-        m_connectionMap.remove(client);
-        client->deleteLater();
-    });
-    connect(client, &QLocalSocket::readyRead, this, [this, client] { readFrom(client); });
-    QTimer::singleShot(InitMessageTimeout, client, [this, client] {
-        if (m_connectionMap.contains(client) &&
-            m_connectionMap.value(client).stage != Stage::Connected)
-            drop(client);
-    });
-}
-
-void SingleApplicationPrivate::readFrom(QLocalSocket *client)
-{
-    const auto connection = m_connectionMap.constFind(client);
-    if (connection == m_connectionMap.constEnd())
-        return;
-    switch (connection->stage) {
-    case Stage::Header:
-        readInitMessageHeader(client);
-        break;
-    case Stage::Body:
-        readInitMessageBody(client);
-        break;
-    case Stage::Connected:
-        slotDataAvailable(client, connection->instanceId);
-        break;
+    const QStringList paths = InstanceName::socketPaths(blockServerName);
+    for (const QString &path : paths) {
+        QLocalServer::removeServer(path);
+        if (server->listen(path))
+            return;
+        gWarning("SingleApplication") << "cannot listen at" << path << ":" << server->errorString();
     }
-}
-
-void SingleApplicationPrivate::readInitMessageHeader(QLocalSocket *client)
-{
-    const auto connection = m_connectionMap.find(client);
-    if (connection == m_connectionMap.end() || client->bytesAvailable() < HeaderLength)
-        return;
-    QDataStream stream(client);
-    stream.setVersion(StreamVersion);
-    stream >> connection->msgLen;
-    if (connection->msgLen > MaxInitMessageLength) {
-        drop(client);
-        return;
-    }
-    connection->stage = Stage::Body;
-    if (client->bytesAvailable() >= qint64(connection->msgLen))
-        readInitMessageBody(client);
-}
-
-void SingleApplicationPrivate::readInitMessageBody(QLocalSocket *client)
-{
-    const auto connection = m_connectionMap.find(client);
-    if (connection == m_connectionMap.end() ||
-        client->bytesAvailable() < qint64(connection->msgLen))
-        return;
-    const QByteArray body = client->read(qint64(connection->msgLen));
-    QDataStream stream(body);
-    stream.setVersion(StreamVersion);
-    QByteArray name;
-    quint8 type = 0;
-    quint32 instanceId = 0;
-    quint16 checksum = 0;
-    stream >> name >> type >> instanceId >> checksum;
-    if (stream.status() != QDataStream::Ok || QLatin1String(name) != blockServerName ||
-        checksum != qChecksum(body.constData(), uint(body.size()) - sizeof(checksum))) {
-        drop(client);
-        return;
-    }
-    connection->instanceId = instanceId;
-    connection->stage = Stage::Connected;
-
-    const bool announced = ConnectionType(type) == ConnectionType::SecondaryInstance &&
-                           options.testFlag(SingleApplication::Mode::SecondaryNotification);
-    if (ConnectionType(type) == ConnectionType::NewInstance || announced)
-        tellOwner([application = owner] { emit application->instanceStarted(); });
-    if (client->bytesAvailable() > 0)
-        slotDataAvailable(client, instanceId);
-}
-
-void SingleApplicationPrivate::slotDataAvailable(QLocalSocket *client, quint32 instanceId)
-{
-    tellOwner([application = owner, instanceId, message = client->readAll()] {
-        emit application->receivedMessage(instanceId, message);
-    });
-}
-
-void SingleApplicationPrivate::tellOwner(const std::function<void()> &signal)
-{
-    // Who hears of it may let events in, and these may delete the socket that is being read.
-    QMetaObject::invokeMethod(owner, signal, Qt::QueuedConnection);
-}
-
-void SingleApplicationPrivate::drop(QLocalSocket *client)
-{
-    // Without its record the client is not heard any more, not even while it closes.
-    m_connectionMap.remove(client);
-    client->abort();
+    gWarning("SingleApplication") << "later starts cannot raise this window";
 }

@@ -5,7 +5,6 @@
 
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QMap>
 #include <QSharedMemory>
 
@@ -30,11 +29,27 @@ public:
     /** How far a client has come. */
     enum class Stage : quint8 { Header = 0, Body = 1, Connected = 2 };
 
+    /** What the block says. */
+    enum class Record {
+        None,    ///< there is no primary; also where there is no block
+        Primary, ///< there is one
+        Torn     ///< its writer died between its stores
+    };
+
+    /** What became of an announcement. */
+    enum class Answer {
+        Unknown,     ///< none was made yet
+        NobodyThere, ///< nobody listens, or whoever did has gone meanwhile
+        Silent,      ///< somebody listens, but did not answer in time
+        Heard        ///< the primary is alive and knows
+    };
+
     struct ConnectionInfo
     {
         quint64 msgLen = 0;
         quint32 instanceId = 0;
         Stage stage = Stage::Header;
+        QByteArray message; ///< what came behind the init message
     };
 
     /** Longest body of an init message, in bytes; ours is 55 bytes long. */
@@ -55,12 +70,26 @@ public:
     /** Makes or joins the block; false when neither is possible. */
     bool openMemoryBlock();
 
-    /** The block; to be touched only while it is locked. */
+    /** The block; to be touched only while it is locked. Null where there is none. */
     InstanceBlock *block() const;
+    /** These do nothing where there is no block. */
+    void lockBlock();
+    void unlockBlock();
 
+    /** To be asked while the block is locked. */
+    Record record() const;
+    /** Whether the process that the block names as primary is there. */
+    bool recordedPrimaryLives() const;
+
+    /** To be called while the block is locked. */
     void startPrimary();
     /** Announces this process; returns silently when the primary can't be reached. */
     void connectToPrimary(int timeout, ConnectionType type);
+    /**
+     * Announces this process with a message and waits for the primary's answer.
+     * @param timeout for each step, in milliseconds
+     */
+    Answer announce(const QByteArray &message, int timeout, std::chrono::milliseconds patience);
 
     /** The init message of a client, header included. */
     QByteArray initMessage(ConnectionType type) const;
@@ -77,14 +106,16 @@ public:
     const QString blockServerName;
     /** Lets one process at a time come or go: the lock of a QSharedMemory that is being made or
      * removed does not hold. */
-    QLockFile startLock;
+    FileLock startLock;
 
 private:
+    void listen();
     void slotConnectionEstablished();
     void readFrom(QLocalSocket *client);
     void readInitMessageHeader(QLocalSocket *client);
     void readInitMessageBody(QLocalSocket *client);
     void slotDataAvailable(QLocalSocket *client, quint32 instanceId);
+    void forget(QLocalSocket *client);
     void tellOwner(const std::function<void()> &signal);
     void drop(QLocalSocket *client);
 

@@ -464,6 +464,21 @@ Erstellt am %2</translation>
     </message>
 </context>
 <context>
+    <name>SingleApplication</name>
+    <message>
+        <source>%1 is already running, but does not answer.</source>
+        <translation>%1 läuft bereits, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>It may be busy: wait a little and start again. If that does not help, end the process %1 first.</source>
+        <translation>Vielleicht ist es beschäftigt: Warten Sie ein wenig und starten Sie es erneut. Hilft das nicht, beenden Sie zuerst den Prozess %1.</translation>
+    </message>
+    <message>
+        <source>It may be busy: wait a little and start again.</source>
+        <translation>Vielleicht ist es beschäftigt: Warten Sie ein wenig und starten Sie es erneut.</translation>
+    </message>
+</context>
+<context>
     <name>UpdateDialog</name>
     <message>
         <source>Software Update</source>

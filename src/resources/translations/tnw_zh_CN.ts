@@ -464,6 +464,21 @@ Built on %2</source>
     </message>
 </context>
 <context>
+    <name>SingleApplication</name>
+    <message>
+        <source>%1 is already running, but does not answer.</source>
+        <translation>%1 已在运行，但没有响应。</translation>
+    </message>
+    <message>
+        <source>It may be busy: wait a little and start again. If that does not help, end the process %1 first.</source>
+        <translation>它可能正忙：请稍等片刻再启动。如果没有帮助，请先结束进程 %1。</translation>
+    </message>
+    <message>
+        <source>It may be busy: wait a little and start again.</source>
+        <translation>它可能正忙：请稍等片刻再启动。</translation>
+    </message>
+</context>
+<context>
     <name>UpdateDialog</name>
     <message>
         <source>Software Update</source>
