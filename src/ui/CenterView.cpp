@@ -8,6 +8,9 @@
 #include "ui/EmptyHint.h"
 #include "ui/panels/FilterBar.h"
 
+#include <algorithm>
+#include <QFileInfo>
+#include <QSet>
 #include <QVBoxLayout>
 
 CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
@@ -52,4 +55,33 @@ void CenterView::zoomOut()
 void CenterView::selectAll()
 {
     m_model->selection()->setSelection(m_model->filter()->filteredFiles());
+}
+
+void CenterView::showDesigns(const QList<QSharedPointer<IFile>> &designs)
+{
+    if (!showsAll(designs)) {
+        const auto folderOf = [](const QSharedPointer<IFile> &file) {
+            return QFileInfo(file->absoluteFilePath()).path();
+        };
+        const QString folder = folderOf(designs.constFirst());
+        if (std::all_of(designs.begin(), designs.end(),
+                        [&](const auto &file) { return folderOf(file) == folder; }))
+            m_model->filter()->setDirectory(folder);
+        else
+            emit allFoldersRequested();
+    }
+    if (!showsAll(designs)) {
+        m_filterBar->clear();
+        m_model->filter()->setTag(QString());
+    }
+    m_model->selection()->setSelection(designs);
+    m_browser->showSelection();
+}
+
+bool CenterView::showsAll(const QList<QSharedPointer<IFile>> &designs) const
+{
+    const auto shown = m_model->filter()->filteredFiles();
+    const QSet<QSharedPointer<IFile>> set(shown.begin(), shown.end());
+    return std::all_of(designs.begin(), designs.end(),
+                       [&](const auto &design) { return set.contains(design); });
 }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QList>
 #include <QSharedPointer>
 #include <QWidget>
 
 class EmptyHint;
 class FilterBar;
 class FilterSelectionModel;
+class IFile;
 class PreviewBrowser;
 class Project;
 
@@ -29,6 +31,9 @@ public slots:
     /** Selects what the filter shows, not the whole catalogue. */
     void selectAll();
 
+    /** Selects these designs and brings them into view; lifts filters that hide any. */
+    void showDesigns(const QList<QSharedPointer<IFile>> &designs);
+
 signals:
     /** The user, whose catalogue has no designs, wants to add a folder. */
     void addFolderRequested();
@@ -37,6 +42,7 @@ signals:
 
 private:
     void showAllDesigns();
+    bool showsAll(const QList<QSharedPointer<IFile>> &designs) const;
 
     FilterSelectionModel *m_model;
     FilterBar *m_filterBar;

@@ -67,6 +67,7 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
     createActions();
     createMenus();
     createToolbars();
+    createPathOpener();
     setupInitialLayout();
     restoreWindowState(QString());
     connect(qApp, &QGuiApplication::applicationStateChanged, this,

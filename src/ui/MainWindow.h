@@ -12,6 +12,7 @@ class GToolBar;
 class IFilterModel;
 class LeftSidebar;
 class NoticeBar;
+class PathOpener;
 class ProgressDialog;
 class Project;
 class ProjectController;
@@ -44,6 +45,9 @@ public:
     bool saveFile(const QString &name) override;
     bool isModified() const override;
 
+    /** Shows designs in the grid and offers folders that the catalogue does not know. */
+    void showPaths(const QStringList &paths) override;
+
 public slots:
     /** Adds the folders among @p paths. */
     void filesDropped(const QStringList &paths);
@@ -67,6 +71,7 @@ private:
     void createActions();
     void createMenus();
     void createToolbars();
+    void createPathOpener();
     void setupInitialLayout();
     void addDirectories(const QStringList &directories);
     void runWithProgress(const std::function<void()> &operation);
@@ -86,6 +91,7 @@ private:
     GToolBar *m_toolbar = nullptr;
     ProgressDialog *m_progressDialog = nullptr;
     NoticeBar *m_notices = nullptr;
+    PathOpener *m_pathOpener = nullptr;
     QSplitter *m_splitter = nullptr;
     LeftSidebar *m_left = nullptr;
     CenterView *m_center = nullptr;

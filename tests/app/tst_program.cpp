@@ -23,6 +23,9 @@ class tst_program : public QObject
 private slots:
     void init();
     void cleanup() { m_profile.reset(); }
+    void answersOnTheTerminal_data();
+    void answersOnTheTerminal();
+    void manualPageTellsAllOptions();
     void flushesSettings();
     void firstStartMakesACatalogue();
     void freshProfileOnlyAsksForUpdates_data();
@@ -66,6 +69,62 @@ void tst_program::start(QProcess &process, const QStringList &arguments)
 bool tst_program::catalogueExists() const
 {
     return QFile::exists(m_profile->filePath(QStringLiteral("data/hoopline-organizer.xml")));
+}
+
+void tst_program::answersOnTheTerminal_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::newRow("help") << QStringList{"--help"} << 0 << QByteArray("Usage: hoopline-organizer ");
+    QTest::newRow("help, in German")
+        << QStringList{"--language=de", "-h"} << 0 << QByteArray("Aufruf: hoopline-organizer ");
+    QTest::newRow("version") << QStringList{"-V"} << 0 << QByteArray("hoopline-organizer 1.");
+    QTest::newRow("unknown") << QStringList{"--bogus"} << 2 << QByteArray("'--bogus'");
+    QTest::newRow("unknown beside one of Qt")
+        << QStringList{"-style", "--help", "-x"} << 2 << QByteArray("'-x'");
+    QTest::newRow("told only in full")
+        << QStringList{"--language"} << 2 << QByteArray("'--language'");
+}
+
+// There is no display, and nothing but the answer.
+void tst_program::answersOnTheTerminal()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QByteArray, answer);
+    qunsetenv("QT_QPA_PLATFORM");
+    QProcess process;
+    start(process, arguments);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QVERIFY(process.waitForFinished(Patience));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), status);
+    const QByteArray out = process.readAllStandardOutput();
+    const QByteArray error = process.readAllStandardError();
+    QVERIFY2((status == 0 ? out : error).contains(answer), out + error);
+    QVERIFY2((status == 0 ? error : out).isEmpty(), out + error);
+    QVERIFY(!catalogueExists());
+}
+
+void tst_program::manualPageTellsAllOptions()
+{
+    QProcess process;
+    start(process, {QStringLiteral("--help")});
+    QVERIFY(process.waitForFinished(Patience));
+    QFile page(MANUAL_PAGE);
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString manual = QString::fromUtf8(page.readAll()).replace("\\-", "-");
+    const auto optionsOf = [](const QString &text) {
+        QSet<QString> options;
+        auto match = QRegularExpression("--[a-z][a-z-]+").globalMatch(text);
+        while (match.hasNext())
+            options.insert(match.next().captured());
+        return options;
+    };
+    const QSet<QString> told = optionsOf(QString::fromUtf8(process.readAllStandardOutput()));
+    QVERIFY(told.contains("--version"));
+    QCOMPARE(optionsOf(manual), told);
 }
 
 void tst_program::flushesSettings()

@@ -157,6 +157,12 @@ void GridGraphicsView::showCard(int index)
     ensureVisible(m_gridScene->cardAt(index)->sceneBoundingRect(), ScrollMargin, ScrollMargin);
 }
 
+void GridGraphicsView::goTo(int index)
+{
+    m_gridScene->beginAt(index);
+    showCard(index);
+}
+
 QRect GridGraphicsView::screenRectOf(int index) const
 {
     const QRectF card = m_gridScene->cardAt(index)->sceneBoundingRect();

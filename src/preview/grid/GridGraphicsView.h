@@ -18,6 +18,9 @@ public:
     /** Where a card is on the screen, in pixels, though it may be scrolled out of the view. */
     QRect screenRectOf(int index) const;
 
+    /** Makes the card the current one and scrolls to it; the selection stays. */
+    void goTo(int index);
+
 signals:
     /** The view shows `width` scene units from left to right. */
     void widthChanged(int width);

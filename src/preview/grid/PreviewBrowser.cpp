@@ -6,6 +6,7 @@
 #include "catalogue/models/ISelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "preview/cache/PreviewCache.h"
+#include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridGraphicsView.h"
 #include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PreviewSheet.h"
@@ -98,6 +99,17 @@ void PreviewBrowser::zoomOut()
         --m_zoomIndex;
         updateZoomAndKeepSelectionVisible();
     }
+}
+
+void PreviewBrowser::showSelection()
+{
+    for (int i = 0; i < m_scene->count(); ++i) {
+        if (m_scene->cardAt(i)->isSelected()) {
+            m_view->goTo(i);
+            break;
+        }
+    }
+    m_view->setFocus(Qt::OtherFocusReason);
 }
 
 void PreviewBrowser::updateZoomAndKeepSelectionVisible()

@@ -29,6 +29,8 @@ public:
 public slots:
     void zoomIn();
     void zoomOut();
+    /** Scrolls to the first selected card and gives it the keys. */
+    void showSelection();
     /** Shows the selected design enlarged, if it is exactly one. */
     void previewSelection();
     void filterChanged();

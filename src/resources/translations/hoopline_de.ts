@@ -124,6 +124,25 @@
     </message>
 </context>
 <context>
+    <name>CatalogueWait</name>
+    <message>
+        <source>The window opens as soon as that is done.</source>
+        <translation>Das Fenster öffnet sich, sobald das fertig ist.</translation>
+    </message>
+    <message>
+        <source>Your folders are being scanned.</source>
+        <translation>Ihre Ordner werden gerade eingelesen.</translation>
+    </message>
+    <message>
+        <source>Another program is using your collection: %1, process %2.</source>
+        <translation>Ein anderes Programm benutzt Ihre Sammlung: %1, Prozess %2.</translation>
+    </message>
+    <message>
+        <source>Another program is using your collection.</source>
+        <translation>Ein anderes Programm benutzt Ihre Sammlung.</translation>
+    </message>
+</context>
+<context>
     <name>ColorsBox</name>
     <message>
         <source>Colors</source>
@@ -608,6 +627,39 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>PathOpener</name>
+    <message>
+        <source>Not a design that can be shown: %1</source>
+        <translation>Kein Stickmuster, das sich anzeigen lässt: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n folder(s) to your collection?</source>
+        <translation>
+            <numerusform>Diesen Ordner in Ihre Sammlung aufnehmen?</numerusform>
+            <numerusform>Diese %n Ordner in Ihre Sammlung aufnehmen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) were not read yet. Rescan the folders?</source>
+        <translation>
+            <numerusform>Dieses Stickmuster wurde noch nicht eingelesen. Ordner neu einlesen?</numerusform>
+            <numerusform>Diese %n Stickmuster wurden noch nicht eingelesen. Ordner neu einlesen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>Neu einlesen</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -667,6 +719,43 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramArguments</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Browse, tag and transfer machine-embroidery designs.
+A design is shown in the window; a folder that is new is offered for adding.
+A second start passes them on to the window that is open.
+
+Options:
+  -h, --help        Print this help.
+  -V, --version     Print the version.
+  --language=CODE   Use this language: en, de or zh-CN.
+  --do-not-track    Turn the collection of usage data off.
+  --flushsettings   Forget all settings and exit.
+  --report-crash    Only offer to send the report of a crash.
+</source>
+        <translation>Stickmuster durchsehen, verschlagworten und an die Stickmaschine übertragen.
+Ein Stickmuster wird im Fenster gezeigt; ein neuer Ordner wird zum Hinzufügen angeboten.
+Ein zweiter Start reicht sie an das offene Fenster weiter.
+
+Optionen:
+  -h, --help        Diese Hilfe ausgeben.
+  -V, --version     Die Version ausgeben.
+  --language=CODE   Diese Sprache benutzen: en, de oder zh-CN.
+  --do-not-track    Die Erfassung von Nutzungsdaten abschalten.
+  --flushsettings   Alle Einstellungen vergessen und beenden.
+  --report-crash    Nur anbieten, den Bericht eines Absturzes zu senden.
+</translation>
     </message>
 </context>
 <context>

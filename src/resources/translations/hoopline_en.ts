@@ -32,6 +32,23 @@
     </message>
 </context>
 <context>
+    <name>PathOpener</name>
+    <message numerus="yes">
+        <source>Add %n folder(s) to your collection?</source>
+        <translation>
+            <numerusform>Add this folder to your collection?</numerusform>
+            <numerusform>Add these %n folders to your collection?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) were not read yet. Rescan the folders?</source>
+        <translation>
+            <numerusform>This design was not read yet. Rescan the folders?</numerusform>
+            <numerusform>These %n designs were not read yet. Rescan the folders?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PropertiesBox</name>
     <message numerus="yes">
         <source>%n files selected</source>

@@ -122,6 +122,25 @@
     </message>
 </context>
 <context>
+    <name>CatalogueWait</name>
+    <message>
+        <source>The window opens as soon as that is done.</source>
+        <translation>完成后窗口将立即打开。</translation>
+    </message>
+    <message>
+        <source>Your folders are being scanned.</source>
+        <translation>正在扫描您的文件夹。</translation>
+    </message>
+    <message>
+        <source>Another program is using your collection: %1, process %2.</source>
+        <translation>另一个程序正在使用您的花样库：%1，进程 %2。</translation>
+    </message>
+    <message>
+        <source>Another program is using your collection.</source>
+        <translation>另一个程序正在使用您的花样库。</translation>
+    </message>
+</context>
+<context>
     <name>ColorsBox</name>
     <message>
         <source>Colors</source>
@@ -605,6 +624,37 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>PathOpener</name>
+    <message>
+        <source>Not a design that can be shown: %1</source>
+        <translation>无法显示，不是可识别的花样：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n folder(s) to your collection?</source>
+        <translation>
+            <numerusform>将这 %n 个文件夹加入您的花样库？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>添加文件夹</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) were not read yet. Rescan the folders?</source>
+        <translation>
+            <numerusform>有 %n 个花样尚未读取。要重新扫描文件夹吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>重新扫描</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -664,6 +714,43 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramArguments</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Browse, tag and transfer machine-embroidery designs.
+A design is shown in the window; a folder that is new is offered for adding.
+A second start passes them on to the window that is open.
+
+Options:
+  -h, --help        Print this help.
+  -V, --version     Print the version.
+  --language=CODE   Use this language: en, de or zh-CN.
+  --do-not-track    Turn the collection of usage data off.
+  --flushsettings   Forget all settings and exit.
+  --report-crash    Only offer to send the report of a crash.
+</source>
+        <translation>浏览、标记机绣花样并传送到绣花机。
+指定花样时在窗口中显示；指定新文件夹时询问是否添加。
+再次启动时会转交给已打开的窗口。
+
+选项：
+  -h, --help        输出此帮助。
+  -V, --version     输出版本。
+  --language=CODE   使用此语言：en、de 或 zh-CN。
+  --do-not-track    关闭使用数据的收集。
+  --flushsettings   清除所有设置并退出。
+  --report-crash    仅询问是否发送崩溃报告。
+</translation>
     </message>
 </context>
 <context>
