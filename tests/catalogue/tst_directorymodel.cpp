@@ -9,6 +9,8 @@ class TestDirectoryModel : public QObject
 
 private slots:
     void tree();
+    void namesakesTellTheirParents_data();
+    void namesakesTellTheirParents();
     void hostileDepth();
 };
 
@@ -39,6 +41,28 @@ void TestDirectoryModel::tree()
     QCOMPARE(index.data().toString(), QStringLiteral("y"));
     QCOMPARE(model.absoluteFilePath(index), QStringLiteral("/d/one/x/y"));
     QVERIFY(!model.indexForPath("/d").isValid());
+}
+
+void TestDirectoryModel::namesakesTellTheirParents_data()
+{
+    QTest::addColumn<QStringList>("folders");
+    QTest::addColumn<QString>("tree");
+    QTest::newRow("two") << QStringList{"/mnt/usb1/Roses", "/home/me/Roses", "/d/Tulips"}
+                         << "Tulips Roses (me) Roses (usb1)";
+    QTest::newRow("parents alike")
+        << QStringList{"/a/x/R", "/b/x/R", "/a/y/R"} << "R (a/x) R (a/y) R (b/x)";
+    QTest::newRow("one right below the root") << QStringList{"/R", "/a/R"} << "R (a) R (/)";
+    QTest::newRow("the same twice") << QStringList{"/a/R", "/a/R"} << "R R";
+}
+
+void TestDirectoryModel::namesakesTellTheirParents()
+{
+    QFETCH(QStringList, folders);
+    Catalogue catalogue;
+    catalogue.project->setSmartFolders(folders, {});
+    DirectoryModel model(catalogue.project);
+    model.refresh();
+    QTEST(text(model), "tree");
 }
 
 void TestDirectoryModel::hostileDepth()

@@ -1,5 +1,6 @@
 #include "catalogue/folders/DirectoryModel.h"
 
+#include "catalogue/folders/FolderLabels.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
 
@@ -22,6 +23,9 @@ void DirectoryModel::refresh()
     LocaleAwareFunctions::sort(folders);
     for (const QString &folder : std::as_const(folders))
         addDirectory(invisibleRootItem(), folder, takePathsOfSmartfolder(folder, paths));
+    const QHash<QString, QString> labels = FolderLabels::of(folders);
+    for (int row = 0; row < rowCount(); ++row)
+        item(row)->setText(labels.value(absoluteFilePath(index(row, 0))));
 }
 
 QStringList DirectoryModel::absoluteDirectoryPaths() const

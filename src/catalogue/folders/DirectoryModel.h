@@ -12,7 +12,8 @@ class Project;
 
 /**
  * The smart folders and the directories of the known designs as a tree. Items show
- * the last element of their path and hold the whole one under PathRole.
+ * the last element of their path, smart folders of one name also what tells them apart,
+ * and hold the whole path under PathRole.
  */
 class DirectoryModel : public QStandardItemModel
 {
