@@ -43,6 +43,7 @@ struct PathOpener::Request
     QStringList unreadDesigns;  ///< in folders of the catalogue, but not in it
     QStringList folders;        ///< those that the catalogue knows
     QStringList unknownFolders; ///< those that it does not know, also of designs
+    QStringList strayDesigns;   ///< those in folders that it does not know
     QStringList others;         ///< what is neither
 };
 
@@ -87,9 +88,14 @@ PathOpener::Request PathOpener::sort(const QStringList &paths) const
         knownPaths.insert(file->absoluteFilePath());
     for (const QString &design : qAsConst(request.designs)) {
         const QString folder = QFileInfo(design).path();
-        if (!knownPaths.contains(design))
-            (isSearched(folder) ? request.unreadDesigns : request.unknownFolders)
-                .append(isSearched(folder) ? design : folder);
+        if (knownPaths.contains(design))
+            continue;
+        if (isSearched(folder)) {
+            request.unreadDesigns.append(design);
+        } else {
+            request.strayDesigns.append(design);
+            request.unknownFolders.append(folder);
+        }
     }
     request.unknownFolders.removeDuplicates();
     return request;
@@ -132,10 +138,16 @@ QList<QSharedPointer<IFile>> PathOpener::find(const QStringList &paths) const
 
 bool PathOpener::wantsFolders(const Request &request)
 {
-    GMessageBox question(
-        GMessageBox::Question, m_window,
-        tr("Add %n folder(s) to your collection?", nullptr, request.unknownFolders.size()),
-        listOf(request.unknownFolders));
+    const QStringList &folders = request.unknownFolders;
+    const QStringList &designs = request.strayDesigns;
+    const bool isOneDesign = designs.size() == 1 && folders.size() == 1 &&
+                             folders.constFirst() == QFileInfo(designs.constFirst()).path();
+    GMessageBox question(GMessageBox::Question, m_window,
+                         isOneDesign
+                             ? tr("Add the folder of '%1' to your collection?")
+                                   .arg(QFileInfo(designs.constFirst()).fileName())
+                             : tr("Add %n folder(s) to your collection?", nullptr, folders.size()),
+                         listOf(folders));
     question.button(QMessageBox::Yes)->setText(tr("Add folder"));
     question.button(QMessageBox::No)->setText(tr("Cancel"));
     question.setDefaultButton(QMessageBox::Yes);

@@ -1,13 +1,21 @@
-# Builds a MIME database of our own types alone and looks for all eight in it.
+# Builds a MIME database of our own types alone and looks for all eight in it, and in
+# what the desktop entry says to open.
 set(FOLDER "$ENV{TMPDIR}/mime")
 file(COPY "${SOURCE}" DESTINATION "${FOLDER}/packages")
 execute_process(COMMAND "${PROGRAM}" "${FOLDER}" RESULT_VARIABLE result ERROR_VARIABLE errors)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "update-mime-database: ${result} ${errors}")
 endif()
+file(READ "${ENTRY}" entry)
+if(NOT entry MATCHES "\nExec=[^\n]* %F\n" OR NOT entry MATCHES "\nMimeType=[^\n]*inode/directory;\n")
+    message(FATAL_ERROR "the desktop entry takes no files and folders")
+endif()
 foreach(extension IN ITEMS pes pec dst exp xxx jef sew hus)
     file(STRINGS "${FOLDER}/globs2" found REGEX "x-embroidery-${extension}:.*[.]${extension}$")
     if(NOT found)
         message(FATAL_ERROR "*.${extension} has no MIME type")
+    endif()
+    if(NOT entry MATCHES "\nMimeType=[^\n]*application/x-embroidery-${extension};")
+        message(FATAL_ERROR "the desktop entry does not open *.${extension}")
     endif()
 endforeach()

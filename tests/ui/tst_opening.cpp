@@ -110,6 +110,7 @@ void OpeningTest::showsOrOffers_data()
     QTest::addColumn<QString>("asked");
     QTest::addColumn<QStringList>("shown");
     QTest::addColumn<QString>("folder");
+    const QString addFor = "Add the folder of '%1' to your collection?";
     const QString add = "Add %1 folder(s) to your collection?";
     QTest::newRow("design") << QStringList{"a/one.dst"} << true << "" << QStringList{"one.dst"}
                             << "a";
@@ -126,10 +127,11 @@ void OpeningTest::showsOrOffers_data()
     QTest::newRow("new folder, not wanted")
         << QStringList{"new"} << false << add.arg(1) << QStringList{} << "a";
     QTest::newRow("design of a new folder")
-        << QStringList{"new/four.dst"} << true << add.arg(1) << QStringList{"four.dst"} << "new";
+        << QStringList{"new/four.dst"} << true << addFor.arg("four.dst") << QStringList{"four.dst"}
+        << "new";
     QTest::newRow("designs new and old, not wanted")
-        << QStringList{"new/four.dst", "a/one.dst"} << false << add.arg(1) << QStringList{"one.dst"}
-        << "a";
+        << QStringList{"new/four.dst", "a/one.dst"} << false << addFor.arg("four.dst")
+        << QStringList{"one.dst"} << "a";
     QTest::newRow("design not read yet")
         << QStringList{"a/late.DST"} << true << "1 design(s) were not read yet. Rescan the folders?"
         << QStringList{"late.DST"} << "a";

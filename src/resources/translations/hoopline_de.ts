@@ -658,6 +658,10 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Rescan</source>
         <translation>Neu einlesen</translation>
     </message>
+    <message>
+        <source>Add the folder of &apos;%1&apos; to your collection?</source>
+        <translation>Den Ordner von „%1“ in Ihre Sammlung aufnehmen?</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesDialog</name>

@@ -653,6 +653,10 @@ Commands; each has a --help of its own:</source>
         <source>Rescan</source>
         <translation>重新扫描</translation>
     </message>
+    <message>
+        <source>Add the folder of &apos;%1&apos; to your collection?</source>
+        <translation>将“%1”所在的文件夹加入您的花样库？</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesDialog</name>
