@@ -12,6 +12,7 @@
 #include "cli/ScanRehearsal.h"
 #include <algorithm>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 QString ScanCommand::summary() const
 {
@@ -43,7 +44,10 @@ int ScanCommand::run(const CommandLine &line) const
 
     ScanController controller(prune);
     controller.open();
-    synchronise(controller, folders);
+    {
+        const auto named = qScopeGuard([&controller] { nameUnreadable(controller); });
+        synchronise(controller, folders);
+    }
     return report(controller);
 }
 
@@ -70,13 +74,17 @@ void ScanCommand::synchronise(ScanController &controller, const QStringList &fol
     controller.setProgressAbortListener(nullptr);
 }
 
-int ScanCommand::report(const ScanController &controller)
+void ScanCommand::nameUnreadable(const ScanController &controller)
 {
     const QList<UnreadableFile> unreadable = controller.unreadableFiles();
     for (const UnreadableFile &file : unreadable)
         Console::reportError(file.reason.contains(file.path)
                                  ? file.reason
                                  : QStringLiteral("%1: %2").arg(file.path, file.reason));
+}
+
+int ScanCommand::report(const ScanController &controller)
+{
     const SyncCounts done = controller.lastScan();
     if (done.unreached > 0)
         Console::reportError(
@@ -92,6 +100,7 @@ int ScanCommand::report(const ScanController &controller)
     const bool written = output.flush();
     if (Interrupt::received() != 0)
         return SignalReceived + Interrupt::received();
+    const QList<UnreadableFile> unreadable = controller.unreadableFiles();
     const bool diskFailed = std::any_of(unreadable.begin(), unreadable.end(),
                                         [](const auto &file) { return !file.damaged; });
     return written && !diskFailed ? Success : Failure;

@@ -23,5 +23,6 @@ public:
 private:
     static QStringList parseFolders(const QStringList &names);
     static void synchronise(ScanController &controller, const QStringList &folders);
+    static void nameUnreadable(const ScanController &controller);
     static int report(const ScanController &controller);
 };

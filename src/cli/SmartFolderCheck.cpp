@@ -9,6 +9,7 @@
 #include <dirent.h>
 #include <QDirIterator>
 #include <QFile>
+#include <QSet>
 
 namespace {
 
@@ -20,14 +21,31 @@ bool holdsDesign(const QString &folder)
         .hasNext();
 }
 
-/** The system's reason why @p folder cannot be listed; null when it can. */
-QString listingError(const QString &folder)
+/** What errno is after the try to list @p folder; 0 when that is possible. */
+int listingError(const QString &folder)
 {
     DIR *listing = opendir(QFile::encodeName(folder).constData());
     if (!listing)
-        return qt_error_string(errno);
+        return errno;
     closedir(listing);
-    return {};
+    return 0;
+}
+
+/** Those that somebody has deleted are no problem. */
+QStringList subFoldersThatCannotBeListed(const QString &folder, const QStringList &knownDesigns)
+{
+    QSet<QString> looked{folder};
+    QStringList found;
+    for (const QString &design : knownDesigns) {
+        const QString path = design.left(design.lastIndexOf(QLatin1Char('/')));
+        if (!path.startsWith(folder + QLatin1Char('/')) || looked.contains(path))
+            continue;
+        looked.insert(path);
+        const int error = listingError(path);
+        if (error != 0 && error != ENOENT && error != ENOTDIR)
+            found.append(QStringLiteral("%1: %2").arg(path, qt_error_string(error)));
+    }
+    return found;
 }
 
 } // namespace
@@ -39,25 +57,27 @@ void SmartFolderCheck::expectAll(const Project &project)
     for (const auto &file : files)
         knownDesigns.append(file->absoluteFilePath());
 
-    bool complete = true;
+    QStringList problems;
     const QStringList folders = project.smartFolders();
     for (const QString &folder : folders) {
         const QString problem = problemOf(folder, knownDesigns);
         if (problem.isEmpty())
-            continue;
-        complete = false;
-        Console::reportError(QStringLiteral("%1: %2").arg(folder, problem));
+            problems += subFoldersThatCannotBeListed(folder, knownDesigns);
+        else
+            problems += QStringLiteral("%1: %2").arg(folder, problem);
     }
-    if (!complete)
-        throw CommandError(FolderMissing, tr("Nothing was changed. With --prune the designs of "
-                                             "such folders leave the catalogue."));
+    if (problems.isEmpty())
+        return;
+    std::for_each(problems.begin(), problems.end(), Console::reportError);
+    throw CommandError(FolderMissing, tr("Nothing was changed. With --prune the designs of "
+                                         "such folders leave the catalogue."));
 }
 
 QString SmartFolderCheck::problemOf(const QString &folder, const QStringList &knownDesigns)
 {
-    const QString error = listingError(folder);
-    if (!error.isEmpty())
-        return error;
+    const int error = listingError(folder);
+    if (error != 0)
+        return qt_error_string(error);
     const QString prefix = folder + QLatin1Char('/');
     const auto known =
         int(std::count_if(knownDesigns.begin(), knownDesigns.end(),

@@ -175,34 +175,47 @@ void CliScanTest::oldLockFilesBlockNobody()
 
 void CliScanTest::refusesWhileAFolderIsMissing_data()
 {
-    QTest::addColumn<bool>("empty");
-    QTest::newRow("not plugged in") << false;
-    QTest::newRow("suddenly empty") << true;
+    QTest::addColumn<QString>("lost");
+    QTest::addColumn<QString>("instead");
+    QTest::addColumn<int>("designs");
+    QTest::newRow("not plugged in") << "designs"
+                                    << "" << 4;
+    QTest::newRow("suddenly empty") << "designs"
+                                    << "designs/not/a/design" << 4;
+    QTest::newRow("not to be listed further down") << "designs/sub"
+                                                   << "loop" << 1;
 }
 
 void CliScanTest::refusesWhileAFolderIsMissing()
 {
-    QFETCH(bool, empty);
+    QFETCH(QString, lost);
+    QFETCH(QString, instead);
+    QFETCH(int, designs);
     makeDesigns(3);
+    QVERIFY(QDir(m_cli->workPath()).mkpath("designs/sub"));
+    QVERIFY(DstDesign::square().writeTo(m_cli->workPath("designs/sub/s.dst")));
     QVERIFY(QDir(m_cli->workPath()).mkpath("more"));
     QCOMPARE(m_cli->run({"scan", "designs", "more"}).status, 0);
     const QByteArray before = catalogue();
-    QVERIFY(QFile::rename(m_cli->workPath("designs"), m_cli->workPath("away")));
-    if (empty)
-        QDir(m_cli->workPath()).mkpath("designs/not/a/design");
+    QVERIFY(QFile::rename(m_cli->workPath(lost), m_cli->workPath("away")));
+    if (instead == "loop")
+        QVERIFY(QFile::link(m_cli->workPath(lost), m_cli->workPath(lost)));
+    else if (!instead.isEmpty())
+        QVERIFY(QDir(m_cli->workPath()).mkpath(instead));
     for (const QStringList &arguments :
          {QStringList{"scan"}, QStringList{"scan", "--dry-run"}, QStringList{"scan", "more"}}) {
         const auto result = m_cli->run(arguments);
         QCOMPARE(result.status, 4);
         QCOMPARE(result.out, QByteArray());
-        QVERIFY2(result.error.contains(m_cli->workPath("designs").toUtf8() + ": "), result.error);
+        QVERIFY2(result.error.contains(m_cli->workPath(lost).toUtf8() + ": "), result.error);
         QCOMPARE(catalogue(), before);
     }
     const auto rehearsal = m_cli->run({"scan", "--prune", "--dry-run"});
-    QCOMPARE(rehearsal.lastLine(),
-             QByteArray("would add 0, update 0, move 0, remove 3, unreadable 0"));
-    QCOMPARE(m_cli->run({"scan", "--prune"}).lastLine(),
-             QByteArray("added 0, updated 0, moved 0, removed 3, unreadable 0"));
+    QCOMPARE(rehearsal.lastLine(), "would add 0, update 0, move 0, remove " +
+                                       QByteArray::number(designs) + ", unreadable 0");
+    QCOMPARE(m_cli->run({"scan", "--prune"}).lastLine(), "added 0, updated 0, moved 0, removed " +
+                                                             QByteArray::number(designs) +
+                                                             ", unreadable 0");
 }
 
 void CliScanTest::rehearsesWhatItDoes()

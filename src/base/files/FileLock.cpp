@@ -5,7 +5,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <QFile>
-#include <QList>
+#include <QFileInfo>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -94,7 +94,8 @@ FileLock::Holder FileLock::holder() const
 {
     Holder holder;
     QFile file(QFile::decodeName(m_path));
-    if (!file.open(QIODevice::ReadOnly))
+    // Whatever else bears the name could hold up its reader.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return holder;
     const QByteArray text = file.read(LongestHolder).trimmed();
     const int end = text.indexOf(' ');
