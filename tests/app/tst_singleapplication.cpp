@@ -1,8 +1,6 @@
 #include "support/GuardFolder.h"
 
-#include "app/application/PathMessage.h"
 #include "app/application/SingleApplicationPrivate.h"
-#include "base/GlobalSettings.h"
 #include "base/InstanceName.h"
 
 #include <algorithm>
@@ -38,11 +36,6 @@ Process start(const QStringList &arguments = {})
     return process;
 }
 
-QStringList repeated(int times, const QString &text)
-{
-    return QVector<QString>(times, text).toList();
-}
-
 QByteArray message(quint8 type, const QByteArray &name, int checksumError = 0)
 {
     QByteArray body;
@@ -71,7 +64,6 @@ class tst_singleapplication : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
     void cleanup();
     void secondStartEndsAndRaisesThePrimary();
@@ -83,17 +75,6 @@ private slots:
     void dropsBadClients();
     void acceptsSplitHeader();
     void refusesOtherUsers();
-    void startsWithoutAUsableTemporaryFolder_data();
-    void startsWithoutAUsableTemporaryFolder();
-    void takesOverFromOneThatIsGone_data();
-    void takesOverFromOneThatIsGone();
-    void waitsForTheEndOfTheFirst();
-    void tellsOfOneThatDoesNotAnswer();
-    void tellsOfOneThatItCannotReach();
-    void takesPartWithEarlierVersions();
-    void startsBesideAScan();
-    void passesOnWhatToOpen();
-    void takesOnlyPathsThatAreThere();
 
 private:
     Process startPrimary();
@@ -101,18 +82,10 @@ private:
     static QByteArray nextLine(QProcess &process);
     static bool waitForLine(QProcess &process, const QByteArray &line);
     static QByteArray recordOf(const QProcess &process);
-    static QByteArray wordsOf(const QStringList &arguments);
 
     std::unique_ptr<GuardFolder> m_directory;
     Process m_primary;
 };
-
-void tst_singleapplication::initTestCase()
-{
-    // The data folder of the processes is named by these.
-    QCoreApplication::setApplicationName(QStringLiteral("Hoopline Organizer"));
-    QCoreApplication::setOrganizationName(QLatin1String(BuildConfig::Organisation));
-}
 
 void tst_singleapplication::init()
 {
@@ -341,155 +314,6 @@ void tst_singleapplication::refusesOtherUsers()
     QCOMPARE(connectAs(0), 0);
     QCOMPARE(connectAs(65534), EACCES);
 #endif
-}
-
-void tst_singleapplication::startsWithoutAUsableTemporaryFolder_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("missing") << "gone";
-    QTest::newRow("takes no files, not even those of root") << "/proc";
-    QTest::newRow("too long for a socket") << QString(120, 'x');
-    QTest::newRow("occupied") << "occupied";
-}
-
-void tst_singleapplication::startsWithoutAUsableTemporaryFolder()
-{
-    QFETCH(QString, folder);
-    QVERIFY(QDir(m_directory->path()).mkpath(QString(120, 'x')));
-    for (const QString &name : {GuardFolder::serverName(), GuardFolder::serverName() + ".lock"})
-        QVERIFY(QDir(m_directory->path()).mkpath("occupied/" + name + "/by/somebody"));
-    qputenv("TMPDIR", QDir(m_directory->path()).absoluteFilePath(folder).toLocal8Bit());
-    m_primary = startPrimary();
-    QVERIFY(m_primary);
-    Process second = start();
-    QVERIFY(second->waitForFinished(Patience));
-    QCOMPARE(second->exitCode(), 0);
-    QVERIFY(waitForLine(*m_primary, "started 1"));
-    m_primary->kill();
-    QVERIFY(m_primary->waitForFinished());
-    m_primary = startPrimary();
-    QVERIFY(m_primary);
-}
-
-void tst_singleapplication::takesOverFromOneThatIsGone_data()
-{
-    QTest::addColumn<qint64>("pid");
-    QTest::newRow("a dead process") << qint64(0x3fffffff);
-    QTest::newRow("a process that is no organizer") << QCoreApplication::applicationPid();
-    QTest::newRow("none") << qint64(-1);
-}
-
-// A block outlives its holder when somebody else is attached, or when another file has its key.
-void tst_singleapplication::takesOverFromOneThatIsGone()
-{
-    QFETCH(qint64, pid);
-    QSharedMemory memory(GuardFolder::serverName());
-    QVERIFY(memory.create(sizeof(InstanceBlock)));
-    auto *block = static_cast<InstanceBlock *>(memory.data());
-    block->initialize();
-    block->primary = true;
-    block->primaryPid = pid;
-    block->seal();
-    m_primary = startPrimary();
-    QVERIFY(m_primary);
-    QCOMPARE(block->primaryPid, m_primary->processId());
-}
-
-void tst_singleapplication::waitsForTheEndOfTheFirst()
-{
-    m_primary = start({"lingering"});
-    QVERIFY(waitForLine(*m_primary, "not sent to myself"));
-    m_primary->closeWriteChannel();
-    Process second = start({"patient"});
-    QVERIFY(waitForLine(*second, recordOf(*second)));
-    QVERIFY(m_primary->waitForFinished(Patience));
-    m_primary = std::move(second);
-}
-
-/** What a start says, in words, that finds the place taken by one that does not answer. */
-QByteArray tst_singleapplication::wordsOf(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(GUARDED_PROGRAM), arguments);
-    process.setReadChannel(QProcess::StandardError);
-    QByteArray words;
-    while (!words.contains("does not answer") && process.waitForReadyRead(Patience))
-        words += process.readAllStandardError();
-    // It shows them in a window as well, and nobody closes that.
-    process.kill();
-    process.waitForFinished();
-    return words;
-}
-
-void tst_singleapplication::tellsOfOneThatDoesNotAnswer()
-{
-    m_primary = startPrimary();
-    QVERIFY(m_primary);
-    ::kill(pid_t(m_primary->processId()), SIGSTOP);
-    const QByteArray words = wordsOf({"hasty"});
-    ::kill(pid_t(m_primary->processId()), SIGCONT);
-    QVERIFY2(words.contains(QByteArray::number(m_primary->processId())), words);
-}
-
-void tst_singleapplication::tellsOfOneThatItCannotReach()
-{
-    m_primary = startPrimary();
-    QVERIFY(m_primary);
-    // As after the folder was cleaned, or for a start that has another one.
-    QVERIFY(QDir(m_directory->path()).mkpath("other"));
-    qputenv("TMPDIR", m_directory->filePath("other").toLocal8Bit());
-    const QByteArray words = wordsOf({});
-    QVERIFY2(words.contains(QByteArray::number(m_primary->processId())), words);
-}
-
-void tst_singleapplication::takesPartWithEarlierVersions()
-{
-    // These neither answer nor hold a lock.
-    QSharedMemory memory(GuardFolder::serverName());
-    QVERIFY(memory.create(sizeof(InstanceBlock)));
-    auto *block = static_cast<InstanceBlock *>(memory.data());
-    block->initialize();
-    block->primary = true;
-    block->seal();
-    QLocalServer server;
-    QVERIFY(server.listen(GuardFolder::serverName()));
-    Process second = start({"hasty"});
-    QVERIFY(second->waitForFinished(Patience));
-    QCOMPARE(second->exitCode(), 0);
-    QCOMPARE(second->readAllStandardOutput(), QByteArray());
-}
-
-void tst_singleapplication::startsBesideAScan()
-{
-    QVERIFY(QDir().mkpath(GlobalSettings().applicationDataPath()));
-    FileLock lock(GlobalSettings().lockFilePath(), "hoopline-cli");
-    QCOMPARE(lock.tryLock(), FileLock::Held);
-    m_primary = startPrimary();
-    QVERIFY(m_primary);
-}
-
-void tst_singleapplication::passesOnWhatToOpen()
-{
-    const QByteArray folder = m_directory->path().toUtf8();
-    m_primary = start({"open", m_directory->path()});
-    QVERIFY(waitForLine(*m_primary, "show 1 " + folder));
-    // More than the primary reads at once.
-    Process second = start(QStringList("open") + repeated(9000, m_directory->path()));
-    QVERIFY(second->waitForFinished(Patience));
-    QVERIFY(waitForLine(*m_primary, "show 9000 " + folder));
-}
-
-void tst_singleapplication::takesOnlyPathsThatAreThere()
-{
-    const QByteArray folder = m_directory->path().toUtf8();
-    const QByteArray good = folder + '\0';
-    QCOMPARE(PathMessage::decode(PathMessage::encode({folder})), QStringList(folder));
-    QCOMPARE(PathMessage::decode(good + "relative" + '\0' + folder + "/gone" + '\0' + '\0' + good),
-             (QStringList{folder, folder}));
-    QCOMPARE(PathMessage::decode(good + folder + "/cut"), QStringList(folder));
-    QCOMPARE(PathMessage::decode("hello"), QStringList());
-    QCOMPARE(PathMessage::decode(good + QByteArray(PathMessage::MaxSize, 'x')), QStringList());
-    QVERIFY(PathMessage::encode(repeated(100000, folder)).size() <= PathMessage::MaxSize);
 }
 
 QTEST_GUILESS_MAIN(tst_singleapplication)
