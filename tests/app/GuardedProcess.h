@@ -51,14 +51,14 @@ public:
     }
 
     /**
-     * What it says when the place is taken by one that does not answer. It says so in a
-     * window as well, and ends here before somebody has closed that.
+     * What it says when it cannot start. It says so in a window as well, and ends here
+     * before somebody has closed that.
      */
-    QByteArray words()
+    QByteArray words(const char *awaited = "does not answer")
     {
         setReadChannel(StandardError);
         QByteArray said;
-        while (!said.contains("does not answer") && waitForReadyRead(Patience))
+        while (!said.contains(awaited) && waitForReadyRead(Patience))
             said += readAllStandardError();
         kill();
         waitForFinished();

@@ -38,6 +38,7 @@ private slots:
     void takesOverFromOneThatIsGone();
     void waitsForTheEndOfTheFirst();
     void tellsOfOneThatDoesNotAnswer();
+    void tellsWhenThereIsNoWayToStart();
     void tellsOfOneThatItCannotReach();
     void takesPartWithEarlierVersions();
     void startsBesideAScan();
@@ -121,6 +122,23 @@ void StartsTest::tellsOfOneThatDoesNotAnswer()
     const QByteArray words = GuardedProcess({"hasty"}).words();
     ::kill(pid_t(primary.processId()), SIGCONT);
     QVERIFY2(words.contains(QByteArray::number(primary.processId())), words);
+}
+
+void StartsTest::tellsWhenThereIsNoWayToStart()
+{
+    const QList<QPair<const char *, QByteArray>> places{
+        {"TMPDIR", "/proc"},
+        {"XDG_DATA_HOME", "/proc"},
+        {"XDG_CONFIG_HOME", m_directory->path().toLocal8Bit()}};
+    QList<QPair<const char *, QByteArray>> before;
+    for (const auto &place : places) {
+        before.append({place.first, qgetenv(place.first)});
+        qputenv(place.first, place.second);
+    }
+    const QByteArray words = GuardedProcess().words("cannot start");
+    for (const auto &place : before)
+        qputenv(place.first, place.second);
+    QVERIFY2(words.contains("cannot start"), words);
 }
 
 void StartsTest::tellsOfOneThatItCannotReach()

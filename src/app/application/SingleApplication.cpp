@@ -55,6 +55,11 @@ SingleApplication::SingleApplication(int &argc, char **argv, bool allowSecondary
         qCritical("SingleApplication: Unable to attach to shared memory block.");
         qCritical("%s", qPrintable(m_private->memory->errorString()));
         m_private->memory.reset();
+        if (m_lock.tryLock() == FileLock::Unavailable)
+            endTelling(tr("%1 cannot start.").arg(QCoreApplication::applicationName()),
+                       tr("It can write neither to the folder for temporary files nor to that of "
+                          "its own data: %1")
+                           .arg(QDir::toNativeSeparators(GlobalSettings().applicationDataPath())));
     }
     joinOrEnd(allowSecondary, timeout, *clock);
     m_private->startLock.unlock();
@@ -152,7 +157,7 @@ bool SingleApplication::mayLead()
     case FileLock::Unavailable:
         break;
     }
-    return m_private->memory && !m_private->recordedPrimaryLives();
+    return !m_private->recordedPrimaryLives();
 }
 
 void SingleApplication::openAll(const QStringList &paths)
@@ -177,6 +182,11 @@ void SingleApplication::endForLackOfAnAnswer()
                      "the process %1 first.")
                       .arg(pid)
                 : tr("It may be busy: wait a little and start again.");
+    endTelling(text, advice);
+}
+
+void SingleApplication::endTelling(const QString &text, const QString &advice)
+{
     std::fputs(qPrintable(text + QLatin1Char('\n') + advice + QLatin1Char('\n')), stderr);
     cancelLaunch();
     GMessageBox(GMessageBox::Warning, nullptr, text, advice).exec();

@@ -16,7 +16,7 @@ class SingleApplicationPrivate;
  * Two things tell who is the first: the record in shared memory with the local server,
  * and the lock of those who write the catalogue. Where they differ, the lock is right,
  * since it cannot outlive its holder. A process that finds the lock taken by another
- * instance that does not answer says so and ends with status 1.
+ * instance that does not answer, or can have neither, says so and ends with status 1.
  */
 class SingleApplication : public HooplineApplication
 {
@@ -89,6 +89,7 @@ private:
     void openAll(const QStringList &paths);
     [[noreturn]] void endWith(int status);
     [[noreturn]] void endForLackOfAnAnswer();
+    [[noreturn]] void endTelling(const QString &text, const QString &advice);
 
     FileLock m_lock;
     std::unique_ptr<SingleApplicationPrivate> m_private;

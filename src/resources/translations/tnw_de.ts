@@ -477,6 +477,14 @@ Erstellt am %2</translation>
         <source>It may be busy: wait a little and start again.</source>
         <translation>Vielleicht ist es beschäftigt: Warten Sie ein wenig und starten Sie es erneut.</translation>
     </message>
+    <message>
+        <source>%1 cannot start.</source>
+        <translation>%1 kann nicht starten.</translation>
+    </message>
+    <message>
+        <source>It can write neither to the folder for temporary files nor to that of its own data: %1</source>
+        <translation>Es kann weder in den Ordner für temporäre Dateien noch in den seiner eigenen Daten schreiben: %1</translation>
+    </message>
 </context>
 <context>
     <name>UpdateDialog</name>

@@ -477,6 +477,14 @@ Built on %2</source>
         <source>It may be busy: wait a little and start again.</source>
         <translation>它可能正忙：请稍等片刻再启动。</translation>
     </message>
+    <message>
+        <source>%1 cannot start.</source>
+        <translation>%1 无法启动。</translation>
+    </message>
+    <message>
+        <source>It can write neither to the folder for temporary files nor to that of its own data: %1</source>
+        <translation>既无法写入临时文件夹，也无法写入自己的数据文件夹：%1</translation>
+    </message>
 </context>
 <context>
     <name>UpdateDialog</name>
