@@ -1,11 +1,11 @@
 #include "cli/ScanController.h"
 
 #include "base/GlobalSettings.h"
+#include "catalogue/sync/DataFolder.h"
 #include "cli/CommandError.h"
 #include "cli/OrganiserGuard.h"
 #include "cli/SmartFolderCheck.h"
 #include "properties/undo/GUndoStack.h"
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -24,7 +24,7 @@ void ScanController::open()
 void ScanController::takeLock()
 {
     const QString folder = QFileInfo(projectFilePath()).path();
-    QDir().mkpath(folder);
+    DataFolder::prepare(folder);
     // Where there are no locks the guard has to do.
     if (m_lock.tryLock() == FileLock::HeldByOther) {
         if (m_lock.holder().program == QLatin1String("hoopline-cli"))

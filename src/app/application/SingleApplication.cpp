@@ -2,6 +2,7 @@
 
 #include "app/application/PathMessage.h"
 #include "app/application/SingleApplicationPrivate.h"
+#include "base/files/PrivateAccess.h"
 #include "base/GlobalSettings.h"
 #include "widgets/controls/GMessageBox.h"
 
@@ -39,7 +40,7 @@ QString lockFilePath()
     const QString folder = QFileInfo(path).path();
     // A folder elsewhere that is missing may lie on a drive that will come back.
     if (folder == QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
-        QDir().mkpath(folder);
+        PrivateAccess::makeFolder(folder);
     return path;
 }
 
