@@ -172,8 +172,10 @@ bool FileReplacement::syncDirectory()
 
 bool FileReplacement::fail()
 {
-    if (m_error.isNull())
-        m_error = qt_error_string(errno);
+    if (m_error.isNull()) {
+        m_errorCode = errno;
+        m_error = qt_error_string(m_errorCode);
+    }
     return false;
 }
 

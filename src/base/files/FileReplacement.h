@@ -41,6 +41,9 @@ public:
     /** The system's own words for the first failure. */
     QString errorString() const { return m_error; }
 
+    /** The system's number for the first failure, as in errno; 0 when all went well. */
+    int errorCode() const { return m_errorCode; }
+
     /**
      * Removes what writers that died have left in @p directory. Files of writers that
      * still live stay.
@@ -59,4 +62,5 @@ private:
     QByteArray m_temporary;
     int m_descriptor = -1;
     QString m_error;
+    int m_errorCode = 0;
 };
