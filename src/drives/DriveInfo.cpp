@@ -1,5 +1,8 @@
-#include "ui/DriveInfo.h"
+#include "drives/DriveInfo.h"
 
+#include "drives/VolumeSource.h"
+
+#include <QFileInfo>
 #include <QStorageInfo>
 
 namespace {
@@ -28,19 +31,37 @@ DriveInfo DriveInfo::fromVolume(const QStorageInfo &volume)
     drive.valid = volume.isValid();
     drive.ready = volume.isReady();
     drive.readOnly = volume.isReadOnly();
+    drive.denied = !QFileInfo(drive.rootPath).isWritable();
+    return drive;
+}
+
+DriveInfo DriveInfo::fromMount(const Mount &mount)
+{
+    DriveInfo drive = fromVolume(QStorageInfo(mount.path));
+    drive.mount = mount;
+    // It was unmounted since, and what lies below it has answered.
+    drive.valid = drive.valid && drive.rootPath == mount.path;
     return drive;
 }
 
 bool DriveInfo::mightBeUsbDrive() const
 {
-    if (root || !valid || !ready || readOnly)
-        return false;
-    const QString type = fileSystemType.toLower();
-    return type.contains(QLatin1String("fat")) || type.contains(QLatin1String("msdos"));
+    return !root && valid && ready && !readOnly && !denied && Volumes::isFat(fileSystemType);
+}
+
+QString DriveInfo::displayName() const
+{
+    return name.isEmpty() ? rootPath : name;
 }
 
 QString DriveInfo::displayText() const
 {
     // One call, so that a "%1" in the label stays as it is.
-    return QStringLiteral("%1 (%2)").arg(name.isEmpty() ? rootPath : name, sizeText(bytesTotal));
+    return QStringLiteral("%1 (%2)").arg(displayName(), sizeText(bytesTotal));
+}
+
+bool DriveInfo::operator==(const DriveInfo &other) const
+{
+    return mount == other.mount && rootPath == other.rootPath &&
+           displayText() == other.displayText();
 }

@@ -1,44 +1,82 @@
-#include "ui/DrivePoller.h"
+#include "drives/DrivePoller.h"
 
-#include <mutex>
-#include <thread>
-#include <utility>
+#include "base/DetachedThread.h"
 
-/** Where the thread finds the poller, as long as there is one. */
-struct DrivePoller::Mailbox
+#include <algorithm>
+
+namespace {
+
+constexpr int Patience = 3000; // milliseconds; a sleeping disk wakes up in that time
+
+} // namespace
+
+DrivePoller::DrivePoller(VolumeSource volumes, QObject *parent)
+    : QObject(parent), m_volumes(std::move(volumes)), m_patience(Patience)
 {
-    std::mutex mutex;
-    DrivePoller *poller = nullptr;
-};
-
-DrivePoller::DrivePoller(VolumeSource source, QObject *parent)
-    : QObject(parent), m_source(std::move(source)), m_mailbox(std::make_shared<Mailbox>())
-{
-    m_mailbox->poller = this;
 }
 
-DrivePoller::~DrivePoller()
-{
-    const std::lock_guard<std::mutex> lock(m_mailbox->mutex);
-    m_mailbox->poller = nullptr;
-}
+DrivePoller::~DrivePoller() = default;
 
 void DrivePoller::poll()
 {
-    if (m_polling)
-        return;
-    m_polling = true;
-    std::thread([mailbox = m_mailbox, source = m_source] {
-        const QList<QStorageInfo> volumes = source();
-        const std::lock_guard<std::mutex> lock(mailbox->mutex);
-        if (DrivePoller *poller = mailbox->poller)
-            QMetaObject::invokeMethod(
-                poller, [poller, volumes] { poller->takeAnswer(volumes); }, Qt::QueuedConnection);
-    }).detach();
+    QList<Question> questions;
+    const QList<Mount> mounts = m_volumes();
+    for (const Mount &mount : mounts) {
+        Question question = questionTo(mount);
+        if (!question.pending)
+            ask(question);
+        questions.append(question);
+    }
+    m_questions = questions;
+    tell();
 }
 
-void DrivePoller::takeAnswer(const QList<QStorageInfo> &volumes)
+DrivePoller::Question DrivePoller::questionTo(const Mount &mount) const
 {
-    m_polling = false;
-    emit volumesListed(volumes);
+    const auto known =
+        std::find_if(m_questions.begin(), m_questions.end(),
+                     [&mount](const Question &question) { return question.mount == mount; });
+    if (known != m_questions.end())
+        return *known;
+    Question question;
+    question.mount = mount;
+    return question;
+}
+
+void DrivePoller::ask(Question &question)
+{
+    question.asked.start();
+    question.pending = runDetached([this, address = m_mailbox.address(), mount = question.mount] {
+        const DriveInfo drive = DriveInfo::fromMount(mount);
+        address.post([this, drive] { takeAnswer(drive); });
+    });
+}
+
+void DrivePoller::takeAnswer(const DriveInfo &drive)
+{
+    for (Question &question : m_questions) {
+        if (question.mount == drive.mount) {
+            question.pending = false;
+            question.answer = drive;
+        }
+    }
+    tell();
+}
+
+bool DrivePoller::isDead(const Question &question) const
+{
+    return question.pending && question.asked.hasExpired(m_patience);
+}
+
+void DrivePoller::tell()
+{
+    QList<DriveInfo> drives;
+    bool looking = false;
+    for (const Question &question : std::as_const(m_questions)) {
+        const bool answered = question.answer.has_value();
+        if (answered && !isDead(question) && question.answer->mightBeUsbDrive())
+            drives.append(*question.answer);
+        looking = looking || (!answered && question.pending && !isDead(question));
+    }
+    emit drivesListed(drives, looking);
 }

@@ -1,41 +1,59 @@
 #pragma once
 
-#include <functional>
-#include <memory>
+#include "base/Mailbox.h"
+#include "drives/DriveInfo.h"
+#include "drives/VolumeSource.h"
+
+#include <optional>
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
-#include <QStorageInfo>
-
-/** Lists the mounted volumes; called on a thread of its own, and allowed to take its time. */
-using VolumeSource = std::function<QList<QStorageInfo>()>;
 
 /**
- * Lists the mounted volumes on a thread of its own, since a dead network mount
- * or a sleeping disk may hold up the one who asks for as long as it likes. At
- * most one question is under way; one that never gets its answer is left behind
- * when the poller goes.
+ * Finds the drives that designs can be copied to. Each is asked on a thread of its own, since
+ * a dead or sleeping one may hold up whoever asks for as long as it likes; the others are told
+ * of without it. At most one question to a drive is under way; one that never gets its answer
+ * is left behind.
  */
 class DrivePoller : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit DrivePoller(VolumeSource source, QObject *parent = nullptr);
+    explicit DrivePoller(VolumeSource volumes, QObject *parent = nullptr);
     ~DrivePoller() override;
 
-    /** Asks, unless an answer is still awaited. */
+    /** How long a drive may take to answer until it counts as dead. */
+    void setPatience(int milliseconds) { m_patience = milliseconds; }
+
+    /** Asks the drives that are mounted now, but those that owe an answer. */
     void poll();
 
 signals:
-    /** The answer, in the order of the system; sent on the poller's own thread. */
-    void volumesListed(const QList<QStorageInfo> &volumes);
+    /**
+     * The drives that have answered and can be copied to, in the order of the system; sent
+     * with each poll and each answer.
+     * @param looking whether a first answer is still hoped for
+     */
+    void drivesListed(const QList<DriveInfo> &drives, bool looking);
 
 private:
-    struct Mailbox;
+    struct Question
+    {
+        Mount mount;
+        QElapsedTimer asked;
+        bool pending = false;
+        std::optional<DriveInfo> answer; ///< the latest
+    };
 
-    void takeAnswer(const QList<QStorageInfo> &volumes);
+    Question questionTo(const Mount &mount) const;
+    void ask(Question &question);
+    void takeAnswer(const DriveInfo &drive);
+    bool isDead(const Question &question) const;
+    void tell();
 
-    const VolumeSource m_source;
-    std::shared_ptr<Mailbox> m_mailbox;
-    bool m_polling = false;
+    VolumeSource m_volumes;
+    int m_patience;
+    QList<Question> m_questions;
+    Mailbox m_mailbox{this};
 };

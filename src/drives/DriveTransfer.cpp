@@ -1,16 +1,36 @@
-#include "ui/DriveTransfer.h"
+#include "drives/DriveTransfer.h"
 
+#include "base/files/FileReplacement.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
+#include <QStorageInfo>
+#include <sys/stat.h>
 #include <unistd.h>
-#endif
 
 namespace {
+
+constexpr qint64 PieceSize = 256 * 1024; // bytes
+
+/** What lies at @p path, as the system numbers devices; 0 for nothing. */
+quint64 deviceAt(const QString &path)
+{
+    struct stat facts;
+    return stat(QFile::encodeName(path).constData(), &facts) == 0 ? facts.st_dev : 0;
+}
+
+/** Drivers differ in what they do with other names; a machine could not read them. */
+bool isFatName(const QString &name)
+{
+    return std::all_of(name.begin(), name.end(), [](QChar c) {
+        return c >= QLatin1Char(' ') && !QStringLiteral("\"*/:<>?\\|").contains(c);
+    });
+}
 
 bool isSameFile(const QString &first, const QString &second)
 {
@@ -19,67 +39,132 @@ bool isSameFile(const QString &first, const QString &second)
                                        std::filesystem::path(second.toStdU16String()), error);
 }
 
-#ifdef Q_OS_UNIX
-enum class Extent { File, Volume };
+/** FAT knows one permission, which any program of its owner's may lift. */
+void liftProtection(const QString &path)
+{
+    const QFileInfo file(path);
+    if (file.isFile() && !file.isWritable())
+        QFile::setPermissions(path, file.permissions() | QFile::WriteOwner);
+}
 
-bool flushPath(const QString &path, Extent extent)
+/** 0, or the system's number for what went wrong. */
+int flushVolume(const QString &path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)
-        return false;
-    bool flushed = ::fsync(descriptor) == 0;
+        return errno;
 #ifdef Q_OS_LINUX
-    if (extent == Extent::Volume)
-        flushed = ::syncfs(descriptor) == 0 && flushed;
+    const int error = ::syncfs(descriptor) == 0 ? 0 : errno;
 #else
-    Q_UNUSED(extent)
+    const int error = ::fsync(descriptor) == 0 ? 0 : errno;
 #endif
     ::close(descriptor);
-    return flushed;
+    return error;
 }
-#endif
 
-bool flushFile(const QString &path)
+TransferResult::Reason reasonOf(int errorCode)
 {
-#ifdef Q_OS_UNIX
-    return flushPath(path, Extent::File);
-#else
-    Q_UNUSED(path)
-    return true;
-#endif
+    switch (errorCode) {
+    case ENOSPC:
+    case EDQUOT:
+        return TransferResult::NoSpace;
+    case EROFS:
+    case EACCES:
+    case EPERM:
+        return TransferResult::NotWritable;
+    case EINVAL:
+    case EILSEQ:
+    case ENAMETOOLONG:
+        return TransferResult::NameNotAllowed;
+    case ENODEV:
+    case ENXIO:
+    case ENOTCONN:
+        return TransferResult::DriveGone;
+    default:
+        return TransferResult::Other;
+    }
 }
 
 } // namespace
 
-DriveTransfer::DriveTransfer(const QString &target, const QStorageInfo &volume)
-    : m_target(target), m_volume(volume)
+DriveTransfer::DriveTransfer(const QString &target, quint64 device)
+    : m_target(target), m_device(device ? device : deviceAt(target))
 {
+    if (isDriveThere())
+        FileReplacement::removeLeftovers(m_target);
 }
 
 bool DriveTransfer::isDriveThere() const
 {
     // The empty folder that a pulled drive leaves behind would take the copies as well.
-    const QStorageInfo now(m_target);
-    return now.isValid() && now == m_volume;
+    const quint64 now = deviceAt(m_target);
+    return now != 0 && now == m_device;
 }
 
-bool DriveTransfer::copy(const QString &source) const
+TransferResult::Reason DriveTransfer::copy(const QString &source, const Told &told)
 {
-    const QString destination = QDir(m_target).absoluteFilePath(QFileInfo(source).fileName());
+    m_systemText.clear();
+    const QString name = QFileInfo(source).fileName();
+    const QString destination = QDir(m_target).absoluteFilePath(name);
     if (!isDriveThere())
-        return false;
+        return TransferResult::DriveGone;
     if (isSameFile(source, destination))
-        return true;
-    if (QFile::exists(destination))
-        QFile::remove(destination);
-    return QFile::copy(source, destination) && flushFile(destination) && isDriveThere();
+        return TransferResult::None;
+    if (!isFatName(name))
+        return TransferResult::NameNotAllowed;
+    QFile file(source);
+    if (!file.open(QIODevice::ReadOnly))
+        return sourceReason(file);
+    liftProtection(destination);
+    return replace(file, destination, told);
 }
 
-bool DriveTransfer::flush() const
+TransferResult::Reason DriveTransfer::replace(QFile &source, const QString &destination,
+                                              const Told &told)
 {
-#ifdef Q_OS_UNIX
-    return isDriveThere() && flushPath(m_target, Extent::Volume);
-#else
-    return isDriveThere();
-#endif
+    FileReplacement file(destination, FileReplacement::AsBefore);
+    while (true) {
+        const QByteArray piece = source.read(PieceSize);
+        if (source.error() != QFile::NoError)
+            return sourceReason(source);
+        if (piece.isEmpty())
+            break;
+        if (!file.write(piece))
+            return driveReason(file, source.size());
+        if (!told(piece.size()))
+            return TransferResult::Other;
+    }
+    if (!file.commit(FileReplacement::Durable))
+        return driveReason(file, source.size());
+    return isDriveThere() ? TransferResult::None : TransferResult::DriveGone;
+}
+
+TransferResult::Reason DriveTransfer::sourceReason(const QFile &source)
+{
+    m_systemText = source.errorString();
+    return source.exists() ? TransferResult::SourceUnreadable : TransferResult::SourceGone;
+}
+
+TransferResult::Reason DriveTransfer::driveReason(const FileReplacement &file, qint64 size)
+{
+    m_systemText = file.errorString();
+    if (!isDriveThere())
+        return TransferResult::DriveGone;
+    const QStorageInfo drive(m_target);
+    // Some drivers have one answer to everything.
+    if (!drive.isReadOnly() && drive.bytesAvailable() < size)
+        return TransferResult::NoSpace;
+    const TransferResult::Reason reason = reasonOf(file.errorCode());
+    return reason == TransferResult::NoSpace ? TransferResult::FolderFull : reason;
+}
+
+TransferResult::Reason DriveTransfer::flush()
+{
+    if (!isDriveThere())
+        return TransferResult::DriveGone;
+    const int error = flushVolume(m_target);
+    if (error == 0)
+        return TransferResult::None;
+    m_systemText = qt_error_string(error);
+    return reasonOf(error);
 }

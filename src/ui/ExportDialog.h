@@ -1,15 +1,18 @@
 #pragma once
 
-#include "ui/DrivePoller.h"
+#include "drives/DriveInfo.h"
+#include "drives/TransferResult.h"
+#include "drives/VolumeSource.h"
 
 #include <memory>
 #include <QDialog>
 #include <QList>
 #include <QSharedPointer>
-#include <QStorageInfo>
 #include <QTimer>
 
+class DrivePoller;
 class IFile;
+class QStorageInfo;
 
 namespace Ui {
 class ExportDialogUI;
@@ -21,11 +24,18 @@ class ExportDialog : public QDialog
     Q_OBJECT
 
 public:
+    /** @param volumes where to look for drives */
     ExportDialog(QWidget *parent, const QList<QSharedPointer<IFile>> &files,
-                 VolumeSource volumes = &QStorageInfo::mountedVolumes);
+                 const VolumeSource &volumes = Volumes::mounted);
     ~ExportDialog() override;
 
     static bool mightBeUsbDrive(const QStorageInfo &volume);
+
+    /** What was copied; nothing, when the dialog was cancelled. */
+    TransferResult transferResult() const { return m_result; }
+
+    /** Where it was copied to; an empty one when nothing was. */
+    DriveInfo drive() const { return m_drive; }
 
 public slots:
     /** Asks for the drives that are mounted now; the list follows shortly. */
@@ -35,14 +45,17 @@ public slots:
     void accept() override;
 
 private:
-    void updateDriveList(const QList<QStorageInfo> &volumes);
+    void updateDriveList(const QList<DriveInfo> &drives, bool looking);
     void fillDriveList();
-    QStorageInfo volumeAt(const QString &target) const;
-    QString copyTo(const QString &target);
+    DriveInfo driveAt(const QString &target) const;
+    void copyTo(const QString &target);
 
     const std::unique_ptr<Ui::ExportDialogUI> m_ui;
     DrivePoller *m_poller;
     QTimer m_timer;
-    QList<QStorageInfo> m_volumes;
+    QList<DriveInfo> m_drives;
+    bool m_looking = true;
     const QList<QSharedPointer<IFile>> m_files;
+    DriveInfo m_drive;
+    TransferResult m_result;
 };

@@ -18,7 +18,7 @@ constexpr int Aborted = 2;
 
 ProgressDialog::ProgressDialog(QWidget *parent)
     : QDialog(parent, Qt::Sheet), m_label(new QLabel(this)), m_progressBar(new QProgressBar(this)),
-      m_cancelButton(new QPushButton(tr("Cancel"), this))
+      m_detail(new QLabel(this)), m_cancelButton(new QPushButton(tr("Cancel"), this))
 {
     setModal(true);
     setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -28,12 +28,14 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     m_progressBar->setMinimumWidth(MinimumBarWidth);
     m_progressBar->setRange(0, 0);
     m_progressBar->setAccessibleName(tr("Progress"));
+    m_detail->hide();
     m_cancelButton->setAutoDefault(false);
     connect(m_cancelButton, &QPushButton::clicked, this, &ProgressDialog::reject);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_label);
     layout->addWidget(m_progressBar);
+    layout->addWidget(m_detail);
     layout->addWidget(m_cancelButton, 0, Qt::AlignRight);
 }
 
@@ -53,6 +55,14 @@ void ProgressDialog::setSteps(int steps)
     m_progressBar->setRange(0, steps);
     m_progressBar->setValue(0);
     m_label->clear();
+    m_detail->clear();
+    m_detail->hide();
+}
+
+void ProgressDialog::setDetail(const QString &text)
+{
+    m_detail->setText(text);
+    m_detail->show();
 }
 
 void ProgressDialog::proceed(const QString &text)
@@ -70,6 +80,11 @@ void ProgressDialog::pumpEvents()
         return;
     m_lastEventProcessing = now;
     QCoreApplication::processEvents();
+}
+
+void ProgressDialog::setCancelEnabled(bool enabled)
+{
+    m_cancelButton->setEnabled(enabled);
 }
 
 int ProgressDialog::abortState() const

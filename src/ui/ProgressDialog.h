@@ -29,6 +29,12 @@ public:
     /** One step on; a null @p text leaves the shown one. May deliver events. */
     void proceed(const QString &text) override;
 
+    /** A second line, below the bar; gone with the next setSteps(). */
+    void setDetail(const QString &text);
+
+    /** For work that cannot be broken off. */
+    void setCancelEnabled(bool enabled);
+
     /** 2 once the user has asked to stop, 0 until then. */
     int abortState() const override;
 
@@ -44,6 +50,7 @@ private:
 
     QLabel *m_label;
     QProgressBar *m_progressBar;
+    QLabel *m_detail;
     QPushButton *m_cancelButton;
     bool m_aborted = false;
     qint64 m_lastEventProcessing = 0; ///< milliseconds since the epoch

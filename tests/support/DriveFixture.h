@@ -1,47 +1,76 @@
 #pragma once
 
+#include "base/files/MountTable.h"
+#include "drives/VolumeSource.h"
+
+#include <csignal>
+#include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#ifdef Q_OS_LINUX
+#include <sched.h>
+#include <sys/mount.h>
+#endif
+
 /**
  * A drive for a test: a FAT image where the test may mount one, by the kernel or by a driver
- * beside it, else a memory file system, else a plain folder. Unmounted when it goes.
+ * beside it, else a memory file system, else a plain folder. Unmounted when it goes. Where the
+ * system lets it, the test sees its mounts alone.
  */
 class DriveFixture
 {
 public:
-    DriveFixture()
-        : m_directory(qEnvironmentVariable("HOOPLINE_TEST_MOUNTS", QDir::tempPath()) +
-                      QStringLiteral("/drive-XXXXXX"))
+    enum Wanted {
+        BestThereIs,
+        InMemory,       ///< a driver that tells each failure by its own number
+        RoomForTwoFiles ///< as above, with space left
+    };
+
+    explicit DriveFixture(Wanted wanted = BestThereIs)
     {
+        keepMountsToThisProcess();
         m_path = m_directory.filePath(QStringLiteral("drive"));
         QDir().mkpath(m_path);
-        const QString image = m_directory.filePath(QStringLiteral("image"));
-        const bool formatted = createImage(image);
-        if (formatted && run(QStringLiteral("mount"),
-                             {QStringLiteral("-t"), QStringLiteral("vfat"), QStringLiteral("-o"),
-                              QStringLiteral("loop"), image, m_path}))
-            m_kind = Fat;
-        else if (formatted && run(QStringLiteral("fusefat"),
-                                  {QStringLiteral("-o"), QStringLiteral("rw+"), image, m_path}))
-            m_kind = FuseFat;
-        else if (run(QStringLiteral("mount"),
-                     {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
-                      QStringLiteral("size=2m"), QStringLiteral("none"), m_path}))
-            m_kind = Memory;
+        if (wanted != BestThereIs)
+            mountMemory(wanted == InMemory ? 0 : 3);
+        else
+            mountBest();
+        m_mount = mountNow();
     }
 
-    ~DriveFixture() { pull(); }
+    ~DriveFixture()
+    {
+        resume();
+        pull();
+        m_driver.waitForFinished(1000);
+    }
 
     DriveFixture(const DriveFixture &) = delete;
     DriveFixture &operator=(const DriveFixture &) = delete;
 
     QString path() const { return m_path; }
     QString filePath(const QString &name) const { return m_path + QLatin1Char('/') + name; }
-    QStringList files() const { return QDir(m_path).entryList(QDir::Files); }
+    QStringList files() const { return QDir(m_path).entryList(QDir::Files | QDir::Hidden); }
     bool isFat() const { return m_kind == Fat || m_kind == FuseFat; }
     bool isMounted() const { return m_kind != Plain; }
+    /** As of the beginning; an empty one where nothing could be mounted. */
+    Mount mount() const { return m_mount; }
+
+    /** Those of \a drives that are mounted, for whoever looks for drives. */
+    static VolumeSource volumes(const QList<const DriveFixture *> &drives)
+    {
+        return [drives] {
+            QList<Mount> mounts;
+            for (const DriveFixture *drive : drives) {
+                if (drive->isMounted())
+                    mounts.append(drive->mountNow());
+            }
+            return mounts;
+        };
+    }
 
     /** As if it were pulled out. */
     bool pull()
@@ -60,6 +89,14 @@ public:
                                              QStringLiteral("remount,bind,ro"), m_path});
     }
 
+    /** Lets it answer no question until resume(); false where that cannot be. */
+    bool hang() { return m_kind == FuseFat && ::kill(pid_t(m_driver.processId()), SIGSTOP) == 0; }
+    void resume()
+    {
+        if (m_driver.state() == QProcess::Running)
+            ::kill(pid_t(m_driver.processId()), SIGCONT);
+    }
+
     /** For the output of the test: what it ran on. */
     const char *description() const
     {
@@ -69,7 +106,7 @@ public:
         case FuseFat:
             return "on a FAT image, mounted by a driver outside the kernel";
         case Memory:
-            return "on a memory file system, since no FAT image can be mounted here";
+            return "on a memory file system";
         default:
             return "in a plain folder, since nothing can be mounted here";
         }
@@ -78,11 +115,67 @@ public:
 private:
     enum Kind { Fat, FuseFat, Memory, Plain };
 
+    /** A drive that hangs would hold up everybody else who looks at the drives. */
+    static void keepMountsToThisProcess()
+    {
+#ifdef Q_OS_LINUX
+        static const bool alone = ::unshare(CLONE_NEWNS) == 0 &&
+                                  ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        Q_UNUSED(alone)
+#endif
+    }
+
     static bool createImage(const QString &image)
     {
         QFile file(image);
         return file.open(QIODevice::WriteOnly) && file.resize(2 * 1024 * 1024) &&
                run(QStringLiteral("mkfs.vfat"), {image});
+    }
+
+    void mountBest()
+    {
+        const QString image = m_directory.filePath(QStringLiteral("image"));
+        const bool formatted = createImage(image);
+        if (formatted && run(QStringLiteral("mount"),
+                             {QStringLiteral("-t"), QStringLiteral("vfat"), QStringLiteral("-o"),
+                              QStringLiteral("loop"), image, m_path}))
+            m_kind = Fat;
+        else if (formatted && startDriver(image))
+            m_kind = FuseFat;
+        else
+            mountMemory(0);
+    }
+
+    /** \a entries: at most so many, the folder itself included; 0 for no bound. */
+    void mountMemory(int entries)
+    {
+        const QString options = QStringLiteral("size=2m,nr_inodes=%1").arg(entries);
+        if (run(QStringLiteral("mount"),
+                {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"), options,
+                 QStringLiteral("none"), m_path}))
+            m_kind = Memory;
+    }
+
+    bool startDriver(const QString &image)
+    {
+        m_driver.setStandardOutputFile(QProcess::nullDevice());
+        m_driver.setStandardErrorFile(QProcess::nullDevice());
+        m_driver.start(QStringLiteral("fusefat"), {QStringLiteral("-f"), QStringLiteral("-o"),
+                                                   QStringLiteral("rw+"), image, m_path});
+        QDeadlineTimer patience(2000);
+        while (m_driver.state() != QProcess::NotRunning && !patience.hasExpired()) {
+            if (mountNow().path == m_path)
+                return true;
+            m_driver.waitForFinished(5);
+        }
+        m_driver.kill();
+        return false;
+    }
+
+    Mount mountNow() const
+    {
+        const Mount mount = MountTable::holding(m_path, MountTable::mounts());
+        return mount.path == m_path ? mount : Mount();
     }
 
     static bool run(const QString &program, const QStringList &arguments)
@@ -102,5 +195,7 @@ private:
 
     QTemporaryDir m_directory;
     QString m_path;
+    QProcess m_driver;
     Kind m_kind = Plain;
+    Mount m_mount;
 };

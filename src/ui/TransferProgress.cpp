@@ -1,0 +1,56 @@
+#include "ui/TransferProgress.h"
+
+#include "drives/TransferJob.h"
+
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QLocale>
+#include <QTimer>
+
+namespace {
+
+constexpr int RefreshInterval = 50; // milliseconds
+
+QString sizeText(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+}
+
+} // namespace
+
+TransferProgress::TransferProgress(QWidget *parent) : m_dialog(parent)
+{
+    // What was begun is brought to its end.
+    m_dialog.setCancelEnabled(false);
+}
+
+TransferResult TransferProgress::run(const QStringList &sources, const QString &target,
+                                     quint64 device)
+{
+    m_dialog.setSteps(sources.size());
+    m_dialog.show();
+    QEventLoop loop;
+    TransferJob job(sources, target, device);
+    QTimer refresh;
+    QObject::connect(&job, &TransferJob::finished, &loop, &QEventLoop::quit);
+    QObject::connect(&refresh, &QTimer::timeout, &loop, [&] { show(sources, job); });
+    refresh.start(RefreshInterval);
+    job.start();
+    loop.exec();
+    show(sources, job);
+    m_dialog.hide();
+    return job.result();
+}
+
+void TransferProgress::show(const QStringList &sources, const TransferJob &job)
+{
+    const TransferJob::Progress now = job.progress();
+    while (m_shown < now.begun) {
+        const QString name = QFileInfo(sources.at(m_shown++)).fileName();
+        m_dialog.proceed(tr("Copying file %1...").arg(name));
+    }
+    if (now.begun > 0)
+        m_dialog.setDetail(tr("File %1 of %2, %3 of %4")
+                               .arg(QString::number(now.begun), QString::number(sources.size()),
+                                    sizeText(now.bytes), sizeText(now.totalBytes)));
+}
