@@ -21,6 +21,7 @@
 #include "ui/NoticeBar.h"
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
+#include "ui/TransferNotice.h"
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/style/GWidgetStyles.h"
 
@@ -132,6 +133,7 @@ void MainWindow::createPanes()
     m_splitter = new QSplitter(Qt::Horizontal, this);
     m_splitter->setStyleSheet(GWidgetStyles::MainWindow_SplitterStyle());
     m_notices = new NoticeBar(this);
+    m_transferNotice = new TransferNotice(m_notices, this);
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -319,7 +321,9 @@ void MainWindow::exportSelectedFiles()
             .exec();
         return;
     }
-    ExportDialog(this, files).exec();
+    ExportDialog dialog(this, files);
+    if (dialog.exec() == QDialog::Accepted)
+        m_transferNotice->tell(dialog.transferResult(), dialog.drive());
 }
 
 void MainWindow::updateUI()

@@ -17,6 +17,7 @@ class ProgressDialog;
 class Project;
 class ProjectController;
 class RightSidebar;
+class TransferNotice;
 
 /** The one window of the product: owns the catalogue's controller and turns commands into calls. */
 class MainWindow : public GMainWindow
@@ -92,6 +93,7 @@ private:
     ProgressDialog *m_progressDialog = nullptr;
     NoticeBar *m_notices = nullptr;
     PathOpener *m_pathOpener = nullptr;
+    TransferNotice *m_transferNotice = nullptr;
     QSplitter *m_splitter = nullptr;
     LeftSidebar *m_left = nullptr;
     CenterView *m_center = nullptr;
