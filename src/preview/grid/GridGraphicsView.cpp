@@ -1,5 +1,6 @@
 #include "preview/grid/GridGraphicsView.h"
 
+#include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridAccessible.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridNavigation.h"
@@ -220,6 +221,10 @@ void GridGraphicsView::mousePressEvent(QMouseEvent *event)
     m_gridScene->setFocusShown(false);
     const int index = m_gridScene->indexAt(mapToScene(event->pos()));
     const bool onCard = index >= 0 && itemAt(event->pos()) == m_gridScene->cardAt(index);
+    m_drag.forget();
+    if (onCard) {
+        m_drag.begin(event->pos());
+    }
     if (onCard && (event->modifiers() & Qt::ShiftModifier)) {
         // The scene knows no ranges.
         m_gridScene->moveTo(index, selectingWith(event->modifiers()));
@@ -229,6 +234,41 @@ void GridGraphicsView::mousePressEvent(QMouseEvent *event)
         m_gridScene->beginAt(index);
     }
     EditorGraphicsView::mousePressEvent(event);
+}
+
+void GridGraphicsView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_drag.isDue(event)) {
+        m_drag.forget();
+        dragDesigns();
+    } else {
+        EditorGraphicsView::mouseMoveEvent(event);
+    }
+}
+
+void GridGraphicsView::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_drag.forget();
+    EditorGraphicsView::mouseReleaseEvent(event);
+}
+
+void GridGraphicsView::dragDesigns()
+{
+    const int index = m_gridScene->currentIndex();
+    if (index < 0) {
+        return;
+    }
+    // With Ctrl the press has left it as it was.
+    GridEmbroideryItem *card = m_gridScene->cardAt(index);
+    card->setSelected(true);
+    const QList<QSharedPointer<IFile>> files = m_gridScene->selectedFiles();
+    const QPixmap preview = PreviewCache::instance().previewImage(card->file(), nullptr);
+    DesignDrag::run(this, files,
+                    DesignDrag::picture(preview, files.size(), viewport()->devicePixelRatioF()));
+    // The release has gone to whoever the designs were dropped on.
+    if (QGraphicsItem *grabber = m_gridScene->mouseGrabberItem()) {
+        grabber->ungrabMouse();
+    }
 }
 
 void GridGraphicsView::contextMenuEvent(QContextMenuEvent *event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "preview/grid/DesignDrag.h"
 #include "preview/grid/EditorGraphicsView.h"
 #include "preview/grid/GridPreviewScene.h"
 #include <QAccessible>
@@ -36,7 +37,9 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
@@ -50,9 +53,11 @@ private:
     int firstIndexInView() const;
     void showCard(int index);
     void openContextMenu();
+    void dragDesigns();
     void announce(QAccessible::Event type, int index);
 
     GridPreviewScene *m_gridScene = nullptr;
     // Rather than by the mouse, as of the last press.
     bool m_usedByKeys = false;
+    DesignDrag m_drag;
 };

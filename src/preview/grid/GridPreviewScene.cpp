@@ -195,6 +195,11 @@ void GridPreviewScene::onSelectionChanged()
         return;
     }
     QScopedValueRollback<bool> guard(m_inSelectionChange, true);
+    emit filesSelected(selectedFiles());
+}
+
+QList<QSharedPointer<IFile>> GridPreviewScene::selectedFiles() const
+{
     // A few of many cards, as a rule: sorting those is faster than asking all.
     QList<QGraphicsItem *> cards = selectedItems();
     std::sort(cards.begin(), cards.end(), comesBefore);
@@ -203,7 +208,7 @@ void GridPreviewScene::onSelectionChanged()
     for (const QGraphicsItem *card : qAsConst(cards)) {
         selected.append(static_cast<const GridEmbroideryItem *>(card)->file());
     }
-    emit filesSelected(selected);
+    return selected;
 }
 
 void GridPreviewScene::selectFiles(const QList<QSharedPointer<IFile>> &files)

@@ -38,6 +38,9 @@ public:
     /** The card at a point of the sheet; -1 where there is none. */
     int indexAt(const QPointF &pos) const;
 
+    /** Those of the selected cards, in the order of the grid. */
+    QList<QSharedPointer<IFile>> selectedFiles() const;
+
     /** The card that the keys act on, -1 while there is none. */
     int currentIndex() const { return m_current; }
     /**
