@@ -17,6 +17,7 @@
 #include "ui/CatalogueQuestions.h"
 #include "ui/CenterView.h"
 #include "ui/ExportDialog.h"
+#include "ui/FolderChangeNotice.h"
 #include "ui/LeftSidebar.h"
 #include "ui/NoticeBar.h"
 #include "ui/ProgressDialog.h"
@@ -134,6 +135,8 @@ void MainWindow::createPanes()
     m_splitter->setStyleSheet(GWidgetStyles::MainWindow_SplitterStyle());
     m_notices = new NoticeBar(this);
     m_transferNotice = new TransferNotice(m_notices, this);
+    m_folderChanges = new FolderChangeNotice(
+        m_project, m_notices, [this] { rescanDirectories(); }, this);
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -242,9 +245,12 @@ void MainWindow::runWithProgress(const std::function<void()> &operation)
     const QScopedValueRollback<bool> running(m_operationRunning, true);
     m_center->setScanning(true);
     m_keeper->setPaused(true);
-    const auto scanned = qScopeGuard([this] {
+    bool complete = false;
+    m_folderChanges->watcher()->beginScan();
+    const auto scanned = qScopeGuard([&] {
         m_keeper->setPaused(false);
         m_center->setScanning(false);
+        m_folderChanges->watcher()->endScan(complete);
     });
     m_progressDialog->show();
     try {
@@ -254,6 +260,7 @@ void MainWindow::runWithProgress(const std::function<void()> &operation)
     }
     m_keeper->tellKept();
     m_progressDialog->hide();
+    complete = m_progressDialog->abortState() == 0;
 }
 
 void MainWindow::hideStaleProgress()

@@ -8,6 +8,7 @@
 
 class CatalogueKeeper;
 class CenterView;
+class FolderChangeNotice;
 class GToolBar;
 class IFilterModel;
 class LeftSidebar;
@@ -94,6 +95,7 @@ private:
     NoticeBar *m_notices = nullptr;
     PathOpener *m_pathOpener = nullptr;
     TransferNotice *m_transferNotice = nullptr;
+    FolderChangeNotice *m_folderChanges = nullptr;
     QSplitter *m_splitter = nullptr;
     LeftSidebar *m_left = nullptr;
     CenterView *m_center = nullptr;

@@ -2,11 +2,14 @@
 #include "app/frame/GAction.h"
 #include "base/Error.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/watch/FolderWatcher.h"
 #include "preview/grid/PreviewBrowser.h"
 #include "support/DstDesign.h"
 #include "support/MessageBoxes.h"
 #include "ui/EmptyHint.h"
 #include "ui/MainWindow.h"
+#include "ui/NoticeBar.h"
+#include "ui/NoticeRow.h"
 #include "ui/panels/DirectoriesBox.h"
 #include "ui/ProgressDialog.h"
 
@@ -22,6 +25,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
@@ -60,6 +64,7 @@ private slots:
     void closesByKeyAndComesBack();
     void asksWhenTheCatalogueCannotBeUsed_data();
     void asksWhenTheCatalogueCannotBeUsed();
+    void offersARescanWhenAFolderHasChanged();
 
 private:
     void open();
@@ -339,6 +344,29 @@ void tst_mainwindow::closesByKeyAndComesBack()
     HooplineApplication::setWindowFactory([this] { return m_window = new MainWindow; });
     HooplineApplication::instance()->onClickOnDock();
     QVERIFY(m_window && m_window->isVisible());
+}
+
+void tst_mainwindow::offersARescanWhenAFolderHasChanged()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    open();
+    auto *watcher = m_window->findChild<FolderWatcher *>();
+    watcher->setDelay(0);
+    QSignalSpy watched(watcher, &FolderWatcher::folderWatched);
+    m_window->filesDropped({roses});
+    if (watched.isEmpty() && !watched.wait())
+        QSKIP("The system watches no folders.");
+    const QString before = catalogue();
+    createFolder(QStringLiteral("roses"), {QStringLiteral("bud.dst")});
+    const auto *notices = m_window->findChild<NoticeBar *>();
+    QTRY_VERIFY(notices->isVisible());
+    QCOMPARE(notices->findChild<NoticeRow *>()->text(),
+             QStringLiteral("The folder roses has changed."));
+    QCOMPARE(catalogue(), before);
+
+    notices->findChild<QPushButton *>()->click();
+    QVERIFY(catalogue().contains(QStringLiteral("bud.dst")));
+    QVERIFY(!notices->isVisible());
 }
 
 void tst_mainwindow::asksWhenTheCatalogueCannotBeUsed_data()
