@@ -1,12 +1,7 @@
 #include "drives/TransferResult.h"
 
-#include <QCoreApplication>
-
 QString TransferResult::reasonText() const
 {
-    const auto tr = [](const char *text) {
-        return QCoreApplication::translate("TransferResult", text);
-    };
     switch (reason) {
     case None:
         return {};

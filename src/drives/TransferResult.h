@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 /** What became of a transfer; a value. */
 struct TransferResult
 {
+    Q_DECLARE_TR_FUNCTIONS(TransferResult)
+
+public:
     enum Reason {
         None,
         NoSpace,

@@ -315,6 +315,14 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Copying file %1...</source>
         <translation>%1 wird kopiert ...</translation>
     </message>
+    <message>
+        <source>Looking for drives…</source>
+        <translation>Datenträger werden gesucht …</translation>
+    </message>
+    <message>
+        <source>File %1 of %2, %3 of %4</source>
+        <translation>Datei %1 von %2, %3 von %4</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialogUI</name>
@@ -403,6 +411,33 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Apply the filter again</source>
         <translation>Filter erneut anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>FolderChangeNotice</name>
+    <message>
+        <source>Rescan</source>
+        <translation>Neu einlesen</translation>
+    </message>
+    <message>
+        <source>The folder %1 has changed.</source>
+        <translation>Der Ordner %1 hat sich geändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders have changed.</source>
+        <translation>
+            <numerusform>%n Ordner hat sich geändert.</numerusform>
+            <numerusform>%n Ordner haben sich geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the names of folders</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The folders %1 and %2 have changed.</source>
+        <translation>Die Ordner %1 und %2 haben sich geändert.</translation>
     </message>
 </context>
 <context>
@@ -1112,6 +1147,82 @@ Optionen:
     <message>
         <source>remove tag</source>
         <translation>Schlagwort entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>TransferNotice</name>
+    <message>
+        <source>%1 of %2 files were copied to %3.</source>
+        <translation>%1 von %2 Dateien wurden auf %3 kopiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) copied to %1.</source>
+        <translation>
+            <numerusform>%n Datei wurde auf %1 kopiert.</numerusform>
+            <numerusform>%n Dateien wurden auf %1 kopiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them gave way to a later one of the same name.</source>
+        <translation>
+            <numerusform>%n davon ist einer späteren gleichen Namens gewichen.</numerusform>
+            <numerusform>%n davon sind einer späteren gleichen Namens gewichen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 can be taken out now.</source>
+        <translation>%1 kann jetzt entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Eject</source>
+        <translation>Auswerfen</translation>
+    </message>
+    <message>
+        <source>Ejecting %1…</source>
+        <translation>%1 wird ausgeworfen …</translation>
+    </message>
+    <message>
+        <source>another program still uses it.</source>
+        <translation>Ein anderes Programm verwendet den Datenträger noch.</translation>
+    </message>
+    <message>
+        <source>this needs more rights than you have.</source>
+        <translation>Dafür fehlen die nötigen Rechte.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be ejected: %2</source>
+        <translation>%1 kann nicht ausgeworfen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TransferResult</name>
+    <message>
+        <source>There is no space left on the drive.</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The drive has space left, but its top folder cannot hold more files.</source>
+        <translation>Auf dem Datenträger ist noch Platz, aber sein oberster Ordner kann keine weiteren Dateien aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The drive, or the file on it, is write-protected.</source>
+        <translation>Der Datenträger oder die Datei darauf ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The drive&apos;s file system does not allow a file of this name.</source>
+        <translation>Das Dateisystem des Datenträgers lässt keine Datei dieses Namens zu.</translation>
+    </message>
+    <message>
+        <source>The file is no longer in its folder.</source>
+        <translation>Die Datei ist nicht mehr in ihrem Ordner.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Die Datei kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The drive is no longer there.</source>
+        <translation>Der Datenträger ist nicht mehr da.</translation>
     </message>
 </context>
 </TS>

@@ -32,6 +32,16 @@
     </message>
 </context>
 <context>
+    <name>FolderChangeNotice</name>
+    <message numerus="yes">
+        <source>%n folders have changed.</source>
+        <translation>
+            <numerusform>%n folder has changed.</numerusform>
+            <numerusform>%n folders have changed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PathOpener</name>
     <message numerus="yes">
         <source>Add %n folder(s) to your collection?</source>
@@ -92,6 +102,23 @@
         <translation>
             <numerusform>Delete %n unused tag?</numerusform>
             <numerusform>Delete %n unused tags?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TransferNotice</name>
+    <message numerus="yes">
+        <source>%n file(s) copied to %1.</source>
+        <translation>
+            <numerusform>%n file copied to %1.</numerusform>
+            <numerusform>%n files copied to %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them gave way to a later one of the same name.</source>
+        <translation>
+            <numerusform>%n of them gave way to a later one of the same name.</numerusform>
+            <numerusform>%n of them gave way to later ones of the same name.</numerusform>
         </translation>
     </message>
 </context>

@@ -312,6 +312,14 @@ Commands; each has a --help of its own:</source>
         <source>Copying file %1...</source>
         <translation>正在复制 %1…</translation>
     </message>
+    <message>
+        <source>Looking for drives…</source>
+        <translation>正在查找驱动器…</translation>
+    </message>
+    <message>
+        <source>File %1 of %2, %3 of %4</source>
+        <translation>第 %1 个文件，共 %2 个；%3 / %4</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialogUI</name>
@@ -400,6 +408,32 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Apply the filter again</source>
         <translation>重新应用筛选</translation>
+    </message>
+</context>
+<context>
+    <name>FolderChangeNotice</name>
+    <message>
+        <source>Rescan</source>
+        <translation>重新扫描</translation>
+    </message>
+    <message>
+        <source>The folder %1 has changed.</source>
+        <translation>文件夹 %1 已更改。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders have changed.</source>
+        <translation>
+            <numerusform>%n 个文件夹已更改。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the names of folders</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The folders %1 and %2 have changed.</source>
+        <translation>文件夹 %1 和 %2 已更改。</translation>
     </message>
 </context>
 <context>
@@ -1102,6 +1136,80 @@ Options:
     <message>
         <source>remove tag</source>
         <translation>移除标签</translation>
+    </message>
+</context>
+<context>
+    <name>TransferNotice</name>
+    <message>
+        <source>%1 of %2 files were copied to %3.</source>
+        <translation>已将 %2 个文件中的 %1 个复制到 %3。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) copied to %1.</source>
+        <translation>
+            <numerusform>已将 %n 个文件复制到 %1。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them gave way to a later one of the same name.</source>
+        <translation>
+            <numerusform>其中 %n 个被后面的同名文件替换。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 can be taken out now.</source>
+        <translation>现在可以取出 %1。</translation>
+    </message>
+    <message>
+        <source>Eject</source>
+        <translation>弹出</translation>
+    </message>
+    <message>
+        <source>Ejecting %1…</source>
+        <translation>正在弹出 %1…</translation>
+    </message>
+    <message>
+        <source>another program still uses it.</source>
+        <translation>另一个程序仍在使用它。</translation>
+    </message>
+    <message>
+        <source>this needs more rights than you have.</source>
+        <translation>您没有所需的权限。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be ejected: %2</source>
+        <translation>无法弹出 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>TransferResult</name>
+    <message>
+        <source>There is no space left on the drive.</source>
+        <translation>驱动器空间不足。</translation>
+    </message>
+    <message>
+        <source>The drive has space left, but its top folder cannot hold more files.</source>
+        <translation>驱动器还有空间，但其顶层文件夹无法再容纳更多文件。</translation>
+    </message>
+    <message>
+        <source>The drive, or the file on it, is write-protected.</source>
+        <translation>驱动器或其中的文件处于写保护状态。</translation>
+    </message>
+    <message>
+        <source>The drive&apos;s file system does not allow a file of this name.</source>
+        <translation>驱动器的文件系统不允许此文件名。</translation>
+    </message>
+    <message>
+        <source>The file is no longer in its folder.</source>
+        <translation>该文件已不在其文件夹中。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>无法读取该文件。</translation>
+    </message>
+    <message>
+        <source>The drive is no longer there.</source>
+        <translation>驱动器已不存在。</translation>
     </message>
 </context>
 </TS>
