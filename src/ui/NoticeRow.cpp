@@ -76,6 +76,8 @@ void NoticeRow::createButtons()
     for (int i = 0; i < m_actions.size(); ++i) {
         auto *button = new QPushButton(m_actions.at(i).text, this);
         button->setAutoDefault(true);
+        // A click leaves the keyboard where it is; the row may go with it.
+        button->setFocusPolicy(Qt::TabFocus);
         connect(button, &QPushButton::clicked, this, [this, i] {
             // What it does may give the row other actions.
             const auto run = m_actions.at(i).run;

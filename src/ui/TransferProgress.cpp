@@ -1,7 +1,5 @@
 #include "ui/TransferProgress.h"
 
-#include "drives/TransferJob.h"
-
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLocale>
@@ -11,10 +9,8 @@ namespace {
 
 constexpr int RefreshInterval = 50; // milliseconds
 
-QString sizeText(qint64 bytes)
-{
-    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
-}
+constexpr qint64 Kilobyte = 1024;
+constexpr qint64 Megabyte = 1024 * Kilobyte;
 
 } // namespace
 
@@ -50,7 +46,19 @@ void TransferProgress::show(const QStringList &sources, const TransferJob &job)
         m_dialog.proceed(tr("Copying file %1...").arg(name));
     }
     if (now.begun > 0)
-        m_dialog.setDetail(tr("File %1 of %2, %3 of %4")
-                               .arg(QString::number(now.begun), QString::number(sources.size()),
-                                    sizeText(now.bytes), sizeText(now.totalBytes)));
+        m_dialog.setDetail(detail(now, sources.size()));
+}
+
+QString TransferProgress::detail(const TransferJob::Progress &now, int files) const
+{
+    const bool isLarge = now.totalBytes >= Megabyte;
+    const auto size = [isLarge](qint64 bytes) {
+        const QLocale locale;
+        return isLarge ? locale.toString(double(bytes) / Megabyte, 'f', 1)
+                       : locale.toString((bytes + Kilobyte - 1) / Kilobyte);
+    };
+    const QString text =
+        isLarge ? tr("File %1 of %2, %3 of %4 MB") : tr("File %1 of %2, %3 of %4 KB");
+    return text.arg(QString::number(now.begun), QString::number(files), size(now.bytes),
+                    size(now.totalBytes));
 }

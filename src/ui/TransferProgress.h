@@ -1,12 +1,10 @@
 #pragma once
 
-#include "drives/TransferResult.h"
+#include "drives/TransferJob.h"
 #include "ui/ProgressDialog.h"
 
 #include <QCoreApplication>
 #include <QStringList>
-
-class TransferJob;
 
 /**
  * A transfer, shown to the user from its begin to its end: which file of how many, and how
@@ -25,6 +23,7 @@ public:
 
 private:
     void show(const QStringList &sources, const TransferJob &job);
+    QString detail(const TransferJob::Progress &now, int files) const;
 
     ProgressDialog m_dialog;
     int m_shown = 0; ///< files

@@ -320,8 +320,12 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Datenträger werden gesucht …</translation>
     </message>
     <message>
-        <source>File %1 of %2, %3 of %4</source>
-        <translation>Datei %1 von %2, %3 von %4</translation>
+        <source>File %1 of %2, %3 of %4 MB</source>
+        <translation>Datei %1 von %2, %3 von %4 MB</translation>
+    </message>
+    <message>
+        <source>File %1 of %2, %3 of %4 KB</source>
+        <translation>Datei %1 von %2, %3 von %4 KB</translation>
     </message>
 </context>
 <context>

@@ -317,8 +317,12 @@ Commands; each has a --help of its own:</source>
         <translation>正在查找驱动器…</translation>
     </message>
     <message>
-        <source>File %1 of %2, %3 of %4</source>
-        <translation>第 %1 个文件，共 %2 个；%3 / %4</translation>
+        <source>File %1 of %2, %3 of %4 MB</source>
+        <translation>第 %1 个文件，共 %2 个；%3 / %4 MB</translation>
+    </message>
+    <message>
+        <source>File %1 of %2, %3 of %4 KB</source>
+        <translation>第 %1 个文件，共 %2 个；%3 / %4 KB</translation>
     </message>
 </context>
 <context>
