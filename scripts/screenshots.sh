@@ -3,7 +3,7 @@
 # Drives the program under a virtual display over samples/ and saves a picture of
 # every window and state there. The README's and the manual's pictures come from
 # here. Profiles are throw-away; nothing of whoever runs this is touched.
-# The sections, all when none is named: main light dark de zh-CN scales progress crash.
+# The sections, all when none is named: main transfer light dark de zh-CN scales progress crash.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
@@ -13,12 +13,16 @@ mkdir -p "$out"
 out=$(cd "$out" && pwd)
 
 install_missing "${build_packages[@]}" xvfb xdotool x11-utils imagemagick openbox fonts-dejavu-core \
-    fonts-noto-core fonts-noto-cjk
+    fonts-noto-core fonts-noto-cjk dbus dosfstools fusefat
+# The machine's drive is mounted where nobody else sees it.
+if [ -z "${own_mounts:-}" ]; then
+    own_mounts=1 exec unshare --mount $([ "$(id -u)" -eq 0 ] || echo --map-root-user) "$0" "$@"
+fi
 # A build of its own, whose maker's server is the one that this script runs.
 feed_port=18765
 cmake -S "$root" -B "$root/build/pictures" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DHOOPLINE_TESTS=OFF -DHOOPLINE_BASE_URL=http://127.0.0.1:$feed_port >/dev/null
-cmake --build "$root/build/pictures" --target hoopline-organizer hoopline-cli feedback-form
+cmake --build "$root/build/pictures" --target hoopline-organizer hoopline-cli feedback-form drive-service
 bin=$root/build/pictures/bin
 
 # Short, as sockets are named below it.
@@ -273,10 +277,6 @@ main_window_shots() {
     xdotool keydown ctrl; click 620 250; click 860 250; xdotool keyup ctrl
     away
     shot multi-selection
-    click 230 41
-    shot_over transfer
-    key Escape
-
     key ctrl+f
     type_text "ro"
     type_text "s"
@@ -286,6 +286,50 @@ main_window_shots() {
     shot no-match
     key Escape
     stop
+}
+
+# plug_in_drive: the machine's drive, and a service that could eject it.
+plug_in_drive() {
+    mount -t tmpfs none /media
+    mkdir -p /media/anna/MACHINE
+    truncate -s 4G "$work/drive"
+    PATH=$PATH:/usr/sbin mkfs.vfat "$work/drive" >/dev/null
+    fusefat -f -o rw+ "$work/drive" /media/anna/MACHINE >/dev/null 2>&1 &
+    pids+=($!)
+    cat >"$work/bus.conf" <<'BUS'
+<busconfig><type>system</type><listen>unix:tmpdir=/tmp</listen><policy context="default">
+<allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy></busconfig>
+BUS
+    dbus-daemon --config-file="$work/bus.conf" --nofork --print-address >"$work/bus" 2>/dev/null &
+    pids+=($!)
+    sleep 1
+    DBUS_SYSTEM_BUS_ADDRESS=$(cat "$work/bus")
+    export DBUS_SYSTEM_BUS_ADDRESS
+    "$bin/drive-service" &
+    pids+=($!)
+}
+
+transfer_shots() {
+    plug_in_drive
+    use_profile transfer
+    fill_profile
+    start
+    resize 1280 820
+    click 380 250
+    xdotool keydown ctrl; click 620 250; click 860 250; xdotool keyup ctrl
+    click 230 41
+    shot_over transfer
+    key Return
+    sleep 1
+    away
+    shot transfer-done
+    click 1255 79
+    cp "$root/samples/Flowers/rose.dst" "$work/Designs/Flowers/tea rose.dst"
+    sleep 2
+    shot changed-folder
+    rm "$work/Designs/Flowers/tea rose.dst"
+    stop
+    umount -l /media/anna/MACHINE /media
 }
 
 # window_shots SUFFIX ARGUMENT...: what a user meets, in a new profile.
@@ -433,6 +477,7 @@ gather_designs
 use_light
 
 ! wants main || main_window_shots
+! wants transfer || transfer_shots
 ! wants light || window_shots ""
 ! wants dark || dark_shots
 for language in de zh-CN; do
