@@ -75,12 +75,16 @@ void FolderWatcher::lookAgain()
     if (!m_notifier)
         return;
     const QList<Mount> mounts = MountTable::mounts();
+    QStringList missing;
     for (const QString &folder : std::as_const(m_folders)) {
         if (!m_beingWalked.contains(folder) &&
             !m_shared->table.isWatched(QFile::encodeName(folder)) &&
             !isRemote(MountTable::holding(folder, mounts).fileSystemType))
-            watch(folder);
+            missing.append(folder);
     }
+    // Only now: the walks keep the table busy.
+    for (const QString &folder : std::as_const(missing))
+        watch(folder);
 }
 
 void FolderWatcher::watch(const QString &folder)
