@@ -37,13 +37,13 @@ struct Told
 void TestFilterModel::searches()
 {
     Catalogue catalogue;
-    for (const char *path : {"/d/---.pes", "/d/AB.pes", "/d/fabric.dst"})
+    for (const char *path : {"/d/---.pes", "/d/AB.pes", "/d/fabric.dst", "/d/红花.pes"})
         catalogue.add(path);
-    catalogue.add("/d/x.y.pes")->setNotes("for the wedding");
+    catalogue.add("/d/x.y.pes")->setNotes("for the wedding, 바늘 ดอกไม้ はなび");
     FilterModel model(catalogue.project);
-    QCOMPARE(model.filteredFiles().count(), 4);
+    QCOMPARE(model.filteredFiles().count(), 5);
     const QMap<QString, QString> foundByText = {
-        {"", "/d/AB.pes /d/fabric.dst /d/x.y.pes"}, // what has a word boundary
+        {"", "/d/AB.pes /d/fabric.dst /d/x.y.pes /d/红花.pes"}, // what has a word boundary
         {"ab", "/d/AB.pes"},                        // a whole word
         {"ABR", "/d/fabric.dst"},
         {"wedding", "/d/x.y.pes"},
@@ -51,6 +51,11 @@ void TestFilterModel::searches()
         {"/d/", ""},
         {"dst", ""},
         {"...", ""},
+        {"花", "/d/红花.pes"}, // found inside: no blank tells where a word ends
+        {"늘", "/d/x.y.pes"},
+        {"อก", "/d/x.y.pes"},
+        {"なび", "/d/x.y.pes"},
+        {"d", ""},
     };
     for (auto it = foundByText.cbegin(); it != foundByText.cend(); ++it) {
         model.setSearchSubstring(it.key());

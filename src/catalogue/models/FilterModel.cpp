@@ -43,7 +43,7 @@ void FilterModel::setMaxDesignSize(const QSizeF &size)
 
 void FilterModel::setSearchSubstring(const QString &text)
 {
-    m_searchExpression.setText(text);
+    m_search = PlainSearch(text);
     updateFilterListForAllFilesAndEmitChange();
 }
 
@@ -128,7 +128,7 @@ bool FilterModel::matchesFilter(const QSharedPointer<IFile> &file) const
         return false;
     if (m_maxDesignSize.height() >= 0 && size.height() > m_maxDesignSize.height())
         return false;
-    return m_searchExpression.matches(*file);
+    return !m_search || m_search->matches(*file);
 }
 
 void FilterModel::updateFilterListForAllFilesAndEmitChange()

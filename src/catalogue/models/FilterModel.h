@@ -1,9 +1,10 @@
 #pragma once
 
 #include "catalogue/models/IFilterModel.h"
-#include "catalogue/models/SearchExpression.h"
+#include "catalogue/query/PlainSearch.h"
 #include "properties/changes/Observer.h"
 
+#include <optional>
 #include <QHash>
 #include <QSet>
 
@@ -46,7 +47,7 @@ private:
     QString m_directoryFilter;
     QString m_tagFilter;
     QString m_fileType;
-    SearchExpression m_searchExpression;
+    std::optional<PlainSearch> m_search;
     QSizeF m_maxDesignSize{-1, -1};
     bool m_favoritesOnly = false;
     QSet<QSharedPointer<IFile>> m_filteredSet;

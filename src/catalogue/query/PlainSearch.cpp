@@ -1,0 +1,71 @@
+#include "catalogue/query/PlainSearch.h"
+
+#include "catalogue/query/DesignPath.h"
+#include "catalogue/records/IFile.h"
+
+#include <algorithm>
+#include <QVector>
+
+namespace {
+
+constexpr int LongestWholeWord = 2;
+
+bool isWordCharacter(QChar c)
+{
+    return c.isLetterOrNumber() || c.isMark() || c == QLatin1Char('_');
+}
+
+bool isWordBoundary(const QString &text, int position)
+{
+    const bool before = position > 0 && isWordCharacter(text.at(position - 1));
+    const bool after = position < text.length() && isWordCharacter(text.at(position));
+    return before != after;
+}
+
+/** Chinese, Japanese, Korean or Thai: nothing tells where their words begin. */
+bool writesWithoutBlanks(uint codePoint)
+{
+    switch (QChar::script(codePoint)) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+    case QChar::Script_Bopomofo:
+    case QChar::Script_Hangul:
+    case QChar::Script_Thai:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool writesWithoutBlanks(const QString &text)
+{
+    const QVector<uint> codePoints = text.toUcs4();
+    return std::any_of(codePoints.begin(), codePoints.end(),
+                       [](uint codePoint) { return writesWithoutBlanks(codePoint); });
+}
+
+} // namespace
+
+PlainSearch::PlainSearch(const QString &text)
+    : m_matcher(text, Qt::CaseInsensitive),
+      m_wholeWord(text.length() <= LongestWholeWord && !writesWithoutBlanks(text))
+{
+}
+
+bool PlainSearch::matches(const IFile &file) const
+{
+    return isIn(DesignPath::baseName(file.absoluteFilePath())) || isIn(file.notes());
+}
+
+bool PlainSearch::isIn(const QString &text) const
+{
+    const int length = m_matcher.pattern().length();
+    if (length == 0)
+        return std::any_of(text.begin(), text.end(), isWordCharacter);
+    int position = m_matcher.indexIn(text);
+    while (m_wholeWord && position >= 0 &&
+           !(isWordBoundary(text, position) && isWordBoundary(text, position + length)))
+        position = m_matcher.indexIn(text, position + 1);
+    return position >= 0;
+}

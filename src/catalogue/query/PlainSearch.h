@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringMatcher>
+
+class IFile;
+
+/**
+ * Text without fields, held against the base name and the notes of designs without
+ * regard to case. Up to two characters must stand as a whole word, except in scripts
+ * that write without blanks; from three on the text is found inside words too.
+ */
+class PlainSearch
+{
+public:
+    /** An empty text wants a word boundary somewhere. */
+    explicit PlainSearch(const QString &text);
+
+    bool matches(const IFile &file) const;
+
+private:
+    bool isIn(const QString &text) const;
+
+    QStringMatcher m_matcher;
+    bool m_wholeWord;
+};
