@@ -1,4 +1,6 @@
 #include "catalogue/models/FilterModel.h"
+#include "catalogue/query/DuplicateIndex.h"
+#include "catalogue/query/Query.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "LargeCatalogue.h"
 
@@ -15,6 +17,10 @@ private slots:
     void pass();
     void refreshOfAnUnchangedCatalogue();
     void sortAlone();
+    void queryAlone_data();
+    void queryAlone();
+    void sortOrder_data();
+    void sortOrder();
     void tagOfOneFile();
 
 private:
@@ -48,6 +54,9 @@ void BenchFilter::pass_data()
     row("search", [](FilterModel &model, bool on) {
         model.setSearchSubstring(on ? QStringLiteral("flower 77") : QString());
     });
+    row("short search", [](FilterModel &model, bool on) {
+        model.setSearchSubstring(on ? QStringLiteral("77") : QStringLiteral("7"));
+    });
     row("favourites", [](FilterModel &model, bool on) { model.setFavoritesOnly(on); });
 }
 
@@ -79,6 +88,51 @@ void BenchFilter::sortAlone()
     {
         auto sorted = files;
         LocaleAwareFunctions::sort(sorted);
+    }
+}
+
+void BenchFilter::queryAlone_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text :
+         {"flower 77", "77", "tag:flowers", "name:77", "stitches:<9000 fits:130x180", "color:red",
+          "thread:\"Colour 4\"", "is:duplicate", "type:dst width:60..90 -color:blue flower"})
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void BenchFilter::queryAlone()
+{
+    QFETCH(QString, text);
+    const QList<QSharedPointer<IFile>> files = m_project->files();
+    QBENCHMARK
+    {
+        DuplicateIndex duplicates;
+        duplicates.setFiles(files);
+        const Query query = Query::parse(text);
+        int count = 0;
+        for (const QSharedPointer<IFile> &file : files)
+            count += query.matches(*file, duplicates) ? 1 : 0;
+        QVERIFY(count < files.count());
+    }
+}
+
+void BenchFilter::sortOrder_data()
+{
+    QTest::addColumn<int>("key");
+    const QStringList names = SortOrder::keyNames();
+    for (int key = 0; key < names.count(); ++key)
+        QTest::newRow(qPrintable(names.at(key))) << key;
+}
+
+void BenchFilter::sortOrder()
+{
+    QFETCH(int, key);
+    QList<QSharedPointer<IFile>> files = m_project->files();
+    LocaleAwareFunctions::sort(files);
+    const SortOrder order{SortOrder::Key(key), true};
+    QBENCHMARK
+    {
+        QCOMPARE(order.sorted(files).count(), files.count());
     }
 }
 

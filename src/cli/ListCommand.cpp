@@ -2,6 +2,8 @@
 
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
+#include "catalogue/models/SortOrder.h"
+#include "catalogue/query/Query.h"
 #include "catalogue/sync/ProjectController.h"
 #include "cli/CatalogueReport.h"
 #include "cli/CommandError.h"
@@ -10,6 +12,7 @@
 #include "cli/LocalPath.h"
 #include "embroidery/EmbroideryIO.h"
 #include <algorithm>
+#include <optional>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -34,6 +37,33 @@ void expectKnownType(const QString &type)
     if (!types.contains(type, Qt::CaseInsensitive))
         throw UsageError(ListCommand::tr("Unknown type '%1'; there are %2.")
                              .arg(type, types.join(QStringLiteral(", "))));
+}
+
+/** Tells what is odd about the search. @throws UsageError when it is wrong */
+void expectRightQuery(const QString &query)
+{
+    const std::optional<QueryRemark> remark = Query::parse(query).remark();
+    if (!remark)
+        return;
+    if (remark->kind == QueryRemark::Hint) {
+        Console::reportError(remark->message);
+        return;
+    }
+    throw UsageError(
+        ListCommand::tr("The search is wrong at character %1, '%2': %3")
+            .arg(QString::number(remark->position + 1),
+                 query.mid(remark->position, remark->length), remark->message));
+}
+
+/** @throws UsageError when there is no such order */
+SortOrder parseOrder(const QString &text)
+{
+    const auto order = SortOrder::fromText(text);
+    if (!order)
+        throw UsageError(
+            ListCommand::tr("The order must be one of %1, perhaps with :desc behind it.")
+                .arg(SortOrder::keyNames().join(QStringLiteral(", "))));
+    return *order;
 }
 
 bool liesIn(const QString &path, const QString &folder)
@@ -78,9 +108,16 @@ QList<QCommandLineOption> ListCommand::options() const
          QStringLiteral("EXT")},
         {QStringLiteral("max-size"), tr("Only designs that fit into this many millimeters."),
          QStringLiteral("WxH")},
-        {QStringLiteral("search"), tr("Only designs whose file name or notes hold the text."),
-         QStringLiteral("TEXT")},
+        {QStringLiteral("search"),
+         tr("Only designs that match, as in the search field: text in the file name or "
+            "the notes, and fields such as %1. The manual tells them all.")
+             .arg(QStringLiteral("tag:flowers stitches:<10000")),
+         QStringLiteral("QUERY")},
         {QStringLiteral("favorites"), tr("Only favorites.")},
+        {QStringLiteral("sort"),
+         tr("Order by %1; with :desc behind it downwards.")
+             .arg(SortOrder::keyNames().join(QStringLiteral(", "))),
+         QStringLiteral("KEY[:desc]")},
         {QStringLiteral("json"), tr("Print one JSON object per design, a line each.")},
         {QStringLiteral("csv"), tr("Print comma-separated values.")},
     };
@@ -96,6 +133,8 @@ int ListCommand::run(const CommandLine &line) const
     if (line.isSet("type"))
         expectKnownType(line.value("type"));
     const QSizeF maxSize = line.isSet("max-size") ? parseSize(line.value("max-size")) : QSizeF();
+    const SortOrder order = line.isSet("sort") ? parseOrder(line.value("sort")) : SortOrder();
+    expectRightQuery(line.value("search"));
 
     ProjectController controller;
     if (!QFileInfo::exists(controller.projectFilePath()))
@@ -114,12 +153,12 @@ int ListCommand::run(const CommandLine &line) const
         filter.setMaxDesignSize(maxSize);
     filter.setSearchSubstring(line.value("search"));
     filter.setFavoritesOnly(line.isSet("favorites"));
+    filter.setSortOrder(order);
     return print(line, filter.filteredFiles());
 }
 
 int ListCommand::print(const CommandLine &line, const QList<QSharedPointer<IFile>> &files)
 {
-
     StandardOutput output;
     CatalogueReport report(output);
     if (line.isSet("json"))

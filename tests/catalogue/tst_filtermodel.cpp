@@ -10,7 +10,13 @@ class TestFilterModel : public QObject
 
 private slots:
     void searches();
+    void understandsFields();
+    void mistakesLeaveTheDesigns();
     void narrows();
+    void sorts_data();
+    void sorts();
+    void sortedAnewWhenFactsChange();
+    void sortOrderAsText();
     void signalOrder();
     void singleFileChanges();
     void changesOfManyFilesAreToldOnce();
@@ -44,7 +50,7 @@ void TestFilterModel::searches()
     QCOMPARE(model.filteredFiles().count(), 5);
     const QMap<QString, QString> foundByText = {
         {"", "/d/AB.pes /d/fabric.dst /d/x.y.pes /d/红花.pes"}, // what has a word boundary
-        {"ab", "/d/AB.pes"},                        // a whole word
+        {"ab", "/d/AB.pes"},                                    // a whole word
         {"ABR", "/d/fabric.dst"},
         {"wedding", "/d/x.y.pes"},
         {"x.y", "/d/x.y.pes"},
@@ -62,6 +68,50 @@ void TestFilterModel::searches()
         QCOMPARE(it.key() + ": " + Catalogue::paths(model.filteredFiles()),
                  it.key() + ": " + it.value());
     }
+}
+
+void TestFilterModel::understandsFields()
+{
+    Catalogue catalogue;
+    const auto rose = catalogue.add("/d/rose.pes", {"red"});
+    const auto tulip = catalogue.add("/d/tulip.pes", {"red", "done"});
+    FilterModel model(catalogue.project);
+    model.setSearchSubstring("tag:red -tag:done is:duplicate");
+    const Told told(&model);
+    QCOMPARE(model.filteredFiles().count(), 0);
+    // Contents show at the next refresh, tags at once.
+    for (const auto &file : {rose, tulip})
+        file->setContentHash("same");
+    QVERIFY(told.log.isEmpty());
+    model.refreshFilter();
+    tulip->setTags({"red"});
+    QCOMPARE(told.log, QStringList({"/d/rose.pes", "/d/rose.pes /d/tulip.pes"}));
+}
+
+void TestFilterModel::mistakesLeaveTheDesigns()
+{
+    Catalogue catalogue;
+    catalogue.add("/d/rose.pes");
+    catalogue.add("/d/tulip.dst");
+    FilterModel model(catalogue.project);
+    QStringList texts;
+    connect(&model, &IFilterModel::searchTextChanged,
+            [&](const QString &text) { texts << text + (model.searchRemark() ? "!" : ""); });
+    const auto shown = [&](const QString &text) {
+        model.setSearchSubstring(text);
+        return Catalogue::paths(model.filteredFiles());
+    };
+    QCOMPARE(shown("type:dst"), QStringLiteral("/d/tulip.dst"));
+    QCOMPARE(shown("type:dst fits:1x"), QStringLiteral("/d/tulip.dst"));
+    QCOMPARE(model.searchText(), QStringLiteral("type:dst fits:1x"));
+    // What stays is the last search without a mistake, also for what changes meanwhile.
+    model.setFileType("pes");
+    QVERIFY(model.filteredFiles().isEmpty());
+    model.setFileType(QString());
+    QCOMPARE(shown("is:dst"), QStringLiteral("/d/tulip.dst"));
+    QCOMPARE(shown("is:dst"), QStringLiteral("/d/tulip.dst"));
+    QCOMPARE(shown("is:"), QStringLiteral("/d/rose.pes /d/tulip.dst"));
+    QCOMPARE(texts, QStringList({"type:dst", "type:dst fits:1x!", "is:dst!", "is:!"}));
 }
 
 void TestFilterModel::narrows()
@@ -87,6 +137,80 @@ void TestFilterModel::narrows()
     model.setMaxDesignSize({-1, -1});
     model.setTag("red");
     QCOMPARE(shown(), QStringLiteral("/a/2.pes"));
+}
+
+void TestFilterModel::sorts_data()
+{
+    QTest::addColumn<QString>("order");
+    QTest::addColumn<QString>("names");
+    const auto row = [](const char *order, const char *names) {
+        QTest::newRow(order) << order << names;
+    };
+    row("name", "2 10 b-c/1 b/3 b/x/4");
+    row("name:desc", "b/x/4 b/3 b-c/1 10 2");
+    row("size", "2 10 b/x/4 b/3 b-c/1");
+    row("size:desc", "b/3 2 10 b/x/4 b-c/1"); // equal ones stay, the unknown one too
+    row("stitches", "b/x/4 b/3 10 2 b-c/1");
+    row("stitches:desc", "2 10 b/3 b/x/4 b-c/1");
+    row("colors:asc", "2 b/3 b/x/4 10 b-c/1");
+    row("date:DESC", "b/3 10 2 b-c/1 b/x/4");
+    row("folder", "2 10 b/3 b-c/1 b/x/4");
+}
+
+void TestFilterModel::sorts()
+{
+    Catalogue catalogue;
+    const auto add = [&](const char *path, const QSizeF &size, int stitches, int threads,
+                         int date) {
+        const auto file = catalogue.add(QLatin1String("/a/") + path);
+        file->setDesignSize(size);
+        file->setStitchCount(stitches);
+        file->setModificationDate(unsigned(date));
+        QList<QSharedPointer<IThread>> list;
+        for (int i = 0; i < threads; ++i)
+            list << QSharedPointer<Thread>::create(catalogue.project.data());
+        file->setThreads(list);
+    };
+    add("2", {10, 20}, 300, 0, 20);
+    add("10", {20, 10}, 200, 3, 30);
+    add("b/3", {100, 100}, 100, 1, 40);
+    add("b-c/1", {-1, -1}, 0, 0, 0);
+    add("b/x/4", {200, 1}, 7, 2, 0);
+    FilterModel model(catalogue.project);
+    QFETCH(QString, order);
+    const auto sortOrder = SortOrder::fromText(order);
+    QVERIFY(sortOrder);
+    model.setSortOrder(*sortOrder);
+    QTEST(Catalogue::paths(model.filteredFiles()).remove("/a/"), "names");
+}
+
+void TestFilterModel::sortedAnewWhenFactsChange()
+{
+    Catalogue catalogue;
+    const auto a = catalogue.add("/a");
+    const auto b = catalogue.add("/b");
+    a->setStitchCount(1);
+    b->setStitchCount(2);
+    FilterModel model(catalogue.project);
+    const Told told(&model);
+    model.setSortOrder({SortOrder::Stitches, true});
+    model.setSortOrder({SortOrder::Stitches, true});
+    a->setStitchCount(3);
+    model.refreshFilter();
+    catalogue.add("/c")->setStitchCount(4);
+    QCOMPARE(Catalogue::paths(model.filteredFiles()), QStringLiteral("/a /b /c"));
+    model.refreshFilter();
+    QCOMPARE(told.log, QStringList({"/b /a", "/a /b", "/a /b /c", "/c /a /b"}));
+}
+
+void TestFilterModel::sortOrderAsText()
+{
+    for (const QString &name : SortOrder::keyNames()) {
+        for (const QString &text : {name, name + ":desc"})
+            QCOMPARE(SortOrder::fromText(text).value().toText(), text);
+    }
+    for (const char *text : {"", "names", "name:", "name:down", ":desc", "desc", "name:desc:desc"})
+        QVERIFY2(!SortOrder::fromText(text), text);
 }
 
 void TestFilterModel::signalOrder()

@@ -23,6 +23,7 @@ private slots:
     void narrowsAsTheGrid_data();
     void narrowsAsTheGrid();
     void tellsAllAboutRecords();
+    void tellsWhereTheSearchIsWrong();
     void quotesCsv();
     void printsTable();
     void showsAllToPeople_data();
@@ -76,6 +77,11 @@ void CliListTest::narrowsAsTheGrid_data()
     QTest::newRow("height") << QStringList{"--max-size", "6x5.9"} << QStringList{"Two"};
     QTest::newRow("search") << QStringList{"--search", "ITEM"} << QStringList{"Two", "Ten"};
     QTest::newRow("search notes") << QStringList{"--search", "lines"} << QStringList{"Rose"};
+    QTest::newRow("fields") << QStringList{"--search", "tag:RED -name:two width:<=10 lines"}
+                            << QStringList{"Rose"};
+    QTest::newRow("duplicates") << QStringList{"--search", "is:duplicate"} << QStringList{};
+    QTest::newRow("sorted") << QStringList{"--sort", "size:desc"}
+                            << QStringList{"Rose", "Ten", "Two"};
     QTest::newRow("favourites") << QStringList{"--favorites"} << QStringList{"Ten"};
     QTest::newRow("together") << QStringList{"--favorites", "--search", "item2"} << QStringList{};
 }
@@ -107,6 +113,16 @@ void CliListTest::tellsAllAboutRecords()
     QCOMPARE(rose.value("notes").toString(), QStringLiteral("two\nlines"));
     QCOMPARE(rose.value("favorite").toBool(true), false);
     QCOMPARE(rose.value("threads").toArray().size(), 2);
+}
+
+void CliListTest::tellsWhereTheSearchIsWrong()
+{
+    const auto wrong = m_cli.run({"list", "--search", "rose is:fav"});
+    QVERIFY2(wrong.error.contains("character 6, 'is:fav': "), wrong.error);
+    // What is only likely to be a mistake is searched as text.
+    const auto hint = m_cli.run({"list", "--json", "--search", "stiches:<9"});
+    QCOMPARE(hint.status, 0);
+    QVERIFY2(hint.error.contains("'stitches:'"), hint.error);
 }
 
 void CliListTest::quotesCsv()

@@ -63,6 +63,9 @@ void CliUsageTest::refusesWrongUsage_data()
     QTest::newRow("two forms") << QStringList{"list", "--json", "--csv"};
     QTest::newRow("bad size") << QStringList{"list", "--max-size", "100"};
     QTest::newRow("negative size") << QStringList{"list", "--max-size", "-1x5"};
+    QTest::newRow("mistake in the search") << QStringList{"list", "--search", "rose fits:1x"};
+    QTest::newRow("unfinished search") << QStringList{"list", "--search", "tag:"};
+    QTest::newRow("unknown order") << QStringList{"list", "--sort", "beauty"};
     QTest::newRow("empty folder") << QStringList{"list", "--folder", ""};
 }
 

@@ -43,13 +43,30 @@ void FilterModel::setMaxDesignSize(const QSizeF &size)
 
 void FilterModel::setSearchSubstring(const QString &text)
 {
-    m_search = PlainSearch(text);
-    updateFilterListForAllFilesAndEmitChange();
+    const Query query = Query::parse(text);
+    const bool changed = text != m_searchText;
+    m_searchText = text;
+    m_searchRemark = query.remark();
+    if (query.isValid()) {
+        m_query = query;
+        updateFilterListForAllFilesAndEmitChange();
+    }
+    if (changed)
+        emit searchTextChanged(text);
 }
 
 void FilterModel::setFavoritesOnly(bool favoritesOnly)
 {
     m_favoritesOnly = favoritesOnly;
+    updateFilterListForAllFilesAndEmitChange();
+}
+
+void FilterModel::setSortOrder(const SortOrder &order)
+{
+    if (order == m_sortOrder)
+        return;
+    m_sortOrder = order;
+    m_orderIsValid = false;
     updateFilterListForAllFilesAndEmitChange();
 }
 
@@ -74,18 +91,31 @@ QList<QSharedPointer<IFile>> FilterModel::filteredFiles() const
 
 const QList<QSharedPointer<IFile>> &FilterModel::orderedFiles() const
 {
+    if (!m_nameOrderIsValid) {
+        m_filesByName = m_watchedFiles;
+        LocaleAwareFunctions::sort(m_filesByName);
+        m_nameOrderIsValid = true;
+    }
     if (!m_orderIsValid) {
-        m_orderedFiles = m_watchedFiles;
-        LocaleAwareFunctions::sort(m_orderedFiles);
+        m_orderedFiles = m_sortOrder.sorted(m_filesByName);
         m_orderIsValid = true;
     }
     return m_orderedFiles;
+}
+
+void FilterModel::forgetOrder()
+{
+    m_nameOrderIsValid = false;
+    m_orderIsValid = false;
+    m_filteredFilesAreValid = false;
 }
 
 void FilterModel::observedObjectChanged(const Observable *observable)
 {
     if (observable == m_project->filesProp()) {
         watchFiles();
+        // What was read anew isn't where it belongs any more; the names are watched.
+        m_orderIsValid = false;
         updateFilterListForAllFilesAndEmitChange();
         return;
     }
@@ -95,11 +125,12 @@ void FilterModel::observedObjectChanged(const Observable *observable)
 void FilterModel::watchFiles()
 {
     const QList<QSharedPointer<IFile>> files = m_project->files();
+    // Counts anew: the contents may have changed.
+    m_duplicates.setFiles(files);
     if (files == m_watchedFiles)
         return;
     m_watchedFiles = files;
-    m_orderIsValid = false;
-    m_filteredFilesAreValid = false;
+    forgetOrder();
     m_observedProperties.clear();
     m_observedProperties.reserve(3 * files.count());
     for (const QSharedPointer<IFile> &file : files) {
@@ -128,7 +159,7 @@ bool FilterModel::matchesFilter(const QSharedPointer<IFile> &file) const
         return false;
     if (m_maxDesignSize.height() >= 0 && size.height() > m_maxDesignSize.height())
         return false;
-    return !m_search || m_search->matches(*file);
+    return m_query.matches(*file, m_duplicates);
 }
 
 void FilterModel::updateFilterListForAllFilesAndEmitChange()
@@ -162,10 +193,8 @@ bool FilterModel::updateFilterListForSingleFile(const Observable *property)
     const QSharedPointer<IFile> file = m_observedProperties.value(property);
     if (!file)
         return false;
-    if (property == file->absoluteFilePathProp()) {
-        m_orderIsValid = false;
-        m_filteredFilesAreValid = false;
-    }
+    if (property == file->absoluteFilePathProp())
+        forgetOrder();
     const bool wasIn = m_filteredSet.contains(file);
     const bool isIn = matchesFilter(file);
     if (wasIn == isIn)

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "catalogue/models/IFilterModel.h"
-#include "catalogue/query/PlainSearch.h"
+#include "catalogue/query/DuplicateIndex.h"
+#include "catalogue/query/Query.h"
 #include "properties/changes/Observer.h"
 
-#include <optional>
 #include <QHash>
 #include <QSet>
 
@@ -32,11 +32,16 @@ public:
     QString directoryFilter() const override { return m_directoryFilter; }
     QString tagFilter() const override { return m_tagFilter; }
     QList<QSharedPointer<IFile>> filteredFiles() const override;
+    QString searchText() const override { return m_searchText; }
+    std::optional<QueryRemark> searchRemark() const override { return m_searchRemark; }
+    void setSortOrder(const SortOrder &order) override;
+    SortOrder sortOrder() const override { return m_sortOrder; }
 
     void observedObjectChanged(const Observable *observable) override;
 
 private:
     void watchFiles();
+    void forgetOrder();
     bool matchesFilter(const QSharedPointer<IFile> &file) const;
     void updateFilterListForAllFilesAndEmitChange();
     void updateFilterListForSingleFileAndEmitChange(const Observable *property);
@@ -47,14 +52,22 @@ private:
     QString m_directoryFilter;
     QString m_tagFilter;
     QString m_fileType;
-    std::optional<PlainSearch> m_search;
+    QString m_searchText;
+    std::optional<QueryRemark> m_searchRemark;
+    /** The last one without a mistake. */
+    Query m_query;
+    DuplicateIndex m_duplicates;
     QSizeF m_maxDesignSize{-1, -1};
     bool m_favoritesOnly = false;
     QSet<QSharedPointer<IFile>> m_filteredSet;
     QHash<const Observable *, QSharedPointer<IFile>> m_observedProperties;
     QList<QSharedPointer<IFile>> m_watchedFiles;
 
+    SortOrder m_sortOrder;
+
     // Put in order only when somebody asks after a change.
+    mutable QList<QSharedPointer<IFile>> m_filesByName;
+    mutable bool m_nameOrderIsValid = false;
     mutable QList<QSharedPointer<IFile>> m_orderedFiles;
     mutable bool m_orderIsValid = false;
     mutable QList<QSharedPointer<IFile>> m_filteredFiles;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "catalogue/models/SortOrder.h"
+#include "catalogue/query/QueryRemark.h"
 #include "catalogue/records/IFile.h"
 
+#include <optional>
 #include <QList>
 #include <QObject>
 #include <QSharedPointer>
@@ -29,8 +32,8 @@ public:
     virtual void setMaxDesignSize(const QSizeF &size) = 0;
 
     /**
-     * Only designs whose base name or notes hold @p text in any case; up to two
-     * characters must stand as a whole word.
+     * Only designs that match the query @p text; a plain one is looked for in the base
+     * name and the notes. A text with a mistake leaves the designs as they are.
      */
     virtual void setSearchSubstring(const QString &text) = 0;
 
@@ -42,14 +45,25 @@ public:
     virtual QString directoryFilter() const = 0;
     virtual QString tagFilter() const = 0;
 
-    /** The designs that pass, in natural order of their paths. */
+    /** The designs that pass, in the order that is set. */
     virtual QList<QSharedPointer<IFile>> filteredFiles() const = 0;
 
+    /** The search as it was set last, also when it holds a mistake. */
+    virtual QString searchText() const = 0;
+
+    /** What is to be said about the search text. */
+    virtual std::optional<QueryRemark> searchRemark() const = 0;
+
+    /** By name when nothing else is set. */
+    virtual void setSortOrder(const SortOrder &order) = 0;
+    virtual SortOrder sortOrder() const = 0;
+
 signals:
-    /** The set of designs that pass has changed to @p files, in order. */
+    /** The designs that pass, or their order, have changed to @p files. */
     void filterChanged(QList<QSharedPointer<IFile>> files);
 
     /** Comes after filterChanged(). */
     void directoryFilterChanged(const QString &path);
     void tagFilterChanged(const QString &tag);
+    void searchTextChanged(const QString &text);
 };

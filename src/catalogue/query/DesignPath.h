@@ -1,21 +1,26 @@
 #pragma once
 
-#include <QString>
+#include <QStringView>
 
-/** Parts of a design's path as QFileInfo has them, without the cost of making one. */
+/**
+ * Parts of a design's path as QFileInfo has them, without the cost of making one. They are
+ * views: the path must outlive them.
+ */
 namespace DesignPath {
 
 /** The file's name up to its last dot. */
-inline QString baseName(const QString &path)
+inline QStringView baseName(QStringView path)
 {
-    const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-    return name.left(name.lastIndexOf(QLatin1Char('.')));
+    const QStringView name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    const auto dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot < 0 ? name : name.left(dot);
 }
 
 /** The folder that the file lies in, without a slash at its end. */
-inline QString folder(const QString &path)
+inline QStringView folder(QStringView path)
 {
-    return path.left(path.lastIndexOf(QLatin1Char('/')));
+    const auto slash = path.lastIndexOf(QLatin1Char('/'));
+    return slash < 0 ? QStringView() : path.left(slash);
 }
 
 } // namespace DesignPath

@@ -15,10 +15,10 @@ bool isWordCharacter(QChar c)
     return c.isLetterOrNumber() || c.isMark() || c == QLatin1Char('_');
 }
 
-bool isWordBoundary(const QString &text, int position)
+bool isWordBoundary(QStringView text, qsizetype position)
 {
     const bool before = position > 0 && isWordCharacter(text.at(position - 1));
-    const bool after = position < text.length() && isWordCharacter(text.at(position));
+    const bool after = position < text.size() && isWordCharacter(text.at(position));
     return before != after;
 }
 
@@ -48,24 +48,24 @@ bool writesWithoutBlanks(const QString &text)
 } // namespace
 
 PlainSearch::PlainSearch(const QString &text)
-    : m_matcher(text, Qt::CaseInsensitive),
+    : m_matcher(text, Qt::CaseInsensitive), m_length(text.length()),
       m_wholeWord(text.length() <= LongestWholeWord && !writesWithoutBlanks(text))
 {
 }
 
 bool PlainSearch::matches(const IFile &file) const
 {
-    return isIn(DesignPath::baseName(file.absoluteFilePath())) || isIn(file.notes());
+    const QString path = file.absoluteFilePath();
+    return isIn(DesignPath::baseName(path)) || isIn(file.notes());
 }
 
-bool PlainSearch::isIn(const QString &text) const
+bool PlainSearch::isIn(QStringView text) const
 {
-    const int length = m_matcher.pattern().length();
-    if (length == 0)
+    if (m_length == 0)
         return std::any_of(text.begin(), text.end(), isWordCharacter);
-    int position = m_matcher.indexIn(text);
+    auto position = m_matcher.indexIn(text);
     while (m_wholeWord && position >= 0 &&
-           !(isWordBoundary(text, position) && isWordBoundary(text, position + length)))
+           !(isWordBoundary(text, position) && isWordBoundary(text, position + m_length)))
         position = m_matcher.indexIn(text, position + 1);
     return position >= 0;
 }

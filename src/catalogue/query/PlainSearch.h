@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringMatcher>
+#include <QStringView>
 
 class IFile;
 
@@ -19,8 +20,9 @@ public:
     bool matches(const IFile &file) const;
 
 private:
-    bool isIn(const QString &text) const;
+    bool isIn(QStringView text) const;
 
     QStringMatcher m_matcher;
+    qsizetype m_length;
     bool m_wholeWord;
 };

@@ -52,7 +52,8 @@ Condition Conditions::name(const QString &value, const QDateTime &)
 {
     const QStringMatcher matcher(value, Qt::CaseInsensitive);
     return [matcher](const IFile &file, const DuplicateIndex &) {
-        return matcher.indexIn(DesignPath::baseName(file.absoluteFilePath())) >= 0 ||
+        const QString path = file.absoluteFilePath();
+        return matcher.indexIn(DesignPath::baseName(path)) >= 0 ||
                matcher.indexIn(file.name()) >= 0;
     };
 }
@@ -61,7 +62,8 @@ Condition Conditions::folder(const QString &value, const QDateTime &)
 {
     const QStringMatcher matcher(value, Qt::CaseInsensitive);
     return [matcher](const IFile &file, const DuplicateIndex &) {
-        return matcher.indexIn(DesignPath::folder(file.absoluteFilePath())) >= 0;
+        const QString path = file.absoluteFilePath();
+        return matcher.indexIn(DesignPath::folder(path)) >= 0;
     };
 }
 
