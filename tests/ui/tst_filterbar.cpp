@@ -4,10 +4,13 @@
 #include "catalogue/models/FilterModel.h"
 #include "ui/panels/FilterBar.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 #include <QVBoxLayout>
@@ -23,6 +26,13 @@ private slots:
     void sizeInMillimetres();
     void switchingUnitsResets();
     void searchByShortcutAndEscape();
+    void tellsMistakesUnderTheField();
+    void showsWhatIsSearchedFromElsewhere();
+    void tabCompletesTheOnlyCandidate_data();
+    void tabCompletesTheOnlyCandidate();
+    void tabOffersCandidates();
+    void tabMovesOnWhenNothingFits();
+    void helpLeadsToFields();
     void favoritesByKeyboard();
     void clearLetsAllPass();
     void twoRowsWhenNarrow();
@@ -127,6 +137,115 @@ void tst_filterbar::searchByShortcutAndEscape()
     search->setText(QStringLiteral("tulip"));
     QTest::mouseClick(child<QToolButton>("clearTextButton"), Qt::LeftButton);
     QCOMPARE(shown(), 3);
+}
+
+void tst_filterbar::tellsMistakesUnderTheField()
+{
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    auto *message = child<QLabel>("searchMessage");
+    search->setFocus();
+    QTest::keyClicks(search, QStringLiteral("type:dst is:r"));
+    QCOMPARE(shown(), 1);
+    QTRY_VERIFY(message->isVisible());
+    QVERIFY(message->y() >= search->geometry().bottom());
+    QVERIFY(message->text().contains(QStringLiteral("'r'")));
+    QCOMPARE(search->accessibleDescription(), message->text());
+    QTest::keyClick(search, Qt::Key_Return);
+    QCOMPARE(search->selectedText(), QStringLiteral("is:r"));
+    QTest::keyClick(search, Qt::Key_Delete);
+    QVERIFY(!message->isVisible());
+    QVERIFY(search->accessibleDescription().isEmpty());
+}
+
+void tst_filterbar::showsWhatIsSearchedFromElsewhere()
+{
+    m_filter->setSearchSubstring(QStringLiteral("type:pes"));
+    QCOMPARE(child<QLineEdit>("searchTextLineEdit")->text(), QStringLiteral("type:pes"));
+    QCOMPARE(shown(), 2);
+}
+
+void tst_filterbar::tabCompletesTheOnlyCandidate_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("completed");
+    QTest::newRow("field") << "rose sti"
+                           << "rose stitches:";
+    QTest::newRow("tag") << "-tag:RED"
+                         << "-tag:red ";
+    QTest::newRow("tag of two words") << "tag:to"
+                                      << "tag:\"to do\" ";
+    QTest::newRow("tag in quotation marks") << "tag:\"t"
+                                            << "tag:\"to do\" ";
+    QTest::newRow("state") << "is:d"
+                           << "is:duplicate ";
+}
+
+void tst_filterbar::tabCompletesTheOnlyCandidate()
+{
+    m_project->setAllTags({"red", "to do", "flowers", "flow chart"});
+    QFETCH(QString, typed);
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    search->setFocus();
+    QTest::keyClicks(search, typed);
+    QTest::keyClick(search, Qt::Key_Tab);
+    QTEST(search->text(), "completed");
+    QVERIFY(search->hasFocus());
+}
+
+void tst_filterbar::tabOffersCandidates()
+{
+    m_project->setAllTags({"red", "to do", "flowers", "flow chart"});
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    search->setFocus();
+    QTest::keyClicks(search, QStringLiteral("tag:f"));
+    QTest::keyClick(search, Qt::Key_Tab);
+    QCOMPARE(search->text(), QStringLiteral("tag:flow"));
+    auto *list = qobject_cast<QAbstractItemView *>(QApplication::activePopupWidget());
+    QVERIFY(list);
+    QCOMPARE(list->model()->rowCount(), 2);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(search->text(), QStringLiteral("tag:flowers "));
+
+    // Typing on narrows what is offered.
+    search->setText(QStringLiteral("tag:flow"));
+    QTest::keyClick(search, Qt::Key_Tab);
+    QCOMPARE(list->model()->rowCount(), 2);
+    QTest::keyClicks(list, QStringLiteral("e"));
+    QCOMPARE(search->text(), QStringLiteral("tag:flowe"));
+    QCOMPARE(list->model()->rowCount(), 1);
+    QTest::keyClick(list, Qt::Key_Tab);
+    QCOMPARE(search->text(), QStringLiteral("tag:flowers "));
+    QVERIFY(!list->isVisible());
+}
+
+void tst_filterbar::tabMovesOnWhenNothingFits()
+{
+    m_project->setAllTags({"red"});
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    for (const char *text : {"", "rose", "tag:x", "tag:red", "12:30"}) {
+        search->setFocus();
+        search->setText(QLatin1String(text));
+        QTest::keyClick(search, Qt::Key_Tab);
+        QVERIFY2(child<QToolButton>("clearTextButton")->hasFocus(), text);
+        QCOMPARE(search->text(), QLatin1String(text));
+    }
+}
+
+void tst_filterbar::helpLeadsToFields()
+{
+    auto *search = child<QLineEdit>("searchTextLineEdit");
+    auto *button = child<QToolButton>("searchHelpButton");
+    search->setText(QStringLiteral("rose"));
+    button->setFocus();
+    QTimer::singleShot(0, this, [button] {
+        QMenu *menu = button->menu();
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::keyClick(button, Qt::Key_Space); // returns when the menu has closed
+    QCOMPARE(search->text(), QStringLiteral("rose tag:"));
+    QCOMPARE(m_window->focusWidget(), search);
 }
 
 void tst_filterbar::favoritesByKeyboard()

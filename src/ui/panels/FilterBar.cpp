@@ -3,7 +3,11 @@
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
 #include "catalogue/models/IFilterModel.h"
+#include "catalogue/records/Project.h"
 #include "embroidery/EmbroideryIO.h"
+#include "ui/panels/SearchCompleter.h"
+#include "ui/panels/SearchHelpMenu.h"
+#include "ui/panels/SearchMessage.h"
 #include "ui_FilterBarUI.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
@@ -37,11 +41,12 @@ QStringList millimetreSizes()
 
 } // namespace
 
-FilterBar::FilterBar(QWidget *parent, const QSharedPointer<Project> &, IFilterModel *filter)
+FilterBar::FilterBar(QWidget *parent, const QSharedPointer<Project> &project, IFilterModel *filter)
     : QWidget(parent), m_ui(std::make_unique<Ui_FilterBarUI>()), m_filter(filter)
 {
     m_ui->setupUi(this);
     initWidgets();
+    createSearchAids(project);
     connectWidgets();
     createShortcut();
     updateFileTypes();
@@ -56,7 +61,8 @@ void FilterBar::initWidgets()
     m_ui->favoritesButton->setIcon(GIcon(QStringLiteral(":/icons/small_favorite_off.svg"),
                                          QStringLiteral(":/icons/small_favorite_on.svg")));
     m_ui->refreshButton->setIcon(GIcon(QStringLiteral(":/icons/small_refresh.svg")));
-    for (QToolButton *button : {m_ui->clearTextButton, m_ui->favoritesButton, m_ui->refreshButton})
+    m_ui->searchHelpButton->setIcon(GIcon(QStringLiteral(":/icons/small_help.svg")));
+    for (QToolButton *button : buttons())
         button->setStyleSheet(WidgetStyles::ToolButton_FlatStyle());
     for (QComboBox *box : {m_ui->widthCombobox, m_ui->heightCombobox}) {
         // Completing what is typed would turn a 10 into the 100 of the list.
@@ -76,6 +82,8 @@ void FilterBar::connectWidgets()
     connect(m_ui->heightCombobox, &QComboBox::currentTextChanged, this, &FilterBar::setSizeFilter);
     connect(m_ui->searchTextLineEdit, &QLineEdit::textChanged, this,
             &FilterBar::setSearchTextFilter);
+    connect(m_ui->searchTextLineEdit, &QLineEdit::returnPressed, this, &FilterBar::selectRemark);
+    connect(m_filter, &IFilterModel::searchTextChanged, this, &FilterBar::showSearch);
     connect(m_ui->favoritesButton, &QToolButton::clicked, m_filter,
             &IFilterModel::setFavoritesOnly);
     connect(m_ui->refreshButton, &QToolButton::clicked, m_filter, &IFilterModel::refreshFilter);
@@ -84,6 +92,17 @@ void FilterBar::connectWidgets()
     if (HooplineApplication *application = HooplineApplication::instance())
         connect(application, &HooplineApplication::syncGlobalSettings, this,
                 &FilterBar::updateSizeWidgets);
+}
+
+void FilterBar::createSearchAids(const QSharedPointer<Project> &project)
+{
+    new SearchCompleter(m_ui->searchTextLineEdit, [project] { return project->allTags(); });
+    auto *help = new SearchHelpMenu(this);
+    m_ui->searchHelpButton->setMenu(help);
+    connect(help, &SearchHelpMenu::fieldChosen, this, &FilterBar::addFieldToSearch);
+    m_message = new SearchMessage(this);
+    m_message->setObjectName(QStringLiteral("searchMessage"));
+    m_ui->rows->addWidget(m_message);
 }
 
 void FilterBar::createShortcut()
@@ -124,6 +143,36 @@ void FilterBar::setSearchTextFilter(const QString &text)
     m_filter->setSearchSubstring(text);
 }
 
+void FilterBar::showSearch(const QString &text)
+{
+    QLineEdit *field = m_ui->searchTextLineEdit;
+    if (field->text() != text)
+        field->setText(text);
+    m_message->setRemark(m_filter->searchRemark(), field);
+}
+
+void FilterBar::selectRemark()
+{
+    if (const auto remark = m_filter->searchRemark())
+        m_ui->searchTextLineEdit->setSelection(remark->position, remark->length);
+}
+
+void FilterBar::addFieldToSearch(const QString &name)
+{
+    QLineEdit *field = m_ui->searchTextLineEdit;
+    const QString text = field->text();
+    const bool needsBlank = !text.isEmpty() && !text.back().isSpace();
+    field->setFocus(Qt::OtherFocusReason);
+    field->end(false);
+    field->insert((needsBlank ? QStringLiteral(" ") : QString()) + name + QLatin1Char(':'));
+}
+
+QList<QToolButton *> FilterBar::buttons() const
+{
+    return {m_ui->clearTextButton, m_ui->searchHelpButton, m_ui->favoritesButton,
+            m_ui->refreshButton};
+}
+
 void FilterBar::updateSizeWidgets()
 {
     m_ui->widthCombobox->clear();
@@ -161,6 +210,8 @@ void FilterBar::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     setTwoRows(width() < widthOfOneRow());
+    layout()->activate();
+    m_message->setTextIndent(m_ui->searchTextLineEdit->x() - layout()->contentsMargins().left());
 }
 
 bool FilterBar::eventFilter(QObject *watched, QEvent *event)
@@ -178,8 +229,7 @@ int FilterBar::minimumWidthOfSearchRow() const
     int width = m_ui->horizontalLayout_2->minimumSize().width() +
                 m_ui->horizontalLayout_5->spacing() +
                 m_ui->searchTextLineEdit->minimumSizeHint().width();
-    for (const QToolButton *button :
-         {m_ui->clearTextButton, m_ui->favoritesButton, m_ui->refreshButton})
+    for (const QToolButton *button : buttons())
         width += button->sizeHint().expandedTo(button->minimumSize()).width() +
                  m_ui->horizontalLayout_3->spacing();
     return width;
@@ -219,8 +269,9 @@ void FilterBar::setTwoRows(bool twoRows)
 void FilterBar::updateTabOrder()
 {
     const QWidgetList sizes{m_ui->widthCombobox, m_ui->heightCombobox};
-    const QWidgetList search{m_ui->searchTextLineEdit, m_ui->clearTextButton, m_ui->favoritesButton,
-                             m_ui->refreshButton};
+    QWidgetList search{m_ui->searchTextLineEdit};
+    for (QToolButton *button : buttons())
+        search.append(button);
     QWidget *previous = m_ui->fileTypeCombobox;
     const QWidgetList order = m_twoRows ? search + sizes : sizes + search;
     for (QWidget *widget : order) {

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <QList>
 #include <QSharedPointer>
 #include <QWidget>
 
 class IFilterModel;
 class Project;
+class QToolButton;
+class SearchMessage;
 class Ui_FilterBarUI;
 
 /**
@@ -39,6 +42,11 @@ protected:
 private:
     void initWidgets();
     void connectWidgets();
+    void createSearchAids(const QSharedPointer<Project> &project);
+    void showSearch(const QString &text);
+    void selectRemark();
+    void addFieldToSearch(const QString &name);
+    QList<QToolButton *> buttons() const;
     void createShortcut();
     int minimumWidthOfSearchRow() const;
     int widthOfOneRow() const;
@@ -47,6 +55,7 @@ private:
 
     std::unique_ptr<Ui_FilterBarUI> m_ui;
     IFilterModel *m_filter;
+    SearchMessage *m_message = nullptr;
     /** Millimetres in one of the units that the user types. */
     double m_sizeUnitFactor = 1.0;
     bool m_twoRows = false;
