@@ -10,6 +10,7 @@ constexpr int DefaultGridScaleFactor = 100;
 const QString ApplicationDataPath = QStringLiteral("applicationDataPath");
 const QString LastImportPath = QStringLiteral("lastImportPath");
 const QString GridScaleFactor = QStringLiteral("gridScaleFactor");
+const QString SortOrder = QStringLiteral("sortOrder");
 const QString ImperialUnits = QStringLiteral("imperialUnits");
 
 } // namespace
@@ -61,6 +62,16 @@ int GlobalSettings::gridScaleFactor() const
 void GlobalSettings::setGridScaleFactor(int percent)
 {
     setValue(GridScaleFactor, percent);
+}
+
+QString GlobalSettings::sortOrder() const
+{
+    return value(SortOrder).toString();
+}
+
+void GlobalSettings::setSortOrder(const QString &order)
+{
+    setValue(SortOrder, order);
 }
 
 bool GlobalSettings::imperialUnits()

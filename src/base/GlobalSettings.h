@@ -33,6 +33,10 @@ public:
     int gridScaleFactor() const;
     void setGridScaleFactor(int percent);
 
+    /** What the grid is sorted by, as SortOrder::toText() writes it; empty when never chosen. */
+    QString sortOrder() const;
+    void setSortOrder(const QString &order);
+
     /** Inches rather than millimetres. Decided by the system's locale on the first call. */
     bool imperialUnits();
     void setImperialUnits(bool imperial);

@@ -3,12 +3,13 @@
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/Project.h"
 #include "ui/panels/DirectoriesBox.h"
+#include "ui/panels/SavedSearchesBox.h"
 #include "ui/panels/TagsBox.h"
 #include "widgets/style/WidgetStyles.h"
 
 LeftSidebar::LeftSidebar(QWidget *parent, const QSharedPointer<Project> &project,
                          IFilterModel *filter)
-    : GSideBar(parent)
+    : GSideBar(parent), m_filter(filter)
 {
     setObjectName(QStringLiteral("leftSidebar"));
     setStyleSheet(WidgetStyles::LeftSideBar());
@@ -20,6 +21,13 @@ LeftSidebar::LeftSidebar(QWidget *parent, const QSharedPointer<Project> &project
             &LeftSidebar::removeSelectedDirectory);
     addBox(m_directories);
     addBox(new TagsBox(this, project, filter));
+}
+
+GAction *LeftSidebar::addSavedSearches(SavedSearches *searches)
+{
+    auto *box = new SavedSearchesBox(this, searches, m_filter);
+    addBox(box);
+    return box->saveAction();
 }
 
 void LeftSidebar::showAllFolders()

@@ -8,6 +8,7 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"
+#include "catalogue/query/SavedSearchesFile.h"
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/ProjectController.h"
@@ -23,6 +24,7 @@
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
 #include "ui/TransferNotice.h"
+#include "ui/SortMenu.h"
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/style/GWidgetStyles.h"
 
@@ -65,6 +67,7 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
             &MainWindow::hideStaleProgress);
     m_controller->setProgressAbortListener(m_progressDialog);
     m_controller->setUsageEventSink(&Metrics::submitEvent);
+    filter()->setSortOrder(SortMenu::rememberedOrder());
     createPanes();
     createActions();
     createMenus();
@@ -146,6 +149,9 @@ void MainWindow::createPanes()
     setCentralWidget(central);
     FilterSelectionModel *model = m_controller->selectionModel();
     m_left = new LeftSidebar(this, m_project, model->filter());
+    m_savedSearches = std::make_unique<SavedSearchesFile>(
+        SavedSearchesFile::besideCatalogue(m_controller->projectFilePath()));
+    m_saveSearchAction = m_left->addSavedSearches(m_savedSearches.get());
     m_center = new CenterView(this, m_project, model);
     m_right = new RightSidebar(this, m_project, model->selection());
     m_keeper = std::make_unique<CatalogueKeeper>(m_controller.get(), m_notices, this);

@@ -19,6 +19,7 @@ class Project;
 class ProjectController;
 class RightSidebar;
 class TransferNotice;
+class SavedSearches;
 
 /** The one window of the product: owns the catalogue's controller and turns commands into calls. */
 class MainWindow : public GMainWindow
@@ -72,6 +73,10 @@ private:
     void createPanes();
     void createActions();
     void createMenus();
+    void createFileMenu();
+    void createEditMenu();
+    void createViewMenu();
+    void createHelpMenu();
     void createToolbars();
     void createPathOpener();
     void setupInitialLayout();
@@ -85,10 +90,12 @@ private:
     GAction *m_removeFolderAction = nullptr;
     GAction *m_rescanAction = nullptr;
     GAction *m_selectAllAction = nullptr;
+    GAction *m_saveSearchAction = nullptr;
     GAction *m_zoomInAction = nullptr;
     GAction *m_zoomOutAction = nullptr;
     GAction *m_transferAction = nullptr;
     QMenu *m_fileMenu = nullptr;
+    QMenu *m_viewMenu = nullptr;
     QMenu *m_helpMenu = nullptr;
     GToolBar *m_toolbar = nullptr;
     ProgressDialog *m_progressDialog = nullptr;
@@ -103,5 +110,6 @@ private:
     QSharedPointer<Project> m_project;
     std::unique_ptr<ProjectController> m_controller;
     std::unique_ptr<CatalogueKeeper> m_keeper;
+    std::unique_ptr<SavedSearches> m_savedSearches;
     bool m_operationRunning = false;
 };

@@ -4,6 +4,7 @@
 #include "app/frame/GAction.h"
 #include "ui/CenterView.h"
 #include "ui/MainWindow.h"
+#include "ui/SortMenu.h"
 #include "widgets/controls/GToolBar.h"
 #include "widgets/style/GIcon.h"
 
@@ -48,17 +49,40 @@ void MainWindow::createActions()
 
 void MainWindow::createMenus()
 {
+    createFileMenu();
+    createEditMenu();
+    createViewMenu();
+    createHelpMenu();
+    installApplicationMenuItems(m_fileMenu, m_helpMenu);
+}
+
+void MainWindow::createFileMenu()
+{
     m_fileMenu = menuBar()->addMenu(tr("&File"));
     m_fileMenu->addAction(m_addFolderAction);
     m_fileMenu->addAction(m_removeFolderAction);
     m_fileMenu->addAction(m_rescanAction);
     m_fileMenu->addSeparator();
+}
+
+void MainWindow::createEditMenu()
+{
     editMenu()->addAction(m_selectAllAction);
+    editMenu()->addAction(m_saveSearchAction);
+}
+
+void MainWindow::createViewMenu()
+{
+    m_viewMenu = menuBar()->addMenu(tr("&View"));
+    m_viewMenu->addMenu(new SortMenu(filter(), m_viewMenu));
+}
+
+void MainWindow::createHelpMenu()
+{
     m_helpMenu = menuBar()->addMenu(tr("&Help"));
     const auto helpActions = HooplineApplication::instance()->applicationLevelHelpActions();
     for (GAction *action : helpActions)
         m_helpMenu->addAction(action);
-    installApplicationMenuItems(m_fileMenu, m_helpMenu);
 }
 
 void MainWindow::installApplicationMenuItems(QMenu *fileMenu, QMenu *helpMenu)

@@ -3,6 +3,8 @@
 #include "base/Error.h"
 #include "base/GlobalSettings.h"
 #include "catalogue/watch/FolderWatcher.h"
+#include "preview/grid/GridEmbroideryItem.h"
+#include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PreviewBrowser.h"
 #include "support/DstDesign.h"
 #include "support/MessageBoxes.h"
@@ -11,7 +13,9 @@
 #include "ui/NoticeBar.h"
 #include "ui/NoticeRow.h"
 #include "ui/panels/DirectoriesBox.h"
+#include "ui/panels/SavedSearchesBox.h"
 #include "ui/ProgressDialog.h"
+#include "ui/SortMenu.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -26,6 +30,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
@@ -51,6 +56,8 @@ private slots:
     void cleanup();
     void startsEmpty();
     void offersItsCommands();
+    void sortsAndRemembersIt();
+    void oldLayoutLeavesRoomForSavedSearches();
     void addsDroppedFoldersOnly();
     void removesFolders();
     void disablesRemovalInSubfolders();
@@ -155,10 +162,60 @@ void tst_mainwindow::offersItsCommands()
     QCOMPARE(
         menus,
         (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|Preferences...|Quit"),
-                     QStringLiteral("Select all"),
+                     QStringLiteral("Select all|Save search"), QStringLiteral("&Sort by"),
                      QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
                                     "&About Hoopline Organizer")}));
     QCOMPARE(action(QStringLiteral("Quit"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+}
+
+void tst_mainwindow::sortsAndRemembersIt()
+{
+    const QString path = createFolder(QStringLiteral("designs"), {});
+    DstDesign::square("a", 10).writeTo(path + QStringLiteral("/a.dst"));
+    DstDesign::square("b", 30).writeTo(path + QStringLiteral("/b.dst"));
+    DstDesign::square("c", 20).writeTo(path + QStringLiteral("/c.dst"));
+    const auto order = [this] {
+        QString names;
+        const auto *cards = m_window->findChild<GridPreviewScene *>();
+        for (int i = 0; i < cards->count(); ++i)
+            names += QFileInfo(cards->cardAt(i)->file()->absoluteFilePath()).baseName();
+        return names;
+    };
+    open();
+    m_window->filesDropped({path});
+    QCOMPARE(order(), QStringLiteral("abc"));
+    delete m_window;
+
+    open();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QTest::keyClick(m_window, Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(order(), QStringLiteral("acb"));
+    const auto choices = m_window->findChild<SortMenu *>()->actions();
+    choices.constLast()->trigger();
+    QCOMPARE(order(), QStringLiteral("bca"));
+    delete m_window;
+
+    open();
+    QCOMPARE(order(), QStringLiteral("bca"));
+    QVERIFY(m_window->findChild<SortMenu *>()->actions().at(1)->isChecked());
+    QVERIFY(m_window->findChild<SortMenu *>()->actions().constLast()->isChecked());
+}
+
+/** As a version without the box stored it: two heights for three boxes. */
+void tst_mainwindow::oldLayoutLeavesRoomForSavedSearches()
+{
+    {
+        QSplitter old(Qt::Vertical);
+        for (int i = 0; i < 2; ++i)
+            old.addWidget(new QWidget);
+        old.setSizes({300, 300});
+        GSettings().setValue(QStringLiteral("windowSettings/leftSidebarSplitter"), old.saveState());
+    }
+    open();
+    auto *box = m_window->findChild<SavedSearchesBox *>();
+    QVERIFY(box->isVisible());
+    QVERIFY(box->height() > box->minimumSizeHint().height());
 }
 
 void tst_mainwindow::addsDroppedFoldersOnly()

@@ -49,7 +49,7 @@ Condition Conditions::color(const QString &value, const QDateTime &)
 {
     const QVector<QColor> shades = ColorNames::shadesOf(value);
     if (shades.isEmpty())
-        throw Error(tr("'%1' is no colour such as red or #c03020").arg(value));
+        throw Error(tr("'%1' is no color such as red or #c03020").arg(value));
     const auto nearness = std::make_shared<Nearness>(shades);
     return [nearness](const IFile &file, const DuplicateIndex &) {
         const PropertyListT<Thread> *threads = file.threadsProp();

@@ -132,7 +132,7 @@ const QVector<QueryField> &QueryFields::all()
          &Conditions::state,
          QueryField::LookUp,
          QStringLiteral("is:favorite"),
-         QT_TRANSLATE_NOOP("Query", "are a favorite, untagged, a duplicate or unreadable"),
+         QT_TRANSLATE_NOOP("Query", "are favorites; also untagged, duplicate, unreadable"),
          &Conditions::states},
     };
     return fields;

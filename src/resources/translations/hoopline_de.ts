@@ -416,6 +416,10 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Apply the filter again</source>
         <translation>Filter erneut anwenden</translation>
     </message>
+    <message>
+        <source>What can be searched for</source>
+        <translation>Wonach gesucht werden kann</translation>
+    </message>
 </context>
 <context>
     <name>FolderChangeNotice</name>
@@ -536,10 +540,6 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Nur Stickmuster dieses Formats, zum Beispiel dst.</translation>
     </message>
     <message>
-        <source>Only designs whose file name or notes hold the text.</source>
-        <translation>Nur Stickmuster, deren Dateiname oder Notizen den Text enthalten.</translation>
-    </message>
-    <message>
         <source>Print one JSON object per design, a line each.</source>
         <translation>Ein JSON-Objekt je Stickmuster ausgeben, jedes in einer Zeile.</translation>
     </message>
@@ -574,6 +574,22 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
         <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
+    </message>
+    <message>
+        <source>The order must be one of %1, perhaps with :desc behind it.</source>
+        <translation>Die Reihenfolge muss %1 sein, vielleicht mit :desc dahinter.</translation>
+    </message>
+    <message>
+        <source>The search is wrong at character %1, &apos;%2&apos;: %3</source>
+        <translation>Die Suche ist falsch bei Zeichen %1, „%2“: %3</translation>
+    </message>
+    <message>
+        <source>Only designs that match, as in the search field: text in the file name or the notes, and fields such as %1. The manual tells them all.</source>
+        <translation>Nur Stickmuster, auf die das zutrifft, wie im Suchfeld: Text im Dateinamen oder in den Notizen und Felder wie %1. Das Handbuch nennt alle.</translation>
+    </message>
+    <message>
+        <source>Order by %1; with :desc behind it downwards.</source>
+        <translation>Nach %1 ordnen; mit :desc dahinter absteigend.</translation>
     </message>
 </context>
 <context>
@@ -645,6 +661,10 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Toolbar</source>
         <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 <context>
@@ -908,6 +928,105 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>Query</name>
+    <message>
+        <source>a range needs at least one end, as in 50..80</source>
+        <translation>ein Bereich braucht mindestens ein Ende, wie in 50..80</translation>
+    </message>
+    <message>
+        <source>there is nothing behind &apos;%1&apos;</source>
+        <translation>hinter „%1“ fehlt etwas</translation>
+    </message>
+    <message>
+        <source>the range begins behind its end</source>
+        <translation>der Bereich beginnt hinter seinem Ende</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no length such as 100, 12.5cm or 4in</source>
+        <translation>„%1“ ist keine Länge wie 100, 12,5cm oder 4in</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no size such as 130x180 or 5x7in</source>
+        <translation>„%1“ ist keine Größe wie 130x180 oder 5x7in</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no date such as 2024, 2024-05 or 2024-05-31</source>
+        <translation>„%1“ ist kein Datum wie 2024, 2024-05 oder 2024-05-31</translation>
+    </message>
+    <message>
+        <source>%1: what is it to be? For instance %2</source>
+        <translation>%1: Was soll es sein? Zum Beispiel %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1:&apos; is searched as text. Is &apos;%2:&apos; meant?</source>
+        <translation>„%1:“ wird als Text gesucht. Ist „%2:“ gemeint?</translation>
+    </message>
+    <message>
+        <source>bear this tag</source>
+        <translation>dieses Schlagwort haben</translation>
+    </message>
+    <message>
+        <source>have this in their name</source>
+        <translation>dies im Namen haben</translation>
+    </message>
+    <message>
+        <source>lie in a folder with this in its path</source>
+        <translation>in einem Ordner mit diesem Pfadteil liegen</translation>
+    </message>
+    <message>
+        <source>are of this format</source>
+        <translation>dieses Format haben</translation>
+    </message>
+    <message>
+        <source>have so many stitches</source>
+        <translation>so viele Stiche haben</translation>
+    </message>
+    <message>
+        <source>have so many thread colors</source>
+        <translation>so viele Garnfarben haben</translation>
+    </message>
+    <message>
+        <source>are so wide, in millimeters or with &apos;in&apos; in inches</source>
+        <translation>so breit sind, in Millimetern oder mit „in“ in Zoll</translation>
+    </message>
+    <message>
+        <source>are so high</source>
+        <translation>so hoch sind</translation>
+    </message>
+    <message>
+        <source>fit into this hoop, also turned</source>
+        <translation>in diesen Rahmen passen, auch gedreht</translation>
+    </message>
+    <message>
+        <source>have a thread near this color, also as #c03020</source>
+        <translation>ein Garn nahe dieser Farbe haben, auch als #c03020</translation>
+    </message>
+    <message>
+        <source>have a thread with this in its name or chart</source>
+        <translation>ein Garn mit diesem Namen oder dieser Farbkarte haben</translation>
+    </message>
+    <message>
+        <source>have a file changed within a week, also as 2024-05</source>
+        <translation>vor weniger als einer Woche geändert wurden, auch als 2024-05</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of %2</source>
+        <translation>„%1“ ist keines von %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no color such as red or #c03020</source>
+        <translation>„%1“ ist keine Farbe wie rot oder #c03020</translation>
+    </message>
+    <message>
+        <source>are favorites; also untagged, duplicate, unreadable</source>
+        <translation>Favoriten sind; auch untagged, duplicate, unreadable</translation>
+    </message>
+</context>
+<context>
     <name>RenderTarget</name>
     <message>
         <source>The picture must not bear the name of a design: %1</source>
@@ -928,6 +1047,55 @@ Optionen:
     <message>
         <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
         <translation>%1 konnte nicht geschrieben werden: Den Ordner „%2“ gibt es nicht</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearches</name>
+    <message>
+        <source>A saved search needs a name.</source>
+        <translation>Eine gespeicherte Suche braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a saved search named &apos;%1&apos; already.</source>
+        <translation>Es gibt schon eine gespeicherte Suche namens „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesBox</name>
+    <message>
+        <source>Saved searches</source>
+        <translation>Gespeicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Save search</source>
+        <translation>Suche speichern</translation>
+    </message>
+    <message>
+        <source>Rename saved search</source>
+        <translation>Gespeicherte Suche umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove saved search</source>
+        <translation>Gespeicherte Suche entfernen</translation>
+    </message>
+    <message>
+        <source>Type a search above the designs and save it to find it here.</source>
+        <translation>Eine Suche, die über den Stickmustern eingegeben und gespeichert wird, steht hier.</translation>
+    </message>
+    <message>
+        <source>Remove the saved search &apos;%1&apos;?</source>
+        <translation>Die gespeicherte Suche „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesFile</name>
+    <message>
+        <source>Failed to set the damaged file &apos;%1&apos; aside.</source>
+        <translation>Die beschädigte Datei „%1“ konnte nicht beiseitegelegt werden.</translation>
     </message>
 </context>
 <context>
@@ -976,6 +1144,36 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>SearchCompleter</name>
+    <message>
+        <source>Completions</source>
+        <translation>Vervollständigungen</translation>
+    </message>
+</context>
+<context>
+    <name>SearchHelpMenu</name>
+    <message>
+        <source>Designs that ...</source>
+        <translation>Stickmuster, die ...</translation>
+    </message>
+    <message>
+        <source>don&apos;t, by a minus before any field</source>
+        <translation>nicht, durch ein Minus vor dem Feld</translation>
+    </message>
+    <message>
+        <source>fulfill all that is asked for</source>
+        <translation>alles Gefragte erfüllen</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>completes fields and tags while you type</source>
+        <translation>vervollständigt Felder und Schlagwörter</translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
@@ -987,6 +1185,45 @@ Optionen:
             <numerusform>enthält sein Stickmuster nicht mehr</numerusform>
             <numerusform>enthält keines seiner %n Stickmuster mehr</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Sortieren nach</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Design &amp;size</source>
+        <translation>&amp;Größe</translation>
+    </message>
+    <message>
+        <source>S&amp;titches</source>
+        <translation>&amp;Stichzahl</translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>File &amp;date</source>
+        <translation>&amp;Dateidatum</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>&amp;Aufsteigend</translation>
+    </message>
+    <message>
+        <source>D&amp;escending</source>
+        <translation>A&amp;bsteigend</translation>
     </message>
 </context>
 <context>

@@ -413,6 +413,10 @@ Commands; each has a --help of its own:</source>
         <source>Apply the filter again</source>
         <translation>重新应用筛选</translation>
     </message>
+    <message>
+        <source>What can be searched for</source>
+        <translation>可以搜索的内容</translation>
+    </message>
 </context>
 <context>
     <name>FolderChangeNotice</name>
@@ -532,10 +536,6 @@ Commands; each has a --help of its own:</source>
         <translation>仅此格式的花样，例如 dst。</translation>
     </message>
     <message>
-        <source>Only designs whose file name or notes hold the text.</source>
-        <translation>仅文件名或备注包含该文字的花样。</translation>
-    </message>
-    <message>
         <source>Print one JSON object per design, a line each.</source>
         <translation>每个花样输出一个 JSON 对象，每个占一行。</translation>
     </message>
@@ -570,6 +570,22 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
         <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
+    </message>
+    <message>
+        <source>The order must be one of %1, perhaps with :desc behind it.</source>
+        <translation>排序必须是 %1 之一，后面可以加 :desc。</translation>
+    </message>
+    <message>
+        <source>The search is wrong at character %1, &apos;%2&apos;: %3</source>
+        <translation>搜索在第 %1 个字符处有误，“%2”：%3</translation>
+    </message>
+    <message>
+        <source>Only designs that match, as in the search field: text in the file name or the notes, and fields such as %1. The manual tells them all.</source>
+        <translation>仅显示匹配的花样，与搜索框相同：文件名或备注中的文字，以及 %1 之类的字段。手册列出了全部字段。</translation>
+    </message>
+    <message>
+        <source>Order by %1; with :desc behind it downwards.</source>
+        <translation>按 %1 排序；后面加 :desc 为降序。</translation>
     </message>
 </context>
 <context>
@@ -641,6 +657,10 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Toolbar</source>
         <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>查看(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -901,6 +921,105 @@ Options:
     </message>
 </context>
 <context>
+    <name>Query</name>
+    <message>
+        <source>a range needs at least one end, as in 50..80</source>
+        <translation>范围至少需要一端，例如 50..80</translation>
+    </message>
+    <message>
+        <source>there is nothing behind &apos;%1&apos;</source>
+        <translation>“%1”后面没有内容</translation>
+    </message>
+    <message>
+        <source>the range begins behind its end</source>
+        <translation>范围的起点大于终点</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no whole number</source>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no length such as 100, 12.5cm or 4in</source>
+        <translation>“%1”不是长度，例如 100、12.5cm 或 4in</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no size such as 130x180 or 5x7in</source>
+        <translation>“%1”不是尺寸，例如 130x180 或 5x7in</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no date such as 2024, 2024-05 or 2024-05-31</source>
+        <translation>“%1”不是日期，例如 2024、2024-05 或 2024-05-31</translation>
+    </message>
+    <message>
+        <source>%1: what is it to be? For instance %2</source>
+        <translation>%1：请输入内容，例如 %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1:&apos; is searched as text. Is &apos;%2:&apos; meant?</source>
+        <translation>“%1:”按文字搜索。是否应为“%2:”？</translation>
+    </message>
+    <message>
+        <source>bear this tag</source>
+        <translation>带有此标签</translation>
+    </message>
+    <message>
+        <source>have this in their name</source>
+        <translation>名称中包含此文字</translation>
+    </message>
+    <message>
+        <source>lie in a folder with this in its path</source>
+        <translation>所在文件夹的路径包含此文字</translation>
+    </message>
+    <message>
+        <source>are of this format</source>
+        <translation>为此格式</translation>
+    </message>
+    <message>
+        <source>have so many stitches</source>
+        <translation>针数如此</translation>
+    </message>
+    <message>
+        <source>have so many thread colors</source>
+        <translation>线色数如此</translation>
+    </message>
+    <message>
+        <source>are so wide, in millimeters or with &apos;in&apos; in inches</source>
+        <translation>宽度如此，单位毫米，加 in 为英寸</translation>
+    </message>
+    <message>
+        <source>are so high</source>
+        <translation>高度如此</translation>
+    </message>
+    <message>
+        <source>fit into this hoop, also turned</source>
+        <translation>可放入此绣框，也可旋转</translation>
+    </message>
+    <message>
+        <source>have a thread near this color, also as #c03020</source>
+        <translation>含有接近此颜色的线，也可写作 #c03020</translation>
+    </message>
+    <message>
+        <source>have a thread with this in its name or chart</source>
+        <translation>线的名称或色卡包含此文字</translation>
+    </message>
+    <message>
+        <source>have a file changed within a week, also as 2024-05</source>
+        <translation>文件在一周内修改过，也可写作 2024-05</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of %2</source>
+        <translation>“%1”不是以下之一：%2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no color such as red or #c03020</source>
+        <translation>“%1”不是颜色，例如：红 或 #c03020</translation>
+    </message>
+    <message>
+        <source>are favorites; also untagged, duplicate, unreadable</source>
+        <translation>是收藏；也可用 untagged、duplicate、unreadable</translation>
+    </message>
+</context>
+<context>
     <name>RenderTarget</name>
     <message>
         <source>The picture must not bear the name of a design: %1</source>
@@ -921,6 +1040,55 @@ Options:
     <message>
         <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
         <translation>无法写入 %1：文件夹“%2”不存在</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearches</name>
+    <message>
+        <source>A saved search needs a name.</source>
+        <translation>保存的搜索需要名称。</translation>
+    </message>
+    <message>
+        <source>There is a saved search named &apos;%1&apos; already.</source>
+        <translation>已有名为“%1”的保存的搜索。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesBox</name>
+    <message>
+        <source>Saved searches</source>
+        <translation>保存的搜索</translation>
+    </message>
+    <message>
+        <source>Save search</source>
+        <translation>保存搜索</translation>
+    </message>
+    <message>
+        <source>Rename saved search</source>
+        <translation>重命名保存的搜索</translation>
+    </message>
+    <message>
+        <source>Remove saved search</source>
+        <translation>移除保存的搜索</translation>
+    </message>
+    <message>
+        <source>Type a search above the designs and save it to find it here.</source>
+        <translation>在花样上方输入并保存的搜索会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Remove the saved search &apos;%1&apos;?</source>
+        <translation>移除保存的搜索“%1”？</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesFile</name>
+    <message>
+        <source>Failed to set the damaged file &apos;%1&apos; aside.</source>
+        <translation>无法将损坏的文件“%1”移到一旁。</translation>
     </message>
 </context>
 <context>
@@ -968,6 +1136,36 @@ Options:
     </message>
 </context>
 <context>
+    <name>SearchCompleter</name>
+    <message>
+        <source>Completions</source>
+        <translation>补全</translation>
+    </message>
+</context>
+<context>
+    <name>SearchHelpMenu</name>
+    <message>
+        <source>Designs that ...</source>
+        <translation>花样：</translation>
+    </message>
+    <message>
+        <source>don&apos;t, by a minus before any field</source>
+        <translation>在任何字段前加减号表示相反</translation>
+    </message>
+    <message>
+        <source>fulfill all that is asked for</source>
+        <translation>同时满足所有条件</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>completes fields and tags while you type</source>
+        <translation>输入时补全字段和标签</translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
@@ -978,6 +1176,45 @@ Options:
         <translation>
             <numerusform>已不再包含其 %n 个花样</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>排序方式(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Design &amp;size</source>
+        <translation>花样大小(&amp;S)</translation>
+    </message>
+    <message>
+        <source>S&amp;titches</source>
+        <translation>针数(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation>颜色数(&amp;C)</translation>
+    </message>
+    <message>
+        <source>File &amp;date</source>
+        <translation>文件日期(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Ascending</source>
+        <translation>升序(&amp;A)</translation>
+    </message>
+    <message>
+        <source>D&amp;escending</source>
+        <translation>降序(&amp;E)</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@ void FilterBar::createSearchAids(const QSharedPointer<Project> &project)
     new SearchCompleter(m_ui->searchTextLineEdit, [project] { return project->allTags(); });
     auto *help = new SearchHelpMenu(this);
     m_ui->searchHelpButton->setMenu(help);
+    // The question mark says it; there is no room for an arrow.
+    m_ui->searchHelpButton->setStyleSheet(
+        WidgetStyles::ToolButton_FlatStyle() +
+        QStringLiteral("QToolButton::menu-indicator { image: none; }"));
     connect(help, &SearchHelpMenu::fieldChosen, this, &FilterBar::addFieldToSearch);
     m_message = new SearchMessage(this);
     m_message->setObjectName(QStringLiteral("searchMessage"));

@@ -2,19 +2,39 @@
 
 #include "catalogue/query/QueryLexer.h"
 
-#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QScrollBar>
 #include <QStringListModel>
+#include <QStyledItemDelegate>
+
+namespace {
+
+/** Rows as high as those of menus. */
+class RoomyDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(4, 2);
+    }
+};
+
+} // namespace
 
 SearchCompleter::SearchCompleter(QLineEdit *field, const std::function<QStringList()> &tags)
-    : QCompleter(field), m_field(field), m_tags(tags), m_candidates(new QStringListModel(this))
+    : QCompleter(field), m_field(field), m_tags(tags), m_candidates(new QStringListModel(this)),
+      m_list(new QListView)
 {
     setModel(m_candidates);
     setCompletionMode(UnfilteredPopupCompletion);
+    setPopup(m_list);
+    m_list->setItemDelegate(new RoomyDelegate(m_list));
     setWidget(field);
-    popup()->setAccessibleName(tr("Completions"));
+    m_list->setAccessibleName(tr("Completions"));
     field->installEventFilter(this);
     connect(field, &QLineEdit::textEdited, this, &SearchCompleter::narrowCandidates);
     connect(this, QOverload<const QString &>::of(&QCompleter::activated), this,
@@ -30,8 +50,8 @@ bool SearchCompleter::eventFilter(QObject *watched, QEvent *event)
             return true;
         // The list would leave these keys to the field first.
         const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-        if (watched == popup() && (tab || enter)) {
-            choose(popup()->currentIndex().data().toString());
+        if (watched == m_list && (tab || enter)) {
+            choose(m_list->currentIndex().data().toString());
             return true;
         }
     }
@@ -69,28 +89,27 @@ void SearchCompleter::showCandidates(const QueryCompletion &completion)
     for (const QueryCompletion::Candidate &candidate : completion.candidates)
         shown.append(candidate.shown);
     m_candidates->setStringList(shown);
-    QRect place = m_field->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-    const QAbstractItemView *list = popup();
-    place.setWidth(list->sizeHintForColumn(0) + list->verticalScrollBar()->sizeHint().width() +
-                   2 * list->frameWidth());
-    QCompleter::complete(place);
-    popup()->setCurrentIndex(popup()->model()->index(0, 0));
+    const int cursor = m_field->inputMethodQuery(Qt::ImCursorRectangle).toRect().left();
+    const int width = m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth() +
+                      m_list->verticalScrollBar()->sizeHint().width();
+    QCompleter::complete(QRect(cursor, 0, width, m_field->height()));
+    m_list->setCurrentIndex(m_list->model()->index(0, 0));
 }
 
 void SearchCompleter::narrowCandidates()
 {
-    if (!popup()->isVisible())
+    if (!m_list->isVisible())
         return;
     const QueryCompletion found = completion();
     if (found.isEmpty())
-        popup()->hide();
+        m_list->hide();
     else
         showCandidates(found);
 }
 
 void SearchCompleter::choose(const QString &shown)
 {
-    popup()->hide();
+    m_list->hide();
     const QueryCompletion found = completion();
     for (const QueryCompletion::Candidate &candidate : found.candidates) {
         if (candidate.shown == shown) {

@@ -6,6 +6,7 @@
 #include <QCompleter>
 
 class QLineEdit;
+class QListView;
 class QStringListModel;
 
 /**
@@ -34,4 +35,5 @@ private:
     QLineEdit *m_field;
     std::function<QStringList()> m_tags;
     QStringListModel *m_candidates;
+    QListView *m_list;
 };

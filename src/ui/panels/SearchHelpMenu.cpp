@@ -6,15 +6,19 @@ SearchHelpMenu::SearchHelpMenu(QWidget *parent) : QMenu(parent)
 {
     addAction(tr("Designs that ..."))->setEnabled(false);
     for (const QueryField &field : QueryFields::all()) {
-        // What follows the tabulator stands in the column of the shortcuts.
-        const QString text = field.example + QLatin1Char('\t') + field.meaning();
         const QString name = field.name;
-        connect(addAction(text), &QAction::triggered, this,
+        connect(addRow(field.example, field.meaning()), &QAction::triggered, this,
                 [this, name] { emit fieldChosen(name); });
     }
     addSeparator();
-    addAction(tr("Several fields hold together; a minus before one asks for the opposite."))
+    addRow(QStringLiteral("-tag:done"), tr("don't, by a minus before any field"))
         ->setEnabled(false);
-    addAction(tr("Quotation marks keep words together. Tab completes fields and tags."))
-        ->setEnabled(false);
+    addRow(QStringLiteral("type:pes rose"), tr("fulfill all that is asked for"))->setEnabled(false);
+    addRow(tr("Tab"), tr("completes fields and tags while you type"))->setEnabled(false);
+}
+
+QAction *SearchHelpMenu::addRow(const QString &example, const QString &meaning)
+{
+    // What follows the tabulator stands in the column of the shortcuts.
+    return addAction(example + QLatin1Char('\t') + meaning);
 }

@@ -13,4 +13,7 @@ public:
 signals:
     /** The user wants to search by this field. */
     void fieldChosen(const QString &name);
+
+private:
+    QAction *addRow(const QString &example, const QString &meaning);
 };

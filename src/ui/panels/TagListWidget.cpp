@@ -1,5 +1,6 @@
 #include "ui/panels/TagListWidget.h"
 
+#include "ui/panels/ElidingDelegate.h"
 #include "widgets/style/WidgetHelper.h"
 
 #include <QContextMenuEvent>
@@ -7,7 +8,6 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QStandardItemModel>
-#include <QStyledItemDelegate>
 
 namespace {
 
@@ -25,18 +25,6 @@ QString menuText(QString tag)
         .replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
-/** Rows as wide as the list, so that long tags are elided instead of scrolled. */
-class TagDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return QSize(0, QStyledItemDelegate::sizeHint(option, index).height());
-    }
-};
-
 } // namespace
 
 TagListWidget::TagListWidget(QWidget *parent)
@@ -45,7 +33,7 @@ TagListWidget::TagListWidget(QWidget *parent)
       m_allIcon(QStringLiteral(":/icons/small_all.svg"))
 {
     setModel(m_model);
-    setItemDelegate(new TagDelegate(this));
+    setItemDelegate(new ElidingDelegate(this));
     setEditTriggers(NoEditTriggers);
     setIconSize(QSize(IconExtent, IconExtent));
     setTextElideMode(Qt::ElideRight);

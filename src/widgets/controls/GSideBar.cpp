@@ -43,8 +43,10 @@ void GSideBar::saveWidgetState(GSettings &settings) const
 
 void GSideBar::restoreWidgetState(GSettings &settings)
 {
-    if (settings.contains(splitterKey()))
-        m_splitter->restoreState(settings.value(splitterKey()).toByteArray());
+    const QByteArray state = settings.value(splitterKey()).toByteArray();
+    // Another version may have had fewer boxes; of as many the state is as long.
+    if (state.size() == m_splitter->saveState().size())
+        m_splitter->restoreState(state);
     m_splitter->setChildrenCollapsible(false);
     const auto boxes = findChildren<GSideBarBoxAdvanced *>();
     for (GSideBarBoxAdvanced *box : boxes) {

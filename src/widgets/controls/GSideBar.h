@@ -28,7 +28,8 @@ public:
     /**
      * Store and fetch the state in the group that \a settings stands in: the heights of the boxes
      * under "<object name>Splitter", what a GSideBarBoxAdvanced shows under
-     * "<box object name>-showAdvanced". What is not stored stays as it is.
+     * "<box object name>-showAdvanced". What is not stored stays as it is, and so do the
+     * heights when they were stored for another number of boxes.
      */
     void saveWidgetState(GSettings &settings) const;
     void restoreWidgetState(GSettings &settings);
