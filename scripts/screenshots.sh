@@ -236,8 +236,8 @@ open_menu() {
     for ((i = 0; i < $1; i++)); do key Right; done
 }
 open_preferences() { open_menu 0; key Up; key Up; key Return; sleep 0.8; }
-open_update() { open_menu 2; key Up; key Up; key Return; sleep 1.5; }
-open_about() { open_menu 2; key Up; key Return; sleep 0.8; }
+open_update() { open_menu 3; key Up; key Up; key Return; sleep 1.5; }
+open_about() { open_menu 3; key Up; key Return; sleep 0.8; }
 
 main_window_shots() {
     use_profile main
@@ -286,6 +286,31 @@ main_window_shots() {
     shot no-match
     key Escape
     stop
+
+    start
+    resize 1280 820
+    search_shots ""
+    stop
+}
+
+# search_shots SUFFIX: the search by fields, its help, and searches that are saved.
+search_shots() {
+    local search
+    for search in "color:red fits:100x100" "is:duplicate" "stitches:<2000 -type:dst"; do
+        key ctrl+f
+        type_text "$search"
+        key ctrl+shift+s
+        key Return
+    done
+    key ctrl+f
+    type_text "colors:>3 color:red width:<60"
+    away
+    shot "search$1"
+    type_text " is:r"
+    shot "search-mistake$1"
+    key Escape Tab Tab space Down
+    shot_over "search-help$1"
+    key Escape
 }
 
 # plug_in_drive: the machine's drive, and a service that could eject it.
@@ -350,7 +375,9 @@ window_shots() {
     away
     shot "main$suffix"
     menu_shots
-    click 200 600
+    search_shots "$suffix"
+    key ctrl+f Escape
+    click 200 560
     panel_shots
     dialog_shots
     stop
@@ -368,6 +395,10 @@ menu_shots() {
     shot_over "menu-file$suffix"
     key Escape Escape
     open_menu 2
+    key Return
+    shot_over "menu-sort$suffix"
+    key Escape Escape
+    open_menu 3
     shot_over "menu-help$suffix"
     key Escape Escape
     click 380 250 3

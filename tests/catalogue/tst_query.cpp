@@ -1,6 +1,7 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/query/DuplicateIndex.h"
 #include "catalogue/query/Query.h"
+#include "catalogue/query/QueryFields.h"
 
 #include <QtTest>
 
@@ -16,6 +17,7 @@ private slots:
     void remarks_data();
     void remarks();
     void leavesUnfinishedConditionsOut();
+    void manualTellsEveryField();
 
 private:
     QSharedPointer<IFile> add(const QString &path, const QSizeF &size, int stitches,
@@ -223,6 +225,20 @@ void TestQuery::leavesUnfinishedConditionsOut()
     QCOMPARE(found("tag:flowers -type:"), QStringLiteral("rt"));
     QVERIFY(Query::parse("tag:").isValid());
     QVERIFY(!Query::parse("tag: is:x").isValid());
+}
+
+/** The manual tells of each field with the example that the help shows. */
+void TestQuery::manualTellsEveryField()
+{
+    QFile manual(QStringLiteral(TEST_DATA_DIR "/../../docs/manual.md"));
+    QVERIFY(manual.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(manual.readAll());
+    for (const QueryField &field : QueryFields::all()) {
+        QVERIFY2(text.contains(QStringLiteral("| `%1`").arg(field.example)),
+                 qPrintable(field.example));
+        const Query query = Query::parse(field.example, m_now);
+        QVERIFY2(!query.remark(), qPrintable(field.example));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestQuery)
