@@ -5,7 +5,6 @@
 #include "catalogue/records/LocaleAwareFunctions.h"
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 #include <QHash>
 #include <utility>
@@ -14,7 +13,7 @@
 namespace {
 
 using Files = QList<QSharedPointer<IFile>>;
-using Value = std::function<double(const IFile &)>;
+using Values = std::vector<double>;
 
 constexpr double Unknown = std::numeric_limits<double>::infinity();
 
@@ -27,47 +26,61 @@ double area(const IFile &file)
     return size.width() < 0 || size.height() < 0 ? Unknown : size.width() * size.height();
 }
 
-/** The place of each folder among all folders: few words to compare instead of many. */
-Value folderRank(const Files &files)
+/** The place of each file's folder among all folders. */
+Values folderRanks(const Files &files)
 {
-    QHash<QString, double> ranks;
     QStringList folders;
+    folders.reserve(files.count());
     for (const auto &file : files) {
         const QString path = file->absoluteFilePath();
-        const QString folder = DesignPath::folder(path).toString();
-        if (!ranks.contains(folder)) {
-            ranks.insert(folder, 0);
-            folders.append(folder);
-        }
+        const QStringView folder = DesignPath::folder(path);
+        // As a rule the file before lies in the same one.
+        const bool same = !folders.isEmpty() && folders.constLast() == folder;
+        folders.append(same ? folders.constLast() : folder.toString());
     }
-    LocaleAwareFunctions::sort(folders);
-    for (int i = 0; i < folders.count(); ++i)
-        ranks[folders.at(i)] = i;
-    return [ranks](const IFile &file) {
-        const QString path = file.absoluteFilePath();
-        return ranks.value(DesignPath::folder(path).toString());
-    };
+    QStringList sorted = folders;
+    sorted.removeDuplicates();
+    LocaleAwareFunctions::sort(sorted);
+    QHash<QString, int> ranks;
+    for (int i = 0; i < sorted.count(); ++i)
+        ranks.insert(sorted.at(i), i);
+    Values values;
+    values.reserve(std::size_t(files.count()));
+    for (const QString &folder : std::as_const(folders))
+        values.push_back(ranks.value(folder));
+    return values;
 }
 
-Value valueOf(SortOrder::Key key, const Files &files)
+template <class ValueOf>
+Values valuesOf(const Files &files, ValueOf valueOf)
+{
+    Values values;
+    values.reserve(std::size_t(files.count()));
+    for (const auto &file : files)
+        values.push_back(valueOf(*file));
+    return values;
+}
+
+/** What each file is sorted by. */
+Values sortValues(SortOrder::Key key, const Files &files)
 {
     switch (key) {
     case SortOrder::Size:
-        return &area;
+        return valuesOf(files, area);
     case SortOrder::Stitches:
-        return [](const IFile &file) {
+        return valuesOf(files, [](const IFile &file) {
             return DesignFacts::areKnown(file) ? file.stitchCount() : Unknown;
-        };
+        });
     case SortOrder::Colors:
-        return [](const IFile &file) {
+        return valuesOf(files, [](const IFile &file) {
             return DesignFacts::areKnown(file) ? file.threadsProp()->count() : Unknown;
-        };
+        });
     case SortOrder::Date:
-        return [](const IFile &file) {
+        return valuesOf(files, [](const IFile &file) {
             return file.modificationDate() > 0 ? file.modificationDate() : Unknown;
-        };
+        });
     default:
-        return folderRank(files);
+        return folderRanks(files);
     }
 }
 
@@ -108,13 +121,11 @@ Files SortOrder::sorted(const Files &byName) const
             std::reverse(files.begin(), files.end());
         return files;
     }
-    const Value value = valueOf(key, byName);
+    const Values values = sortValues(key, byName);
     std::vector<std::pair<double, int>> keyed;
-    keyed.reserve(std::size_t(byName.count()));
-    for (int i = 0; i < byName.count(); ++i) {
-        const double number = value(*byName.at(i));
-        keyed.emplace_back(descending && number != Unknown ? -number : number, i);
-    }
+    keyed.reserve(values.size());
+    for (const double value : values)
+        keyed.emplace_back(descending && value != Unknown ? -value : value, int(keyed.size()));
     // The index that comes second keeps what is equal in its order.
     std::sort(keyed.begin(), keyed.end());
     std::transform(keyed.begin(), keyed.end(), files.begin(),
