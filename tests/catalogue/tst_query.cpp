@@ -153,6 +153,7 @@ void TestQuery::finds_data()
     row("thread:brother", "brt");
     row("date:<7d", "r");
     row("date:7d", "r");
+    row("-added:<7d", "bnstu");
     row("date:>1w", "bt");
     row("date:<6m", "brt");
     row("date:<5m", "rt");

@@ -121,7 +121,8 @@ const QVector<QueryField> &QueryFields::all()
          QT_TRANSLATE_NOOP("Query", "have a thread with this in its name or chart"),
          nullptr},
         {QStringLiteral("date"),
-         {},
+         // When a design came into the catalogue isn't recorded: its file's date stands for it.
+         {QStringLiteral("added")},
          &Conditions::date,
          QueryField::LookUp,
          QStringLiteral("date:<7d"),
