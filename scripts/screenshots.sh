@@ -303,7 +303,7 @@ search_shots() {
         key Return
     done
     key ctrl+f
-    type_text "colors:>3 color:red width:<60"
+    type_text "color:red width:<60"
     away
     shot "search$1"
     type_text " is:r"

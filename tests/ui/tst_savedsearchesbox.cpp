@@ -3,42 +3,15 @@
 #include "app/frame/GAction.h"
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/query/SavedSearchesFile.h"
+#include "support/MessageBoxes.h"
 #include "ui/panels/SavedSearchesBox.h"
 #include "widgets/controls/GExpandingTitle.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QToolButton>
 #include <QtTest>
-
-namespace {
-
-/** Presses a button of the next message box. */
-class Answer : public QObject
-{
-public:
-    explicit Answer(QMessageBox::StandardButton button)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this, button] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                given = true;
-                box->button(button)->click();
-            }
-        });
-        m_timer.start(1);
-    }
-
-    bool given = false;
-
-private:
-    QTimer m_timer;
-};
-
-} // namespace
 
 class tst_savedsearchesbox : public QObject
 {
@@ -151,9 +124,9 @@ void tst_savedsearchesbox::refusesTakenNames()
 {
     m_searches->add({"a", "rose"});
     m_searches->add({"b", "tulip"});
-    const Answer ok(QMessageBox::Ok);
+    const MessageBoxes ok(QMessageBox::Ok);
     m_list->item(0)->setText("b");
-    QTRY_VERIFY(ok.given);
+    QTRY_COMPARE(ok.count(), 1);
     QTRY_COMPARE(names(), QStringLiteral("a|b"));
     QCOMPARE(m_searches->all().at(0).name, QStringLiteral("a"));
 }
@@ -163,12 +136,12 @@ void tst_savedsearchesbox::removesAfterAQuestion()
     m_searches->add({"Roses", "rose"});
     m_filter->setSearchSubstring("rose");
     {
-        const Answer no(QMessageBox::No);
+        const MessageBoxes no(QMessageBox::No);
         QTest::keyClick(m_list, Qt::Key_Delete);
-        QVERIFY(no.given);
+        QCOMPARE(no.count(), 1);
     }
     QCOMPARE(m_searches->all().count(), 1);
-    const Answer yes(QMessageBox::Yes);
+    const MessageBoxes yes(QMessageBox::Yes);
     QTest::keyClick(m_list, Qt::Key_Delete);
     QCOMPARE(m_searches->all().count(), 0);
     QVERIFY(!m_list->isVisible());
