@@ -12,13 +12,6 @@ QSharedPointer<EmbThread> grayThread(int gray, const QString &description)
                                              QString(), QString(), QString());
 }
 
-bool isColorChange(int data)
-{
-    const int command = data & 0xFF;
-    return command == StitchCommandColorChange || command == StitchCommandColorChange9 ||
-           command == StitchCommandColorChange226;
-}
-
 } // namespace
 
 QSharedPointer<EmbPattern> EmbPattern::create()

@@ -26,6 +26,14 @@ enum StitchCommand {
     StitchCommandColorChange226 = 226
 };
 
+/** Whether a point's data word asks for the next thread. */
+constexpr bool isColorChange(int data)
+{
+    const int command = data & 0xFF;
+    return command == StitchCommandColorChange || command == StitchCommandColorChange9 ||
+           command == StitchCommandColorChange226;
+}
+
 /**
  * One design in memory: a flat run of points with a command each, the threads
  * in the order of their use, and texts about the design.

@@ -8,6 +8,7 @@
 #include "ui/panels/SearchCompleter.h"
 #include "ui/panels/SearchHelpMenu.h"
 #include "ui/panels/SearchMessage.h"
+#include "embroidery/HoopSizes.h"
 #include "ui_FilterBarUI.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
@@ -21,23 +22,6 @@ constexpr double MillimetresPerInch = 25.4;
 
 /** What the search field needs beside the other fields to be of use. */
 constexpr int LeastSearchWidth = 120;
-
-QStringList inchSizes()
-{
-    return {QStringLiteral("3.9"), QStringLiteral("5.1"),  QStringLiteral("5.5"),
-            QStringLiteral("5.7"), QStringLiteral("5.9"),  QStringLiteral("6.2"),
-            QStringLiteral("7"),   QStringLiteral("7.9"),  QStringLiteral("9.4"),
-            QStringLiteral("10"),  QStringLiteral("10.2"), QStringLiteral("11.8"),
-            QStringLiteral("14")};
-}
-
-QStringList millimetreSizes()
-{
-    return {QStringLiteral("90"),  QStringLiteral("100"), QStringLiteral("130"),
-            QStringLiteral("140"), QStringLiteral("145"), QStringLiteral("150"),
-            QStringLiteral("160"), QStringLiteral("180"), QStringLiteral("200"),
-            QStringLiteral("255"), QStringLiteral("300"), QStringLiteral("360")};
-}
 
 } // namespace
 
@@ -184,7 +168,7 @@ void FilterBar::updateSizeWidgets()
     const bool imperial = GlobalSettings().imperialUnits();
     m_sizeUnitFactor = imperial ? MillimetresPerInch : 1.0;
     m_ui->maxSizeLabel->setText(tr("Max. size (%1):").arg(imperial ? tr("in") : tr("mm")));
-    const QStringList sizes = QStringList(tr("any")) + (imperial ? inchSizes() : millimetreSizes());
+    const QStringList sizes = QStringList(tr("any")) + Embroidery::HoopSizes::sides(imperial);
     for (QComboBox *box : {m_ui->widthCombobox, m_ui->heightCombobox})
         box->insertItems(box->count(), sizes);
 }
