@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 
 namespace {
 
@@ -61,6 +60,15 @@ void GTranslationLoader::loadLanguage(QCoreApplication *app, QTranslator &transl
     const QString file = fileForLanguage(pattern, m_languageCode);
     if (QFile::exists(file) && translator.load(file))
         app->installTranslator(&translator);
+}
+
+QLocale GTranslationLoader::locale() const
+{
+    const QLocale system = QLocale::system();
+    const QLocale program(m_languageCode);
+    const bool same =
+        system.language() == program.language() && system.script() == program.script();
+    return same ? system : program;
 }
 
 QStringList GTranslationLoader::getAvailableLanguages() const

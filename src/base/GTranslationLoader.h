@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
@@ -20,6 +21,12 @@ public:
 
     /** The chosen language, for instance "de" or "zh-CN". */
     QString languageCode() const { return m_languageCode; }
+
+    /**
+     * How numbers and dates are written: the system's own way, unless its language is
+     * not that of the program's texts.
+     */
+    QLocale locale() const;
 
     /** Codes of the languages that the product is translated into. */
     QStringList getAvailableLanguages() const;

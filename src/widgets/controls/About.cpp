@@ -14,16 +14,6 @@ namespace {
 
 constexpr int IconSize = 96;
 
-// The system's own way to write a date, unless its language is not that of the other texts.
-QLocale dateLocale()
-{
-    const QLocale system = QLocale::system();
-    const QLocale program(GTranslationLoader::instance()->languageCode());
-    const bool same =
-        system.language() == program.language() && system.script() == program.script();
-    return same ? system : program;
-}
-
 QLabel *addLine(QVBoxLayout *layout, const QString &text)
 {
     auto *label = new QLabel(text);
@@ -62,7 +52,7 @@ About::About(QWidget *parent) : QDialog(parent)
 
 QString About::versionText()
 {
-    const QString date =
-        dateLocale().toString(GApplicationAddons::buildDate(), QLocale::LongFormat);
+    const QString date = GTranslationLoader::instance()->locale().toString(
+        GApplicationAddons::buildDate(), QLocale::LongFormat);
     return tr("Version %1\nBuilt on %2").arg(QApplication::applicationVersion(), date);
 }
