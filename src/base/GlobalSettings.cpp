@@ -11,6 +11,10 @@ const QString ApplicationDataPath = QStringLiteral("applicationDataPath");
 const QString LastImportPath = QStringLiteral("lastImportPath");
 const QString GridScaleFactor = QStringLiteral("gridScaleFactor");
 const QString SortOrder = QStringLiteral("sortOrder");
+const QString FabricColor = QStringLiteral("fabricColor");
+const QString JumpsShown = QStringLiteral("jumpsShown");
+const QString HoopShown = QStringLiteral("hoopShown");
+const QString DesignWindowGeometry = QStringLiteral("designWindowGeometry");
 const QString ImperialUnits = QStringLiteral("imperialUnits");
 
 } // namespace
@@ -72,6 +76,46 @@ QString GlobalSettings::sortOrder() const
 void GlobalSettings::setSortOrder(const QString &order)
 {
     setValue(SortOrder, order);
+}
+
+QString GlobalSettings::fabricColor() const
+{
+    return value(FabricColor, QStringLiteral("#f7f5f0")).toString();
+}
+
+void GlobalSettings::setFabricColor(const QString &color)
+{
+    setValue(FabricColor, color);
+}
+
+bool GlobalSettings::jumpsShown() const
+{
+    return value(JumpsShown, false).toBool();
+}
+
+void GlobalSettings::setJumpsShown(bool shown)
+{
+    setValue(JumpsShown, shown);
+}
+
+bool GlobalSettings::hoopShown() const
+{
+    return value(HoopShown, true).toBool();
+}
+
+void GlobalSettings::setHoopShown(bool shown)
+{
+    setValue(HoopShown, shown);
+}
+
+QByteArray GlobalSettings::designWindowGeometry() const
+{
+    return value(DesignWindowGeometry).toByteArray();
+}
+
+void GlobalSettings::setDesignWindowGeometry(const QByteArray &geometry)
+{
+    setValue(DesignWindowGeometry, geometry);
 }
 
 bool GlobalSettings::imperialUnits()

@@ -37,6 +37,20 @@ public:
     QString sortOrder() const;
     void setSortOrder(const QString &order);
 
+    /** Of the design window, as "#rrggbb": what the design lies on. */
+    QString fabricColor() const;
+    void setFabricColor(const QString &color);
+
+    /** Whether the design window shows the jumps between stitches, and the hoop. */
+    bool jumpsShown() const;
+    void setJumpsShown(bool shown);
+    bool hoopShown() const;
+    void setHoopShown(bool shown);
+
+    /** Where the design window was, as QWidget::saveGeometry() has it; empty when never shown. */
+    QByteArray designWindowGeometry() const;
+    void setDesignWindowGeometry(const QByteArray &geometry);
+
     /** Inches rather than millimetres. Decided by the system's locale on the first call. */
     bool imperialUnits();
     void setImperialUnits(bool imperial);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
@@ -107,11 +108,13 @@ private:
             return {QAccessible::ComboBox};
         if (qobject_cast<const QTabBar *>(widget))
             return {QAccessible::PageTabList};
+        if (qobject_cast<const QAbstractSlider *>(widget))
+            return {QAccessible::Slider, QAccessible::ScrollBar};
         if (qobject_cast<const QProgressBar *>(widget))
             return {QAccessible::ProgressBar};
         if (qobject_cast<const QLabel *>(widget))
             return {QAccessible::StaticText, QAccessible::Graphic, QAccessible::Link};
-        return {QAccessible::List, QAccessible::Tree, QAccessible::Table, QAccessible::ScrollBar};
+        return {QAccessible::List, QAccessible::Tree, QAccessible::Table, QAccessible::Graphic};
     }
 
     static QString roleName(QAccessible::Role role)

@@ -3,11 +3,15 @@
 
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/models/FilterSelectionModel.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/Metrics.h"
 #include "online/UpdateDialog.h"
 #include "preview/grid/PreviewSheet.h"
+#include "support/DstDesign.h"
 #include "ui/CenterView.h"
+#include "ui/design/DesignWindow.h"
+#include "ui/design/PlaybackBar.h"
 #include "ui/ExportDialog.h"
 #include "ui/LeftSidebar.h"
 #include "ui/MainWindow.h"
@@ -144,8 +148,10 @@ private slots:
 private:
     void show(QWidget *window);
     QWidget *filledWindow();
+    QWidget *designWindow();
 
     QTemporaryDir m_directory;
+    std::unique_ptr<FilterSelectionModel> m_models;
     std::unique_ptr<QWidget> m_shown;
 };
 
@@ -181,6 +187,19 @@ QWidget *tst_accessibility::filledWindow()
     return window;
 }
 
+QWidget *tst_accessibility::designWindow()
+{
+    const QString path = m_directory.filePath(QStringLiteral("square.dst"));
+    DstDesign::square().writeTo(path);
+    const auto project = projectWithFiles({path});
+    m_models = std::make_unique<FilterSelectionModel>(project);
+    auto *window = new DesignWindow(m_models->filter());
+    window->open(project->files().first());
+    if (!QTest::qWaitFor([window] { return window->findChild<PlaybackBar *>()->isEnabled(); }))
+        qFatal("the design is not read");
+    return window;
+}
+
 void tst_accessibility::show(QWidget *window)
 {
     m_shown.reset(window);
@@ -195,6 +214,7 @@ void tst_accessibility::servesKeyboardAndScreenReader_data()
     QTest::addColumn<Maker>("make");
     const auto row = [](const char *name, const Maker &make) { QTest::newRow(name) << make; };
     row("main window", [this] { return filledWindow(); });
+    row("design", [this] { return designWindow(); });
     row("progress", [] {
         auto *dialog = new ProgressDialog(nullptr);
         dialog->setSteps(3);
