@@ -5,6 +5,7 @@
 #include "catalogue/models/ISelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "preview/grid/PreviewBrowser.h"
+#include "ui/design/DesignWindow.h"
 #include "ui/EmptyHint.h"
 #include "ui/panels/FilterBar.h"
 
@@ -25,9 +26,12 @@ CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
     layout->addWidget(m_filterBar);
     layout->addWidget(m_browser, 1);
 
+    connect(m_browser, &PreviewBrowser::openRequested, this, &CenterView::showInWindow);
     connect(m_hint, &EmptyHint::addFolderRequested, this, &CenterView::addFolderRequested);
     connect(m_hint, &EmptyHint::allDesignsRequested, this, &CenterView::showAllDesigns);
 }
+
+CenterView::~CenterView() = default;
 
 void CenterView::setScanning(bool scanning)
 {
@@ -84,4 +88,19 @@ bool CenterView::showsAll(const QList<QSharedPointer<IFile>> &designs) const
     const QSet<QSharedPointer<IFile>> set(shown.begin(), shown.end());
     return std::all_of(designs.begin(), designs.end(),
                        [&](const auto &design) { return set.contains(design); });
+}
+
+void CenterView::openDesign()
+{
+    m_browser->openCurrent();
+}
+
+void CenterView::showInWindow(const QSharedPointer<IFile> &file)
+{
+    if (!m_designWindow) {
+        m_designWindow = std::make_unique<DesignWindow>(m_model->filter());
+        connect(m_designWindow.get(), &DesignWindow::designShown, m_browser,
+                &PreviewBrowser::showDesign);
+    }
+    m_designWindow->open(file);
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <QList>
 #include <QSharedPointer>
 #include <QWidget>
 
+class DesignWindow;
 class EmptyHint;
 class FilterBar;
 class FilterSelectionModel;
@@ -20,6 +22,10 @@ public:
     /** @param model not owned, must outlive the view */
     CenterView(QWidget *parent, const QSharedPointer<Project> &project,
                FilterSelectionModel *model);
+    ~CenterView() override;
+
+    /** The grid, whose zoom the status line shows. */
+    PreviewBrowser *browser() const { return m_browser; }
 
     /** Keeps back what an empty sheet tells while a scan fills it. */
     void setScanning(bool scanning);
@@ -34,6 +40,9 @@ public slots:
     /** Selects these designs and brings them into view; lifts filters that hide any. */
     void showDesigns(const QList<QSharedPointer<IFile>> &designs);
 
+    /** Shows the design of the current card in a window of its own. */
+    void openDesign();
+
 signals:
     /** The user, whose catalogue has no designs, wants to add a folder. */
     void addFolderRequested();
@@ -43,9 +52,12 @@ signals:
 private:
     void showAllDesigns();
     bool showsAll(const QList<QSharedPointer<IFile>> &designs) const;
+    void showInWindow(const QSharedPointer<IFile> &file);
 
     FilterSelectionModel *m_model;
     FilterBar *m_filterBar;
     PreviewBrowser *m_browser;
     EmptyHint *m_hint;
+    // Made for the first design, and used for all that follow.
+    std::unique_ptr<DesignWindow> m_designWindow;
 };

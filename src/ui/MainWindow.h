@@ -89,6 +89,7 @@ private:
     GAction *m_addFolderAction = nullptr;
     GAction *m_removeFolderAction = nullptr;
     GAction *m_rescanAction = nullptr;
+    GAction *m_openDesignAction = nullptr;
     GAction *m_selectAllAction = nullptr;
     GAction *m_saveSearchAction = nullptr;
     GAction *m_zoomInAction = nullptr;

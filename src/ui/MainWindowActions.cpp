@@ -29,6 +29,9 @@ void MainWindow::createActions()
         new GAction(icon("addFolder"), tr("&Add folder..."), this, SLOT(addDirectory()));
     m_removeFolderAction = new GAction(icon("removeFolder"), tr("&Remove folder"), this,
                                        SLOT(removeSelectedDirectory()));
+    m_openDesignAction = new GAction(tr("&Open design"), this);
+    m_openDesignAction->setShortcuts(QKeySequence::Open);
+    connect(m_openDesignAction, &QAction::triggered, m_center, &CenterView::openDesign);
     m_selectAllAction = new GAction(tr("Select all"), this);
     m_selectAllAction->setShortcuts(QKeySequence::SelectAll);
     connect(m_selectAllAction, &QAction::triggered, m_center, &CenterView::selectAll);
@@ -62,6 +65,8 @@ void MainWindow::createFileMenu()
     m_fileMenu->addAction(m_addFolderAction);
     m_fileMenu->addAction(m_removeFolderAction);
     m_fileMenu->addAction(m_rescanAction);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(m_openDesignAction);
     m_fileMenu->addSeparator();
 }
 

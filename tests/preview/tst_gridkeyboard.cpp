@@ -23,6 +23,8 @@ private slots:
     void favoritesByKey();
     void contextMenuByKey_data();
     void contextMenuByKey();
+    void opensTheDesign();
+    void followsTheDesignShown();
     void frameShowsTheFocus();
     void leavesOtherKeysAlone();
     void accessibleCards();
@@ -202,6 +204,49 @@ void tst_GridKeyboard::contextMenuByKey()
     QVERIFY(place.intersects(grid.view->screenRectOf(49)));
 }
 
+void tst_GridKeyboard::opensTheDesign()
+{
+    GridFixture grid(50);
+    Files opened;
+    connect(grid.browser, &PreviewBrowser::openRequested, this,
+            [&opened](const QSharedPointer<IFile> &file) { opened.append(file); });
+    grid.press(Qt::Key_Return);
+    QVERIFY(opened.isEmpty());
+    grid.press(Qt::Key_Home);
+    grid.press(Qt::Key_Return);
+    // The current card, though another one is selected.
+    grid.press(Qt::Key_Right, Qt::ControlModifier);
+    grid.press(Qt::Key_Enter, Qt::KeypadModifier);
+    QTimer::singleShot(0, this, []() {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QCOMPARE(menu->actions().first()->text(), QStringLiteral("Open"));
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    grid.press(Qt::Key_Right);
+    grid.press(Qt::Key_F10, Qt::ShiftModifier);
+    QCOMPARE(opened, grid.range(0, 2));
+}
+
+void tst_GridKeyboard::followsTheDesignShown()
+{
+    GridFixture grid(50);
+    grid.browser->showDesign(grid.files.at(30));
+    QCOMPARE(grid.selected(), grid.range(30, 30));
+    QCOMPARE(grid.current(), 30);
+    QVERIFY(grid.isInView(30));
+    // Who has selected several wants to keep them.
+    grid.press(Qt::Key_Right, Qt::ShiftModifier);
+    grid.browser->showDesign(grid.files.at(2));
+    QCOMPARE(grid.current(), 2);
+    QVERIFY(grid.isInView(2));
+    QCOMPARE(grid.selected(), grid.range(30, 31));
+    grid.models.filter()->setFileType(QStringLiteral("pes"));
+    const int current = grid.current();
+    grid.browser->showDesign(grid.files.at(4));
+    QCOMPARE(grid.current(), current);
+}
+
 void tst_GridKeyboard::frameShowsTheFocus()
 {
     GridFixture grid(50);
@@ -237,7 +282,7 @@ void tst_GridKeyboard::leavesOtherKeysAlone()
         grid.press(key, Qt::AltModifier);
     }
     grid.press(Qt::Key_F, Qt::ControlModifier);
-    grid.press(Qt::Key_Return);
+    grid.press(Qt::Key_Return, Qt::AltModifier);
     grid.press(Qt::Key_F10);
     QCOMPARE(grid.selected(), grid.range(0, 0));
     QVERIFY(!grid.files.first()->isFavorite());

@@ -8,6 +8,7 @@
 #include "preview/grid/PreviewBrowser.h"
 #include "support/DstDesign.h"
 #include "support/MessageBoxes.h"
+#include "ui/design/DesignWindow.h"
 #include "ui/EmptyHint.h"
 #include "ui/MainWindow.h"
 #include "ui/NoticeBar.h"
@@ -67,6 +68,7 @@ private slots:
     void emptySheetIsSilentDuringAScan();
     void emptySheetLeadsOutOfTheFilter();
     void selectsWhatTheFilterShows();
+    void opensADesignInItsWindow();
     void transferAsksForASelection();
     void closesByKeyAndComesBack();
     void asksWhenTheCatalogueCannotBeUsed_data();
@@ -78,6 +80,7 @@ private:
     QString createFolder(const QString &name, const QStringList &designs);
     QAction *action(const QString &text) const;
     QGraphicsScene *scene() const;
+    DesignWindow *shownDesign() const;
     EmptyHint *hint() const { return m_window->findChild<EmptyHint *>(); }
     QString hintText() const { return hint()->findChild<QLabel *>()->text(); }
     QPushButton *hintButton() const { return hint()->findChild<QPushButton *>(); }
@@ -134,6 +137,17 @@ QGraphicsScene *tst_mainwindow::scene() const
     return m_window->findChild<PreviewBrowser *>()->findChild<QGraphicsView *>()->scene();
 }
 
+DesignWindow *tst_mainwindow::shownDesign() const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *design = qobject_cast<DesignWindow *>(window);
+        if (design && design->isVisible())
+            return design;
+    }
+    return nullptr;
+}
+
 QString tst_mainwindow::catalogue() const
 {
     QFile file(m_directory->filePath(QStringLiteral("data/hoopline-organizer.xml")));
@@ -161,7 +175,8 @@ void tst_mainwindow::offersItsCommands()
         menus.append(texts(menu->menu()->actions()).join(QLatin1Char('|')));
     QCOMPARE(
         menus,
-        (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|Preferences...|Quit"),
+        (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|&Open design|-|"
+                                "Preferences...|Quit"),
                      QStringLiteral("Select all|Save search"), QStringLiteral("&Sort by"),
                      QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
                                     "&About Hoopline Organizer")}));
@@ -383,6 +398,39 @@ void tst_mainwindow::selectsWhatTheFilterShows()
     QTest::keyClicks(search, QStringLiteral("rose"));
     action(QStringLiteral("Select all"))->trigger();
     QCOMPARE(scene()->selectedItems().size(), 2);
+}
+
+void tst_mainwindow::opensADesignInItsWindow()
+{
+    const QString roses = createFolder(
+        QStringLiteral("roses"), {QStringLiteral("rose.dst"), QStringLiteral("white rose.dst")});
+    open();
+    m_window->filesDropped({roses});
+    // Anew, as the progress dialog has taken the focus.
+    QVERIFY(m_window->closeWindow());
+    QTRY_VERIFY(!m_window);
+    open();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QTest::keySequence(m_window, QKeySequence(QKeySequence::SelectAll));
+    QTest::keySequence(m_window, QKeySequence(QKeySequence::Open));
+    const QPointer<DesignWindow> design = shownDesign();
+    QVERIFY(design && QTest::qWaitForWindowActive(design));
+    QVERIFY(design->windowTitle().contains(QStringLiteral("rose.dst")));
+    // The grid goes along with it.
+    scene()->clearSelection();
+    QTest::keyClick(design, Qt::Key_Right);
+    QCOMPARE(scene()->selectedItems().size(), 1);
+    QTest::keyClick(design, Qt::Key_Escape);
+    QVERIFY(!design->isVisible());
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QTest::keySequence(m_window, QKeySequence(QKeySequence::Open));
+    QVERIFY(design->isVisible());
+    QVERIFY(design->windowTitle().contains(QStringLiteral("white rose.dst")));
+    // It does not outlive the window that it came from.
+    QVERIFY(m_window->closeWindow());
+    QTRY_VERIFY(!m_window);
+    QVERIFY(!design);
 }
 
 void tst_mainwindow::transferAsksForASelection()

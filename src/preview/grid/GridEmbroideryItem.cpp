@@ -13,6 +13,7 @@
 #include <QGraphicsSceneContextMenuEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionGraphicsItem>
 
 const GridEmbroideryItem::ItemLayout GridEmbroideryItem::NormalGrid = {200, 10, 2, 10};
@@ -268,8 +269,15 @@ void GridEmbroideryItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *)
 void GridEmbroideryItem::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
 {
     // The card may be gone when the user has chosen.
-    const QString path = m_file->absoluteFilePath();
+    const QSharedPointer<IFile> file = m_file;
+    const QPointer<GridPreviewScene> scene = m_scene;
+    const QString path = file->absoluteFilePath();
     QMenu menu;
+    QObject::connect(menu.addAction(tr("Open")), &QAction::triggered, [file, scene]() {
+        if (scene != nullptr) {
+            scene->requestOpen(file);
+        }
+    });
     QObject::connect(menu.addAction(DesktopInteraction::revealActionTextString()),
                      &QAction::triggered, [path]() { DesktopInteraction::revealInFinder(path); });
     menu.exec(event->screenPos());

@@ -33,8 +33,8 @@ GridGraphicsView::GridGraphicsView(QWidget *parent) : EditorGraphicsView(parent)
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     GridAccessible::install();
     setAccessibleName(tr("Designs"));
-    setAccessibleDescription(
-        tr("The arrow keys choose a design, Space enlarges it, F marks it as a favorite."));
+    setAccessibleDescription(tr("The arrow keys choose a design, Return opens it, Space enlarges "
+                                "it, F marks it as a favorite."));
     updateBackground();
 }
 
@@ -113,6 +113,10 @@ bool GridGraphicsView::handleCardKey(QKeyEvent *event)
                modifiers == Qt::ControlModifier) {
         m_gridScene->toggleCurrent();
         announce(QAccessible::Selection, m_gridScene->currentIndex());
+    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && modifiers == Qt::NoModifier) {
+        if (!event->isAutoRepeat()) {
+            emit openDesign();
+        }
     } else if (key == Qt::Key_F && modifiers == Qt::NoModifier) {
         if (!event->isAutoRepeat()) {
             emit toggleFavorites();

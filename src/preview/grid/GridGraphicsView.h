@@ -16,6 +16,9 @@ public:
     void setScene(GridPreviewScene *scene);
     GridPreviewScene *gridScene() const { return m_gridScene; }
 
+    /** Scrolls as far as it takes for the card to be seen. */
+    void showCard(int index);
+
     /** Where a card is on the screen, in pixels, though it may be scrolled out of the view. */
     QRect screenRectOf(int index) const;
 
@@ -27,6 +30,8 @@ signals:
     void widthChanged(int width);
     /** The user wants to see the selection enlarged. */
     void openSelection();
+    /** The user wants a closer look at the design of the current card. */
+    void openDesign();
     /** The user wants the favourite flag of the selection turned over. */
     void toggleFavorites();
 
@@ -51,7 +56,6 @@ private:
     void moveByKey(int key, GridPreviewScene::Selecting selecting);
     int rowsPerPage() const;
     int firstIndexInView() const;
-    void showCard(int index);
     void openContextMenu();
     void dragDesigns();
     void announce(QAccessible::Event type, int index);

@@ -29,6 +29,8 @@ public:
     int count() const { return m_items.size(); }
     /** The card at `index`, which must be one of count(). */
     GridEmbroideryItem *cardAt(int index) const { return m_items.at(index); }
+    /** Where the card of this file is; -1 where it has none. */
+    int indexOf(const QSharedPointer<IFile> &file) const { return m_files.indexOf(file); }
     /** How many cards a full row has, at least 1. */
     int columns() const { return m_columns; }
     /** How far the tops of two rows are apart, in scene units; 0 without cards. */
@@ -59,6 +61,9 @@ public:
     /** The card with the focus frame, if any. */
     const GridEmbroideryItem *focusedCard() const;
 
+    /** For cards: the user wants a closer look at the design. */
+    void requestOpen(const QSharedPointer<IFile> &file) { emit openRequested(file); }
+
     /** What the cards draw their previews from. */
     ThumbnailCache &thumbnails() { return m_thumbnails; }
 
@@ -77,6 +82,8 @@ public slots:
 
 signals:
     void filesSelected(const QList<QSharedPointer<IFile>> &files);
+    /** The user wants a closer look at the design. */
+    void openRequested(const QSharedPointer<IFile> &file);
     /** Another card is the current one. */
     void currentChanged(int index);
 

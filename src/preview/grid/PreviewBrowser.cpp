@@ -50,7 +50,10 @@ void PreviewBrowser::connectModels()
     connect(m_view, &GridGraphicsView::widthChanged, m_scene,
             &GridPreviewScene::setPreferredSceneWidth);
     connect(m_view, &EditorGraphicsView::zoomChanged, m_scene, &GridPreviewScene::setScaleFactor);
+    connect(m_view, &EditorGraphicsView::zoomChanged, this, &PreviewBrowser::zoomChanged);
     connect(m_view, &GridGraphicsView::openSelection, this, &PreviewBrowser::previewSelection);
+    connect(m_view, &GridGraphicsView::openDesign, this, &PreviewBrowser::openCurrent);
+    connect(m_scene, &GridPreviewScene::openRequested, this, &PreviewBrowser::openRequested);
     connect(m_view, &GridGraphicsView::toggleFavorites, this, &PreviewBrowser::toggleFavorites);
     connect(m_scene, &GridPreviewScene::filesSelected, m_models->selection(),
             &ISelectionModel::setSelection);
@@ -85,18 +88,25 @@ void PreviewBrowser::filterChanged()
     m_scene->setFiles(m_models->filter()->filteredFiles());
 }
 
+int PreviewBrowser::zoomPercent() const
+{
+    return qRound(m_view->currentZoomValue() * 100.0);
+}
+
 void PreviewBrowser::zoomIn()
 {
-    if (m_zoomIndex < ScaleFactors.size() - 1) {
-        ++m_zoomIndex;
-        updateZoomAndKeepSelectionVisible();
-    }
+    setZoomIndex(std::min(m_zoomIndex + 1, ScaleFactors.size() - 1));
 }
 
 void PreviewBrowser::zoomOut()
 {
-    if (m_zoomIndex >= 1) {
-        --m_zoomIndex;
+    setZoomIndex(std::max(m_zoomIndex - 1, 0));
+}
+
+void PreviewBrowser::setZoomIndex(int index)
+{
+    if (index != m_zoomIndex) {
+        m_zoomIndex = index;
         updateZoomAndKeepSelectionVisible();
     }
 }
@@ -128,6 +138,28 @@ void PreviewBrowser::previewSelection()
         PreviewSheet sheet(this, PreviewCache::instance().previewImage(files.first(), nullptr));
         sheet.exec();
     }
+}
+
+void PreviewBrowser::openCurrent()
+{
+    const QList<QSharedPointer<IFile>> selected = m_models->selection()->selectedFiles();
+    if (m_scene->currentIndex() >= 0) {
+        emit openRequested(m_scene->cardAt(m_scene->currentIndex())->file());
+    } else if (!selected.isEmpty()) {
+        emit openRequested(selected.first());
+    }
+}
+
+void PreviewBrowser::showDesign(const QSharedPointer<IFile> &file)
+{
+    const int index = m_scene->indexOf(file);
+    if (index < 0) {
+        return;
+    }
+    const bool several = m_models->selection()->selectedFiles().size() > 1;
+    m_view->showCard(index);
+    m_scene->moveTo(index,
+                    several ? GridPreviewScene::SelectNothing : GridPreviewScene::SelectCard);
 }
 
 void PreviewBrowser::toggleFavorites()

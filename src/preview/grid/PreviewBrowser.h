@@ -8,6 +8,7 @@
 class FilterSelectionModel;
 class GridGraphicsView;
 class GridPreviewScene;
+class IFile;
 class Project;
 
 /** The grid of cards: view, scene, zoom steps and the way to the models. */
@@ -24,6 +25,11 @@ public:
     /** The zoom steps, in per cent. */
     static const QList<int> ScaleFactors;
 
+    /** Which of ScaleFactors the commands go on from. */
+    int zoomIndex() const { return m_zoomIndex; }
+    /** In per cent; pinching leads off the steps. */
+    int zoomPercent() const;
+
     void observedObjectChanged(const Observable *observable) override;
 
 public slots:
@@ -31,11 +37,27 @@ public slots:
     void zoomOut();
     /** Scrolls to the first selected card and gives it the keys. */
     void showSelection();
+
+    /** Zooms to the step at `index` of ScaleFactors, which must be one of them. */
+    void setZoomIndex(int index);
     /** Shows the selected design enlarged, if it is exactly one. */
     void previewSelection();
     void filterChanged();
+    /** Asks for the design of the current card, or the one that is selected, to be opened. */
+    void openCurrent();
+    /**
+     * Makes the card of this design the current one, in view and selected in the place of
+     * another one; the selection of several stays as it is.
+     */
+    void showDesign(const QSharedPointer<IFile> &file);
     /** Marks the selected designs as favourites; takes the mark off when all of them have it. */
     void toggleFavorites();
+
+signals:
+    /** The user wants a closer look at the design. */
+    void openRequested(const QSharedPointer<IFile> &file);
+    /** zoomPercent() or zoomIndex() is another one. */
+    void zoomChanged();
 
 protected:
     void changeEvent(QEvent *event) override;
