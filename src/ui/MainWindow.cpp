@@ -14,6 +14,7 @@
 #include "catalogue/sync/ProjectController.h"
 #include "online/metrics/Metrics.h"
 #include "preview/cache/PreviewCache.h"
+#include "preview/grid/PreviewBrowser.h"
 #include "ui/CatalogueKeeper.h"
 #include "ui/CatalogueQuestions.h"
 #include "ui/CenterView.h"
@@ -25,6 +26,7 @@
 #include "ui/RightSidebar.h"
 #include "ui/TransferNotice.h"
 #include "ui/SortMenu.h"
+#include "ui/StatusLine.h"
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/style/GWidgetStyles.h"
 
@@ -71,6 +73,8 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
     createPanes();
     createActions();
     createMenus();
+    // The Tab key comes to it after the panes.
+    createStatusLine();
     createToolbars();
     createPathOpener();
     setupInitialLayout();
@@ -94,8 +98,9 @@ MainWindow::~MainWindow()
         PreviewCache::instance().clear();
         m_keeper->saveAnyway();
     });
-    // The panes use the models, which go with the controller.
+    // The panes and the line below them use the models, which go with the controller.
     delete m_splitter;
+    delete m_status;
 }
 
 /** True when the folder of the catalogue was missing though it should have been there. */
@@ -164,6 +169,20 @@ void MainWindow::createPanes()
             &MainWindow::removeSelectedDirectory);
     connect(m_center, &CenterView::addFolderRequested, this, &MainWindow::addDirectory);
     connect(m_center, &CenterView::allFoldersRequested, m_left, &LeftSidebar::showAllFolders);
+}
+
+void MainWindow::createStatusLine()
+{
+    m_status = new StatusLine(this, m_controller->selectionModel());
+    setStatusBar(m_status);
+    PreviewBrowser *browser = m_center->browser();
+    const auto showZoom = [this, browser] {
+        m_status->showZoom(browser->zoomPercent(), browser->zoomIndex());
+    };
+    m_status->setZoomSteps(PreviewBrowser::ScaleFactors.size());
+    connect(m_status, &StatusLine::zoomStepChosen, browser, &PreviewBrowser::setZoomIndex);
+    connect(browser, &PreviewBrowser::zoomChanged, m_status, showZoom);
+    showZoom();
 }
 
 void MainWindow::setupInitialLayout()
@@ -246,17 +265,20 @@ bool MainWindow::isModified() const
     return false;
 }
 
-void MainWindow::runWithProgress(const std::function<void()> &operation)
+void MainWindow::runWithProgress(const QString &activity, const std::function<void()> &operation)
 {
     const QScopedValueRollback<bool> running(m_operationRunning, true);
     m_center->setScanning(true);
     m_keeper->setPaused(true);
+    m_status->setActivity(activity);
     bool complete = false;
     m_folderChanges->watcher()->beginScan();
     const auto scanned = qScopeGuard([&] {
         m_keeper->setPaused(false);
         m_center->setScanning(false);
         m_folderChanges->watcher()->endScan(complete);
+        m_status->setActivity(QString());
+        m_status->refresh();
     });
     m_progressDialog->show();
     try {
@@ -278,7 +300,7 @@ void MainWindow::hideStaleProgress()
 
 void MainWindow::addDirectories(const QStringList &directories)
 {
-    runWithProgress([&] { m_controller->addDirectories(directories); });
+    runWithProgress(tr("Scanning..."), [&] { m_controller->addDirectories(directories); });
     GlobalSettings().setLastImportPath(directories.first());
     filter()->setDirectory(directories.first());
 }
@@ -316,13 +338,14 @@ void MainWindow::removeSelectedDirectory()
                          folder);
     if (question.exec() == QMessageBox::No)
         return;
-    runWithProgress([this] { m_controller->removeSelectedDirectory(); });
+    runWithProgress(tr("Removing the folder..."),
+                    [this] { m_controller->removeSelectedDirectory(); });
     filter()->setDirectory(m_project->smartFolders().value(0));
 }
 
 void MainWindow::rescanDirectories()
 {
-    runWithProgress([this] { m_controller->scanSmartFolders(); });
+    runWithProgress(tr("Scanning..."), [this] { m_controller->scanSmartFolders(); });
 }
 
 void MainWindow::exportSelectedFiles()

@@ -20,6 +20,7 @@ class ProjectController;
 class RightSidebar;
 class TransferNotice;
 class SavedSearches;
+class StatusLine;
 
 /** The one window of the product: owns the catalogue's controller and turns commands into calls. */
 class MainWindow : public GMainWindow
@@ -79,9 +80,10 @@ private:
     void createHelpMenu();
     void createToolbars();
     void createPathOpener();
+    void createStatusLine();
     void setupInitialLayout();
     void addDirectories(const QStringList &directories);
-    void runWithProgress(const std::function<void()> &operation);
+    void runWithProgress(const QString &activity, const std::function<void()> &operation);
     void hideStaleProgress();
     void finishEdit();
     IFilterModel *filter() const;
@@ -108,6 +110,7 @@ private:
     LeftSidebar *m_left = nullptr;
     CenterView *m_center = nullptr;
     RightSidebar *m_right = nullptr;
+    StatusLine *m_status = nullptr;
     QSharedPointer<Project> m_project;
     std::unique_ptr<ProjectController> m_controller;
     std::unique_ptr<CatalogueKeeper> m_keeper;

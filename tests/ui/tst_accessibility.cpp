@@ -18,6 +18,7 @@
 #include "ui/PreferencesDialog.h"
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
+#include "ui/StatusLine.h"
 #include "widgets/controls/About2.h"
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/controls/GSideBarBox.h"
@@ -77,7 +78,8 @@ QWidgetList tabOrder(QWidget *window)
 QWidget *paneOf(QWidget *widget)
 {
     while (widget && !qobject_cast<GToolBar *>(widget) && !qobject_cast<GSideBarBox *>(widget) &&
-           !qobject_cast<CenterView *>(widget) && !widget->isWindow())
+           !qobject_cast<CenterView *>(widget) && !qobject_cast<StatusLine *>(widget) &&
+           !widget->isWindow())
         widget = widget->parentWidget();
     return widget;
 }
@@ -279,7 +281,7 @@ void tst_accessibility::tabLeadsThroughThePanes()
     for (const QWidget *pane : qAsConst(panes))
         names.append(QString::fromLatin1(pane->metaObject()->className()));
     QCOMPARE(names.join(QLatin1Char(' ')),
-             QStringLiteral("GToolBar DirectoriesBox TagsBox CenterView PropertiesBox"));
+             QStringLiteral("GToolBar DirectoriesBox TagsBox CenterView PropertiesBox StatusLine"));
 }
 
 int main(int argc, char **argv)

@@ -17,7 +17,9 @@
 #include "ui/panels/SavedSearchesBox.h"
 #include "ui/ProgressDialog.h"
 #include "ui/SortMenu.h"
+#include "ui/StatusLine.h"
 
+#include <algorithm>
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
@@ -32,6 +34,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSplitter>
+#include <QSlider>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
@@ -69,6 +72,7 @@ private slots:
     void emptySheetLeadsOutOfTheFilter();
     void selectsWhatTheFilterShows();
     void opensADesignInItsWindow();
+    void tellsInTheStatusLine();
     void transferAsksForASelection();
     void closesByKeyAndComesBack();
     void asksWhenTheCatalogueCannotBeUsed_data();
@@ -431,6 +435,35 @@ void tst_mainwindow::opensADesignInItsWindow()
     QVERIFY(m_window->closeWindow());
     QTRY_VERIFY(!m_window);
     QVERIFY(!design);
+}
+
+void tst_mainwindow::tellsInTheStatusLine()
+{
+    const QString roses = createFolder(QStringLiteral("roses"),
+                                       {QStringLiteral("rose.dst"), QStringLiteral("leaf.dst")});
+    open();
+    auto *line = m_window->findChild<StatusLine *>();
+    const auto says = [line](const QString &text) {
+        const auto labels = line->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&text](const QLabel *label) { return label->text() == text; });
+    };
+    bool toldOfTheScan = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this,
+            [&] { toldOfTheScan = toldOfTheScan || says(QStringLiteral("Scanning...")); });
+    timer.start(0);
+    m_window->filesDropped({roses});
+    QVERIFY(toldOfTheScan);
+    QVERIFY(!says(QStringLiteral("Scanning...")));
+    QTRY_VERIFY(says(QStringLiteral("2 designs · 16 stitches · 2 colors")));
+    action(QStringLiteral("Select all"))->trigger();
+    QTRY_VERIFY(says(QStringLiteral("2 designs · 2 selected · 16 stitches · 2 colors")));
+    QVERIFY(says(QStringLiteral("100%")));
+    action(QStringLiteral("&Zoom in"))->trigger();
+    QVERIFY(says(QStringLiteral("150%")));
+    QTest::keyClick(line->findChild<QSlider *>(), Qt::Key_Home);
+    QVERIFY(says(QStringLiteral("%1%").arg(PreviewBrowser::ScaleFactors.first())));
 }
 
 void tst_mainwindow::transferAsksForASelection()
