@@ -219,6 +219,64 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>DesignFactsPanel</name>
+    <message>
+        <source>Design size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Hoop</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Number of stitches</source>
+        <translation>Stichzahl</translation>
+    </message>
+    <message>
+        <source>Number of colors</source>
+        <translation>Anzahl Farben</translation>
+    </message>
+    <message>
+        <source>Thread</source>
+        <translation>Garn</translation>
+    </message>
+    <message>
+        <source>The screen does not tell how large it is: the true size is a guess.</source>
+        <translation>Der Bildschirm nennt seine Größe nicht: Die wahre Größe ist geschätzt.</translation>
+    </message>
+    <message>
+        <source>no hoop fits</source>
+        <translation>kein Rahmen passt</translation>
+    </message>
+</context>
+<context>
+    <name>DesignReader</name>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>There are no stitches in this design.</source>
+        <translation>Dieses Stickmuster hat keine Stiche.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>Die Datei ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or not what its name says.</source>
+        <translation>Die Datei ist beschädigt oder nicht das, was ihr Name sagt.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this design.</source>
+        <translation>Für dieses Stickmuster reicht der Arbeitsspeicher nicht.</translation>
+    </message>
+</context>
+<context>
     <name>DesignReport</name>
     <message>
         <source>Format</source>
@@ -243,6 +301,118 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Colors</source>
         <translation>Farben</translation>
+    </message>
+</context>
+<context>
+    <name>DesignTexts</name>
+    <message>
+        <source>%1 yd</source>
+        <translation>%1 yd</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+</context>
+<context>
+    <name>DesignToolBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Previous design</source>
+        <translation>Voriges Stickmuster</translation>
+    </message>
+    <message>
+        <source>Previous design (Left)</source>
+        <translation>Voriges Stickmuster (Pfeil links)</translation>
+    </message>
+    <message>
+        <source>Next design</source>
+        <translation>Nächstes Stickmuster</translation>
+    </message>
+    <message>
+        <source>Next design (Right)</source>
+        <translation>Nächstes Stickmuster (Pfeil rechts)</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>Verkleinern (-)</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>Vergrößern (+)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>100% is the true size.</source>
+        <translation>100 % ist die wahre Größe.</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Show all of the design (0)</source>
+        <translation>Das ganze Stickmuster zeigen (0)</translation>
+    </message>
+    <message>
+        <source>True size</source>
+        <translation>Wahre Größe</translation>
+    </message>
+    <message>
+        <source>As large as it is sewn (1)</source>
+        <translation>So groß, wie es gestickt wird (1)</translation>
+    </message>
+    <message>
+        <source>Hoop</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Show the smallest hoop around the design (H)</source>
+        <translation>Den kleinsten Rahmen um das Stickmuster zeigen (H)</translation>
+    </message>
+    <message>
+        <source>Jumps</source>
+        <translation>Sprünge</translation>
+    </message>
+    <message>
+        <source>Show where the needle jumps without sewing (J)</source>
+        <translation>Zeigen, wo die Nadel springt, ohne zu sticken (J)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>DesignView</name>
+    <message>
+        <source>Design</source>
+        <translation>Stickmuster</translation>
+    </message>
+</context>
+<context>
+    <name>DesignWindow</name>
+    <message>
+        <source>Reading %1...</source>
+        <translation>%1 wird gelesen …</translation>
     </message>
 </context>
 <context>
@@ -345,6 +515,61 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>FabricButton</name>
+    <message>
+        <source>Fabric</source>
+        <translation>Stoff</translation>
+    </message>
+    <message>
+        <source>The color of the fabric</source>
+        <translation>Die Farbe des Stoffs</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>Leinen</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sand</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>Rosé</translation>
+    </message>
+    <message>
+        <source>Sage</source>
+        <translation>Salbei</translation>
+    </message>
+    <message>
+        <source>Sky blue</source>
+        <translation>Himmelblau</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Denim</source>
+        <translation>Jeansblau</translation>
+    </message>
+    <message>
+        <source>Burgundy</source>
+        <translation>Burgunderrot</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Other color...</source>
+        <translation>Andere Farbe …</translation>
     </message>
 </context>
 <context>
@@ -454,6 +679,10 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>favorite</source>
         <translation>Favorit</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
 </context>
 <context>
     <name>GridGraphicsView</name>
@@ -462,8 +691,8 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Stickmuster</translation>
     </message>
     <message>
-        <source>The arrow keys choose a design, Space enlarges it, F marks it as a favorite.</source>
-        <translation>Die Pfeiltasten wählen ein Stickmuster, die Leertaste vergrößert es, F macht es zum Favoriten.</translation>
+        <source>The arrow keys choose a design, Return opens it, Space enlarges it, F marks it as a favorite.</source>
+        <translation>Die Pfeiltasten wählen ein Stickmuster aus, die Eingabetaste öffnet es, die Leertaste vergrößert es, F macht es zum Favoriten.</translation>
     </message>
 </context>
 <context>
@@ -666,6 +895,18 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
     </message>
+    <message>
+        <source>Scanning...</source>
+        <translation>Ordner werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>&amp;Open design</source>
+        <translation>Stickmuster ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Removing the folder...</source>
+        <translation>Der Ordner wird entfernt …</translation>
+    </message>
 </context>
 <context>
     <name>NoticeRow</name>
@@ -720,6 +961,49 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Add the folder of &apos;%1&apos; to your collection?</source>
         <translation>Den Ordner von „%1“ in Ihre Sammlung aufnehmen?</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackBar</name>
+    <message>
+        <source>One stitch back</source>
+        <translation>Einen Stich zurück</translation>
+    </message>
+    <message>
+        <source>One stitch back (comma)</source>
+        <translation>Einen Stich zurück (Komma)</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>One stitch forward</source>
+        <translation>Einen Stich vor</translation>
+    </message>
+    <message>
+        <source>One stitch forward (period)</source>
+        <translation>Einen Stich vor (Punkt)</translation>
+    </message>
+    <message>
+        <source>%1 stitches/s</source>
+        <translation>%1 Stiche/s</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>%1 (Space)</source>
+        <translation>%1 (Leertaste)</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1458,17 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>SewingSlider</name>
+    <message>
+        <source>Sewing progress</source>
+        <translation>Fortschritt des Stickens</translation>
+    </message>
+    <message>
+        <source>The point of the design up to which it is sewn.</source>
+        <translation>Die Stelle des Stickmusters, bis zu der gestickt ist.</translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
@@ -1231,6 +1526,49 @@ Optionen:
     <message>
         <source>The output could not be written: %1</source>
         <translation>Die Ausgabe konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Stitches and colors are those of the selected designs or, when none is selected, of all that are shown.</source>
+        <translation>Stiche und Farben sind die der ausgewählten Stickmuster oder, wenn keines ausgewählt ist, aller gezeigten.</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 designs</source>
+        <translation>
+            <numerusform>%1 Stickmuster</numerusform>
+            <numerusform>%1 Stickmuster</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 selected</source>
+        <translation>
+            <numerusform>%1 ausgewählt</numerusform>
+            <numerusform>%1 ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 Stich</numerusform>
+            <numerusform>%1 Stiche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 Farbe</numerusform>
+            <numerusform>%1 Farben</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1388,6 +1726,52 @@ Optionen:
     <message>
         <source>remove tag</source>
         <translation>Schlagwort entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ThreadTable</name>
+    <message>
+        <source>Threads</source>
+        <translation>Garne</translation>
+    </message>
+    <message>
+        <source>In the order of sewing. The arrow keys show where each comes.</source>
+        <translation>In der Reihenfolge des Stickens. Die Pfeiltasten zeigen, wo jedes an der Reihe ist.</translation>
+    </message>
+</context>
+<context>
+    <name>ThreadTableModel</name>
+    <message>
+        <source>undefined</source>
+        <translation>unbestimmt</translation>
+    </message>
+    <message>
+        <source>How often the needle goes down; jumps and trims do not count.</source>
+        <translation>Wie oft die Nadel einsticht; Sprünge und Schnitte zählen nicht.</translation>
+    </message>
+    <message>
+        <source>The thread on the fabric, from one needle point to the next.</source>
+        <translation>Das Garn auf dem Stoff, von einem Einstich zum nächsten.</translation>
+    </message>
+    <message>
+        <source>Color name</source>
+        <translation>Farbname</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Farbkarte</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>Stiche</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
     </message>
 </context>
 <context>

@@ -89,6 +89,37 @@
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message numerus="yes">
+        <source>%1 designs</source>
+        <translation>
+            <numerusform>%1 design</numerusform>
+            <numerusform>%1 designs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 selected</source>
+        <translation>
+            <numerusform>%1 selected</numerusform>
+            <numerusform>%1 selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 stitch</numerusform>
+            <numerusform>%1 stitches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 color</numerusform>
+            <numerusform>%1 colors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>TagsBox</name>
     <message numerus="yes">
         <source>This tag is attached to %n files</source>

@@ -217,6 +217,64 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>DesignFactsPanel</name>
+    <message>
+        <source>Design size</source>
+        <translation>花样尺寸</translation>
+    </message>
+    <message>
+        <source>Hoop</source>
+        <translation>绣框</translation>
+    </message>
+    <message>
+        <source>Number of stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Number of colors</source>
+        <translation>颜色数</translation>
+    </message>
+    <message>
+        <source>Thread</source>
+        <translation>绣线</translation>
+    </message>
+    <message>
+        <source>The screen does not tell how large it is: the true size is a guess.</source>
+        <translation>显示器没有报告自己的尺寸：实际大小只是估计值。</translation>
+    </message>
+    <message>
+        <source>no hoop fits</source>
+        <translation>没有合适的绣框</translation>
+    </message>
+</context>
+<context>
+    <name>DesignReader</name>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>There are no stitches in this design.</source>
+        <translation>此花样中没有针迹。</translation>
+    </message>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>文件已不存在。</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>这不是文件。</translation>
+    </message>
+    <message>
+        <source>The file is damaged or not what its name says.</source>
+        <translation>文件已损坏，或与其名称所示的类型不符。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this design.</source>
+        <translation>内存不足，无法打开此花样。</translation>
+    </message>
+</context>
+<context>
     <name>DesignReport</name>
     <message>
         <source>Format</source>
@@ -241,6 +299,118 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Colors</source>
         <translation>颜色数</translation>
+    </message>
+</context>
+<context>
+    <name>DesignTexts</name>
+    <message>
+        <source>%1 yd</source>
+        <translation>%1 码</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 米</translation>
+    </message>
+</context>
+<context>
+    <name>DesignToolBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Previous design</source>
+        <translation>上一个花样</translation>
+    </message>
+    <message>
+        <source>Previous design (Left)</source>
+        <translation>上一个花样（左箭头）</translation>
+    </message>
+    <message>
+        <source>Next design</source>
+        <translation>下一个花样</translation>
+    </message>
+    <message>
+        <source>Next design (Right)</source>
+        <translation>下一个花样（右箭头）</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>缩小 (-)</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>放大 (+)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>100% is the true size.</source>
+        <translation>100% 为实际大小。</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适合窗口</translation>
+    </message>
+    <message>
+        <source>Show all of the design (0)</source>
+        <translation>显示整个花样 (0)</translation>
+    </message>
+    <message>
+        <source>True size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>As large as it is sewn (1)</source>
+        <translation>与绣出的大小相同 (1)</translation>
+    </message>
+    <message>
+        <source>Hoop</source>
+        <translation>绣框</translation>
+    </message>
+    <message>
+        <source>Show the smallest hoop around the design (H)</source>
+        <translation>在花样周围显示最小的绣框 (H)</translation>
+    </message>
+    <message>
+        <source>Jumps</source>
+        <translation>跳针</translation>
+    </message>
+    <message>
+        <source>Show where the needle jumps without sewing (J)</source>
+        <translation>显示跳针之处 (J)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>DesignView</name>
+    <message>
+        <source>Design</source>
+        <translation>花样</translation>
+    </message>
+</context>
+<context>
+    <name>DesignWindow</name>
+    <message>
+        <source>Reading %1...</source>
+        <translation>正在读取 %1…</translation>
     </message>
 </context>
 <context>
@@ -342,6 +512,61 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Copy</source>
         <translation>复制</translation>
+    </message>
+</context>
+<context>
+    <name>FabricButton</name>
+    <message>
+        <source>Fabric</source>
+        <translation>面料</translation>
+    </message>
+    <message>
+        <source>The color of the fabric</source>
+        <translation>面料的颜色</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>亚麻色</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>沙色</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>玫瑰色</translation>
+    </message>
+    <message>
+        <source>Sage</source>
+        <translation>鼠尾草绿</translation>
+    </message>
+    <message>
+        <source>Sky blue</source>
+        <translation>天蓝色</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>灰色</translation>
+    </message>
+    <message>
+        <source>Denim</source>
+        <translation>牛仔蓝</translation>
+    </message>
+    <message>
+        <source>Burgundy</source>
+        <translation>酒红色</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黑色</translation>
+    </message>
+    <message>
+        <source>Other color...</source>
+        <translation>其他颜色…</translation>
     </message>
 </context>
 <context>
@@ -450,6 +675,10 @@ Commands; each has a --help of its own:</source>
         <source>favorite</source>
         <translation>已收藏</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
 </context>
 <context>
     <name>GridGraphicsView</name>
@@ -458,8 +687,8 @@ Commands; each has a --help of its own:</source>
         <translation>花样</translation>
     </message>
     <message>
-        <source>The arrow keys choose a design, Space enlarges it, F marks it as a favorite.</source>
-        <translation>用方向键选择花样，按空格键放大，按 F 键收藏。</translation>
+        <source>The arrow keys choose a design, Return opens it, Space enlarges it, F marks it as a favorite.</source>
+        <translation>方向键选择花样，回车键打开，空格键放大，F 键标记为收藏。</translation>
     </message>
 </context>
 <context>
@@ -662,6 +891,18 @@ Commands; each has a --help of its own:</source>
         <source>&amp;View</source>
         <translation>查看(&amp;V)</translation>
     </message>
+    <message>
+        <source>Scanning...</source>
+        <translation>正在扫描…</translation>
+    </message>
+    <message>
+        <source>&amp;Open design</source>
+        <translation>打开花样(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Removing the folder...</source>
+        <translation>正在移除文件夹…</translation>
+    </message>
 </context>
 <context>
     <name>NoticeRow</name>
@@ -714,6 +955,49 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Add the folder of &apos;%1&apos; to your collection?</source>
         <translation>将“%1”所在的文件夹加入您的花样库？</translation>
+    </message>
+</context>
+<context>
+    <name>PlaybackBar</name>
+    <message>
+        <source>One stitch back</source>
+        <translation>后退一针</translation>
+    </message>
+    <message>
+        <source>One stitch back (comma)</source>
+        <translation>后退一针（逗号）</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>One stitch forward</source>
+        <translation>前进一针</translation>
+    </message>
+    <message>
+        <source>One stitch forward (period)</source>
+        <translation>前进一针（句点）</translation>
+    </message>
+    <message>
+        <source>%1 stitches/s</source>
+        <translation>%1 针/秒</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>%1 (Space)</source>
+        <translation>%1（空格键）</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1450,17 @@ Options:
     </message>
 </context>
 <context>
+    <name>SewingSlider</name>
+    <message>
+        <source>Sewing progress</source>
+        <translation>刺绣进度</translation>
+    </message>
+    <message>
+        <source>The point of the design up to which it is sewn.</source>
+        <translation>已绣到的位置。</translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
@@ -1222,6 +1517,45 @@ Options:
     <message>
         <source>The output could not be written: %1</source>
         <translation>无法写入输出：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Stitches and colors are those of the selected designs or, when none is selected, of all that are shown.</source>
+        <translation>针数和颜色数为所选花样的合计；没有选择时，为所有显示的花样的合计。</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 designs</source>
+        <translation>
+            <numerusform>%1 个花样</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 selected</source>
+        <translation>
+            <numerusform>已选择 %1 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 针</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 种颜色</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1711,52 @@ Options:
     <message>
         <source>remove tag</source>
         <translation>移除标签</translation>
+    </message>
+</context>
+<context>
+    <name>ThreadTable</name>
+    <message>
+        <source>Threads</source>
+        <translation>绣线</translation>
+    </message>
+    <message>
+        <source>In the order of sewing. The arrow keys show where each comes.</source>
+        <translation>按刺绣顺序排列。方向键显示每种绣线的位置。</translation>
+    </message>
+</context>
+<context>
+    <name>ThreadTableModel</name>
+    <message>
+        <source>undefined</source>
+        <translation>未定义</translation>
+    </message>
+    <message>
+        <source>How often the needle goes down; jumps and trims do not count.</source>
+        <translation>落针次数；不计跳针和剪线。</translation>
+    </message>
+    <message>
+        <source>The thread on the fabric, from one needle point to the next.</source>
+        <translation>面料上的线长，从一个针点到下一个针点。</translation>
+    </message>
+    <message>
+        <source>Color name</source>
+        <translation>颜色名称</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>色卡</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
     </message>
 </context>
 <context>
