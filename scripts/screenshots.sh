@@ -239,6 +239,23 @@ open_preferences() { open_menu 0; key Up; key Up; key Return; sleep 0.8; }
 open_update() { open_menu 3; key Up; key Up; key Return; sleep 1.5; }
 open_about() { open_menu 3; key Up; key Return; sleep 0.8; }
 
+# design_window_shots SUFFIX: the window of the current card's design, all of it and half sewn.
+design_window_shots() {
+    local grid=$window
+    key Return
+    sleep 1
+    window=$(newest_window)
+    focus
+    away
+    shot "design-complete$1"
+    click 560 706
+    away
+    shot "design-window$1"
+    key Escape
+    window=$grid
+    focus
+}
+
 main_window_shots() {
     use_profile main
     start
@@ -273,6 +290,7 @@ main_window_shots() {
     key space
     shot_over preview-sheet
     key Escape
+    design_window_shots ""
 
     xdotool keydown ctrl; click 620 250; click 860 250; xdotool keyup ctrl
     away
@@ -374,6 +392,7 @@ window_shots() {
     click 845 332; type_text "blue"; key Return
     away
     shot "main$suffix"
+    design_window_shots "$suffix"
     menu_shots
     search_shots "$suffix"
     key ctrl+f Escape
