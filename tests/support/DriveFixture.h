@@ -125,6 +125,12 @@ private:
 #endif
     }
 
+    /** What lies in memory below /dev counts as no drive. */
+    static QString mountFolder()
+    {
+        return qEnvironmentVariable("HOOPLINE_TEST_MOUNTS", QDir::tempPath());
+    }
+
     static bool createImage(const QString &image)
     {
         QFile file(image);
@@ -193,7 +199,7 @@ private:
                process.exitCode() == 0;
     }
 
-    QTemporaryDir m_directory;
+    QTemporaryDir m_directory{mountFolder() + QStringLiteral("/XXXXXX")};
     QString m_path;
     QProcess m_driver;
     Kind m_kind = Plain;

@@ -223,7 +223,7 @@ void tst_accessibility::servesKeyboardAndScreenReader_data()
         return dialog;
     });
     row("transfer", [] {
-        const auto noVolumes = [] { return QList<QStorageInfo>(); };
+        const auto noVolumes = [] { return QList<Mount>(); };
         return new ExportDialog(nullptr, projectOfSize(2)->files(), noVolumes);
     });
     row("preferences", [] { return new PreferencesDialog(nullptr); });
