@@ -43,6 +43,9 @@ public:
     /** A round spot. */
     void dot(const QPointF &center, double radius);
 
+    /** Stitches, moves and the like so far. */
+    int stitchCount() const { return m_pattern->getStitchCount(); }
+
     /** The finished design. The sewing must not be used afterwards. */
     QSharedPointer<Embroidery::EmbPattern> finish(const QString &name, const QString &category);
 
