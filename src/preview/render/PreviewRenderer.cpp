@@ -1,5 +1,8 @@
 #include "preview/render/PreviewRenderer.h"
 
+#include "preview/render/DesignPainter.h"
+#include "preview/render/StitchLight.h"
+#include "preview/render/StitchPainter.h"
 #include <algorithm>
 #include <cmath>
 #include <QBrush>
@@ -36,7 +39,8 @@ QPixmap PreviewRenderer::renderToPixmap(const QSharedPointer<EmbPattern> &patter
     return QPixmap::fromImage(std::move(image));
 }
 
-QImage PreviewRenderer::render(const QSharedPointer<EmbPattern> &pattern, double size)
+QImage PreviewRenderer::render(const QSharedPointer<EmbPattern> &pattern, double size,
+                               const IAbortCheck &abort)
 {
     if (pattern.isNull()) {
         return QImage();
@@ -49,25 +53,13 @@ QImage PreviewRenderer::render(const QSharedPointer<EmbPattern> &pattern, double
     if (!isDrawableSide(width) || !isDrawableSide(height)) {
         return QImage();
     }
-    QImage image(int(width), int(height), QImage::Format_ARGB32);
-    if (image.isNull()) {
-        return image;
-    }
-    image.fill(0);
-
-    QPainter painter(&image);
-    painter.translate(-std::floor(rect.x() * scale), -std::floor(rect.y() * scale));
-    painter.scale(scale, scale);
-    for (const StitchBlock &block : blocks) {
-        const QColor color(block.thread->getRGB());
-        QPointF from = block.points.first();
-        for (int i = 1; i < block.points.size(); ++i) {
-            drawThread(painter, from, block.points.at(i), color);
-            from = block.points.at(i);
-        }
-    }
-    painter.end();
-    return image;
+    const QSize pixels = QSizeF(width, height).toSize();
+    const QPointF offset(-std::floor(rect.x() * scale), -std::floor(rect.y() * scale));
+    StitchPainter painter(pixels, scale, offset, PenWidth);
+    const bool done =
+        !painter.isNull() && DesignPainter(painter, light(), abort)
+                                 .paint(blocks, DesignPainter::Budget::forPicture(pixels));
+    return done ? painter.take() : QImage();
 }
 
 void PreviewRenderer::drawThread(QPainter &painter, QPointF &from, const QPointF &to,
@@ -101,18 +93,19 @@ QLinearGradient PreviewRenderer::buildGradient(const QPointF &from, const QPoint
 
 QColor PreviewRenderer::shadeColor(const QColor &color, const QVector3D &normal)
 {
-    const QVector4D light = rgbaVector(m_lightColor.rgba());
-    const QVector4D ambientLight = rgbaVector(m_ambientColor.rgba());
     const QVector4D own = rgbaVector(color.rgba());
-
-    const QVector3D ambient = ambientLight.toVector3D() * ambientLight.w();
-    const QVector3D lighting = light.toVector3D() * light.w();
-    const float facing =
-        std::max(0.0f, QVector3D::dotProduct(normal, m_lightDirection.normalized()));
-    const QVector3D total = ambient + (lighting * facing) * m_diffuseFactor;
-
+    const QVector3D total = light().facing(normal);
     QVector4D shaded(own.toVector3D() * total, own.w());
     return QColor::fromRgba(rgbaColor(shaded));
+}
+
+StitchLight PreviewRenderer::light() const
+{
+    const QVector4D ambient = rgbaVector(m_ambientColor.rgba());
+    const QVector4D diffuse = rgbaVector(m_lightColor.rgba());
+    return StitchLight(ambient.toVector3D() * ambient.w(),
+                       diffuse.toVector3D() * diffuse.w() * m_diffuseFactor,
+                       m_lightDirection.normalized(), EndTilt);
 }
 
 QVector3D PreviewRenderer::rgbVector(unsigned int rgb)
