@@ -1,52 +1,12 @@
 #include "base/files/DirectoryScanner.h"
 
+#include "base/files/FolderListing.h"
 #include "base/IAbortCheck.h"
 #include "base/IProgressListener.h"
 
 #include <algorithm>
-#include <memory>
-
-#ifdef Q_OS_UNIX
-#include <dirent.h>
-#endif
-
-/** The names in a folder as the file system has them, "." and ".." included. */
-static QStringList entryNames(const QDir &dir)
-{
-#ifdef Q_OS_UNIX
-    QStringList names;
-    const std::unique_ptr<DIR, int (*)(DIR *)> stream(
-        opendir(dir.absolutePath().toUtf8().constData()), closedir);
-    if (!stream)
-        return names;
-    while (const dirent *entry = readdir(stream.get()))
-        names.append(QString::fromUtf8(entry->d_name));
-    return names;
-#else
-    return dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Unsorted);
-#endif
-}
-
-/** QDir::filePath() would take a name that begins with a colon for a compiled-in resource. */
-static QString entryPath(const QDir &dir, const QString &name)
-{
-    const QString path = dir.path();
-    return path.endsWith(QLatin1Char('/')) ? path + name : path + QLatin1Char('/') + name;
-}
-
-/**
- * The composed form of a name, which is how the catalogue compares names. Where the file
- * system tells the two forms apart, only the name as it is stored opens the file.
- */
-static QString composedName(const QDir &dir, const QString &name, const QStringList &names)
-{
-    const QString composed = name.normalized(QString::NormalizationForm_C);
-    if (composed == name)
-        return name;
-    const bool reachesTheFile =
-        QFileInfo::exists(entryPath(dir, composed)) && !names.contains(composed);
-    return reachesTheFile ? composed : name;
-}
+#include <QVarLengthArray>
+#include <utility>
 
 static QString shortenedForDisplay(const QString &path)
 {
@@ -115,50 +75,94 @@ void DirectoryScanner::setProgressListener(IProgressListener *listener)
     m_progressListener = listener;
 }
 
+/** One walk: the folders on the way to where it is, and what it has found so far. */
+class DirectoryScanner::Walk
+{
+public:
+    explicit Walk(const DirectoryScanner &scanner) : m_scanner(scanner) {}
+
+    /** @param known the folder's identity where it is known */
+    void enter(const QString &dir, std::optional<FolderListing::Identity> known = {})
+    {
+        const IAbortCheck *check = m_scanner.m_abortCheck;
+        if (check && check->abortState() != 0)
+            return;
+        if (IProgressListener *listener = m_scanner.m_progressListener)
+            listener->proceed(tr("Scanning directory '%1'").arg(shortenedForDisplay(dir)));
+        const auto folder = known ? known : FolderListing::identity(dir);
+        if (!folder) {
+            m_found.skipped.append({SkippedEntry::MissingFolder, dir, qt_error_string()});
+            return;
+        }
+        m_way.append(*folder);
+        look(FolderListing(dir, m_scanner.m_returnHidden));
+        m_way.removeLast();
+    }
+
+    FoundFiles takeFound() { return std::move(m_found); }
+
+private:
+    void look(const FolderListing &listing)
+    {
+        m_found.skipped += listing.skipped();
+        for (const FolderListing::Entry &entry : listing.entries()) {
+            const QString path = listing.pathOf(entry);
+            if (entry.type == FolderListing::File && m_scanner.passesFilters(path))
+                m_found.files.append({path, entry.size, entry.modified});
+        }
+        for (const FolderListing::Entry &entry : listing.entries()) {
+            if (entry.type == FolderListing::Folder && m_scanner.isEntered(entry.name) &&
+                !m_way.contains(entry.identity))
+                enter(listing.pathOf(entry), entry.identity);
+        }
+    }
+
+    const DirectoryScanner &m_scanner;
+    FoundFiles m_found;
+    QVarLengthArray<FolderListing::Identity, 32> m_way;
+};
+
+FoundFiles DirectoryScanner::find(const QString &dir) const
+{
+    Walk walk(*this);
+    walk.enter(dir);
+    return walk.takeFound();
+}
+
 QStringList DirectoryScanner::findFilesRecursive(const QString &dir) const
 {
     QStringList paths;
-    const QList<QFileInfo> files = fileInfoRecursive(dir);
+    const QVector<FoundFile> files = find(dir).files;
     paths.reserve(files.count());
-    for (const QFileInfo &file : files)
-        paths.append(file.filePath());
+    for (const FoundFile &file : files)
+        paths.append(file.path);
     return paths;
 }
 
 QList<QFileInfo> DirectoryScanner::fileInfoRecursive(const QString &dir) const
 {
-    if (m_abortCheck && m_abortCheck->abortState() != 0)
-        return {};
-    if (m_progressListener)
-        m_progressListener->proceed(tr("Scanning directory '%1'").arg(shortenedForDisplay(dir)));
-    const QList<QFileInfo> entries = allEntries(QDir(dir));
-    QList<QFileInfo> files = fileEntries(entries);
-    const QList<QFileInfo> subDirs = dirEntries(entries);
-    for (const QFileInfo &subDir : subDirs)
-        files.append(fileInfoRecursive(subDir.filePath()));
-    return files;
+    QList<QFileInfo> infos;
+    const QVector<FoundFile> files = find(dir).files;
+    infos.reserve(files.count());
+    for (const FoundFile &file : files)
+        infos.append(QFileInfo(file.path));
+    return infos;
 }
 
 QList<QFileInfo> DirectoryScanner::allEntries(const QDir &dir) const
 {
-    QList<QFileInfo> entries;
-    const QStringList names = entryNames(dir);
-    for (const QString &name : names) {
-        const QFileInfo entry(entryPath(dir, composedName(dir, name, names)));
-        if (m_returnHidden || !entry.isHidden())
-            entries.append(entry);
-    }
-    std::sort(entries.begin(), entries.end(), [](const QFileInfo &a, const QFileInfo &b) {
-        return QString::compare(a.fileName(), b.fileName(), Qt::CaseInsensitive) < 0;
-    });
-    return entries;
+    QList<QFileInfo> infos;
+    const FolderListing listing(dir.path(), m_returnHidden);
+    for (const FolderListing::Entry &entry : listing.entries())
+        infos.append(QFileInfo(listing.pathOf(entry)));
+    return infos;
 }
 
 QList<QFileInfo> DirectoryScanner::fileEntries(const QList<QFileInfo> &entries) const
 {
     QList<QFileInfo> files;
     for (const QFileInfo &entry : entries) {
-        if (passesFilters(entry) && entry.isFile())
+        if (entry.isFile() && passesFilters(entry.filePath()))
             files.append(entry);
     }
     return files;
@@ -173,9 +177,7 @@ QList<QFileInfo> DirectoryScanner::dirEntries(const QList<QFileInfo> &entries) c
 {
     QList<QFileInfo> dirs;
     for (const QFileInfo &entry : entries) {
-        const QString name = entry.fileName();
-        if (entry.isDir() && name != QLatin1String(".") && name != QLatin1String("..") &&
-            !m_excludeDirs.contains(name))
+        if (entry.isDir() && isEntered(entry.fileName()))
             dirs.append(entry);
     }
     return dirs;
@@ -194,12 +196,18 @@ QList<QRegExp> DirectoryScanner::stringListToRegExp(const QStringList &wildcards
     return expressions;
 }
 
-bool DirectoryScanner::passesFilters(const QFileInfo &entry) const
+bool DirectoryScanner::isEntered(const QString &name) const
+{
+    return name != QLatin1String(".") && name != QLatin1String("..") &&
+           !m_excludeDirs.contains(name);
+}
+
+bool DirectoryScanner::passesFilters(const QString &path) const
 {
     if (m_filters.isEmpty() && m_excludeFilters.isEmpty())
         return true;
-    const QString path = entry.absoluteFilePath();
-    const auto matches = [&path](const QRegExp &filter) { return filter.exactMatch(path); };
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const auto matches = [&absolute](const QRegExp &filter) { return filter.exactMatch(absolute); };
     return (m_filters.isEmpty() || std::any_of(m_filters.begin(), m_filters.end(), matches)) &&
            std::none_of(m_excludeFilters.begin(), m_excludeFilters.end(), matches);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/files/FoundFiles.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -15,7 +17,8 @@ class IProgressListener;
  * Walks a folder tree and lists its files, those of a folder before those of its
  * sub-folders, each by name without regard to case. Wildcards are matched against
  * the absolute path, without regard to case, and "*" runs across "/". A folder that
- * can't be read counts as empty. Runs on the calling thread; not to be shared.
+ * can't be read counts as empty. Links are followed, but no folder is entered on the way
+ * to itself. Runs on the calling thread; not to be shared.
  */
 class DirectoryScanner
 {
@@ -48,7 +51,13 @@ public:
     /** Told of each folder that is entered; not owned, may be null. */
     void setProgressListener(IProgressListener *listener);
 
-    /** Paths that begin with @p dir as it is given. */
+    /**
+     * The files with what the walk knows of them, and what it could not look into.
+     * Paths begin with @p dir as it is given.
+     */
+    FoundFiles find(const QString &dir) const;
+
+    /** The paths alone. */
     QStringList findFilesRecursive(const QString &dir) const;
     QList<QFileInfo> fileInfoRecursive(const QString &dir) const;
 
@@ -67,8 +76,11 @@ public:
     QList<QFileInfo> dirEntries(const QDir &dir) const;
 
 private:
+    class Walk;
+
     static QList<QRegExp> stringListToRegExp(const QStringList &wildcards);
-    bool passesFilters(const QFileInfo &entry) const;
+    bool isEntered(const QString &name) const;
+    bool passesFilters(const QString &path) const;
 
     QList<QRegExp> m_filters;
     QStringList m_excludeDirs;
