@@ -71,10 +71,10 @@ struct StitchPainter::Line
 
     /** Cuts off what is so far outside that the arithmetic on pixels would suffer; false when
         nothing is left. */
-    bool clip(const QSize &picture)
+    bool clip(int width, int height)
     {
-        return clip(a.rx(), a.ry(), b.rx(), b.ry(), picture.width()) &&
-               clip(a.ry(), a.rx(), b.ry(), b.rx(), picture.height());
+        return clip(a.rx(), a.ry(), b.rx(), b.ry(), width) &&
+               clip(a.ry(), a.rx(), b.ry(), b.rx(), height);
     }
 
 private:
@@ -102,13 +102,13 @@ private:
 
 StitchPainter::StitchPainter(const QSize &size, double scale, const QPointF &offset,
                              double threadWidth)
-    : m_image(size, QImage::Format_ARGB32_Premultiplied), m_scale(scale), m_offset(offset),
+    : m_image(size, QImage::Format_ARGB32_Premultiplied), m_width(m_image.width()),
+      m_height(m_image.height()), m_stride(m_image.bytesPerLine() / int(sizeof(QRgb))),
+      m_pixels(reinterpret_cast<QRgb *>(m_image.bits())), m_scale(scale), m_offset(offset),
       m_radius(std::min(threadWidth * scale / 2, ThickestRadius)),
-      m_openPixels(qint64(m_image.width()) * m_image.height())
+      m_openPixels(qint64(m_width) * m_height)
 {
     m_image.fill(0);
-    m_pixels = reinterpret_cast<QRgb *>(m_image.bits());
-    m_stride = m_image.bytesPerLine() / int(sizeof(QRgb));
     if (!isBand())
         m_coverage = 255 * uint(std::max(256 * threadWidth * scale, 0.0)) >> 8;
 }
@@ -153,7 +153,7 @@ int StitchPainter::work(const QPointF &from, const QPointF &to) const
     constexpr double overhead = 16; // beginning a stitch
     const double width = std::abs(to.x() - from.x()) * m_scale;
     const double height = std::abs(to.y() - from.y()) * m_scale;
-    const double longest = m_image.width() + m_image.height();
+    const double longest = m_width + m_height;
     const double thickness = std::min(2 * m_radius + 1, longest);
     return int(overhead + std::min(width + height + thickness, longest) * (thickness + 1));
 }
@@ -173,7 +173,7 @@ template <class Put>
 void StitchPainter::trace(const Line &line, Put put)
 {
     Line clipped = line;
-    if (!clipped.clip(m_image.size()))
+    if (!clipped.clip(m_width, m_height))
         return;
     if (isBand())
         traceBand(clipped, put);
@@ -194,10 +194,10 @@ void StitchPainter::traceBand(Line line, Put put) const
     const float length = std::sqrt(dx * dx + dy * dy);
     const float touch = length > 0 ? r * dx / length : 0;
     const float perRow = 1 / std::max(dy, 1e-6f);
-    const float width = float(m_image.width());
+    const float width = float(m_width);
     // A middle that lies on the border belongs to the pixels above and to the left.
     const int first = std::max(0, int(std::floor(line.a.y() - m_radius + 0.5)));
-    const int end = std::min(m_image.height(), int(std::floor(line.b.y() + m_radius + 0.5)));
+    const int end = std::min(m_height, int(std::floor(line.b.y() + m_radius + 0.5)));
 
     int begins[RowsAtATime];
     int ends[RowsAtATime];
@@ -223,7 +223,7 @@ template <class Put>
 void StitchPainter::traceHairline(const Line &line, Put put) const
 {
     const auto putInside = [this, &put](int x, int y) {
-        if (uint(x) < uint(m_image.width()) && uint(y) < uint(m_image.height()))
+        if (uint(x) < uint(m_width) && uint(y) < uint(m_height))
             put(y, x, x + 1);
     };
     if (line.a == line.b) {

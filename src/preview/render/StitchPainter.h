@@ -67,8 +67,10 @@ private:
     void traceHairline(const Line &line, Put put) const;
 
     QImage m_image;
-    QRgb *m_pixels;
+    int m_width;
+    int m_height;
     int m_stride; ///< pixels from one row to the next
+    QRgb *m_pixels;
     double m_scale;
     QPointF m_offset;
     double m_radius;       ///< half the thread's width, in pixels
