@@ -7,7 +7,7 @@
 #include "catalogue/records/CatalogueXMLReader.h"
 #include "catalogue/records/DataModelWriter.h"
 #include "catalogue/records/Project.h"
-#include "properties/changes/ChangeManager.h"
+#include "properties/changes/BulkOperation.h"
 
 #include <QFile>
 #include <QObject>
@@ -71,19 +71,14 @@ void DataModelReader::parse(Project *project, const QByteArray &bytes, const QSt
 void DataModelReader::fill()
 {
     m_project->clear();
-    ChangeManager &changes = ChangeManager::instance();
-    changes.startBulkOperation({});
+    BulkOperation bulk;
     try {
         m_reader->readFromXML(m_project, m_reader->document().documentElement(),
                               QStringLiteral("/"));
     } catch (const Error &error) {
-        changes.finishBulkOperation(true);
         throw CatalogueDamagedError(error.toString());
-    } catch (...) {
-        changes.finishBulkOperation(true);
-        throw;
     }
-    changes.finishBulkOperation(true);
+    bulk.finish();
 }
 
 int DataModelReader::recoverFromBytes(Project *project, const QByteArray &bytes)

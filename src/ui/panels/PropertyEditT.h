@@ -3,7 +3,7 @@
 #include "base/Error.h"
 #include "properties/core/GProject.h"
 #include "properties/descriptions/PropertyDescription.h"
-#include "properties/undo/GUndoStack.h"
+#include "properties/undo/BulkMacro.h"
 #include "ui/panels/PropertyEdit.h"
 
 #include <algorithm>
@@ -76,15 +76,14 @@ private:
     void setAllValues(ValueAt valueAt)
     {
         const QString text = undoText() + QStringLiteral(" (%1x)").arg(m_typed.count());
-        GUndoStack *undoStack = project()->undoStack();
         const QList<const Observable *> observables(m_typed.begin(), m_typed.end());
-        undoStack->beginMacroAndDeferAnnouncements(text, observables);
+        BulkMacro macro(project()->undoStack(), text, observables);
         for (int i = 0; i < m_typed.count(); ++i) {
             const T newValue = valueAt(i);
             if (!(m_typed.at(i)->value() == newValue))
                 m_typed.at(i)->setValue(newValue, text);
         }
-        undoStack->endMacroAndExecuteAnnouncements();
+        macro.finish();
     }
 
     QList<P *> m_typed;

@@ -2,6 +2,7 @@
 
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
+#include "properties/undo/BulkMacro.h"
 #include "ui/panels/FlowLayout.h"
 #include "ui/panels/TagLabel.h"
 
@@ -10,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -102,10 +104,10 @@ void TagWidget::addTag(const QString &text)
         updateAllTagsListInComboBox();
         return;
     }
-    startBulkChange(tr("add tag '%1'").arg(tag));
-    addTagToTagLists(tag);
-    addTagToAllTagsList(tag);
-    endBulkChange();
+    changeInBulk(tr("add tag '%1'").arg(tag), [&] {
+        addTagToTagLists(tag);
+        addTagToAllTagsList(tag);
+    });
     refreshProperties();
     m_comboBox->clearEditText();
     m_comboBox->setFocus(Qt::OtherFocusReason);
@@ -125,9 +127,7 @@ void TagWidget::updateAddButtonState(const QString &text)
 void TagWidget::removeTag(TagLabel *label)
 {
     const QString tag = label->text();
-    startBulkChange(tr("remove tag '%1'").arg(tag));
-    removeTagFromLists(tag);
-    endBulkChange();
+    changeInBulk(tr("remove tag '%1'").arg(tag), [&] { removeTagFromLists(tag); });
     refreshProperties();
 }
 
@@ -144,16 +144,12 @@ bool TagWidget::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
-void TagWidget::startBulkChange(const QString &text)
+void TagWidget::changeInBulk(const QString &text, const std::function<void()> &change)
 {
-    m_bulkChangeActive = true;
-    m_project->undoStack()->beginMacroAndDeferAllAnnouncements(text);
-}
-
-void TagWidget::endBulkChange()
-{
-    m_project->undoStack()->endMacroAndExecuteAnnouncements();
-    m_bulkChangeActive = false;
+    const QScopedValueRollback<bool> active(m_bulkChangeActive, true);
+    BulkMacro macro(m_project->undoStack(), text);
+    change();
+    macro.finish();
 }
 
 void TagWidget::addTagToTagLists(const QString &tag)

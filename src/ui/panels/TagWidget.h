@@ -2,6 +2,7 @@
 
 #include "properties/changes/Observer.h"
 
+#include <functional>
 #include <QFrame>
 #include <QHash>
 #include <QList>
@@ -49,8 +50,7 @@ protected:
 
 private:
     void createInput();
-    void startBulkChange(const QString &text);
-    void endBulkChange();
+    void changeInBulk(const QString &text, const std::function<void()> &change);
     void addTagToTagLists(const QString &tag);
     void addTagToAllTagsList(const QString &tag);
     void removeTagFromLists(const QString &tag);

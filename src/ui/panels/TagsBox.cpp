@@ -3,6 +3,7 @@
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
+#include "properties/undo/BulkMacro.h"
 #include "ui/panels/TagListWidget.h"
 #include "widgets/controls/GExpandingTitle.h"
 #include "widgets/controls/GMessageBox.h"
@@ -76,10 +77,10 @@ void TagsBox::onTagRenamed(const QString &oldName, const QString &newName)
         updateTagListWidget();
         return;
     }
-    m_project->undoStack()->beginMacroAndDeferAllAnnouncements(tr("rename tag"));
+    BulkMacro macro(m_project->undoStack(), tr("rename tag"));
     m_controller.renameTag(oldName, newName);
     m_filter->setTag(newName);
-    m_project->undoStack()->endMacroAndExecuteAnnouncements();
+    macro.finish();
 }
 
 void TagsBox::removeTag()
@@ -95,10 +96,10 @@ void TagsBox::removeTag()
         if (answer == QMessageBox::No)
             return;
     }
-    m_project->undoStack()->beginMacroAndDeferAllAnnouncements(tr("remove tag"));
+    BulkMacro macro(m_project->undoStack(), tr("remove tag"));
     m_controller.removeTag(tag);
     m_filter->setTag(QString());
-    m_project->undoStack()->endMacroAndExecuteAnnouncements();
+    macro.finish();
 }
 
 void TagsBox::removeUnusedTags()
