@@ -1,4 +1,3 @@
-#include "base/Error.h"
 #include "catalogue/records/IThread.h"
 #include "catalogue/sync/FileSync.h"
 #include "embroidery/EmbroideryIO.h"
@@ -8,13 +7,15 @@
 #include <memory>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QMap>
 #include <QtTest>
 
-#ifdef Q_OS_UNIX
 #include <sys/resource.h>
-#endif
+#include <sys/stat.h>
+#include <unistd.h>
 
 class FileSyncTest : public QObject
 {
@@ -31,11 +32,21 @@ private slots:
     void changesNothingWhenScanIsAborted();
     void leavesBareRecordsWhenLoadingIsAborted();
     void readsNextTimeWhatCannotBeReadNow();
+    void leavesOutWhatVanishesMeanwhile();
+    void doesNotReadWhatIsTooLarge();
+    void tellsWhatItCannotLookInto();
     void keepsPreviewsInStep();
+    void clearsUpAfterADeadWriter();
     void reconnectsByContentOnly();
-    void prefersCopyWithUserData();
+    void reconnectsEachTwin_data();
+    void reconnectsEachTwin();
+    void reconnectsNothingWhenAborted();
+    void doesNotDependOnTheNumberOfThreads();
+    void endsBesideAFileThatNeverAnswers();
 
 private:
+    /** All that a run leaves: the catalogue and the previews, by name. */
+    QMap<QString, QByteArray> results(int threads);
     void write(const char *name, const DstDesign &design) { QVERIFY(design.writeTo(path(name))); }
     QList<int> sync();
     QSharedPointer<IFile> file(const QString &name) const;
@@ -205,33 +216,36 @@ void FileSyncTest::leavesBareRecordsWhenLoadingIsAborted()
 {
     write("a.dst", DstDesign::square("One"));
     write("b.dst", DstDesign::square("Two"));
+    write("c.dst", DstDesign::square("Three"));
+    // What is under way at that moment may come to its end or not.
     m_listener.onProceed = [this](const QString &text) {
-        m_listener.aborted = text == QLatin1String("Loading a.dst") || m_listener.aborted;
+        m_listener.aborted = text == QLatin1String("Loading b.dst") || m_listener.aborted;
     };
-    QCOMPARE(sync(), (QList<int>{2, 0, 0, 0, 0}));
+    QCOMPARE(sync(), (QList<int>{3, 0, 0, 0, 0}));
     QCOMPARE(m_listener.texts.constLast(), QStringLiteral("Aborting..."));
     QCOMPARE(file("a.dst")->stitchCount(), 8);
-    QVERIFY(file("b.dst")->contentHash().isEmpty());
+    const int unreached = file("b.dst")->contentHash().isEmpty() ? 2 : 1;
+    QVERIFY(file("c.dst")->contentHash().isEmpty());
 
     m_listener = ScriptedListener();
-    QCOMPARE(sync(), (QList<int>{0, 1, 0, 0, 0}));
-    QCOMPARE(file("b.dst")->name(), QStringLiteral("Two"));
+    QCOMPARE(sync(), (QList<int>{0, unreached, 0, 0, 0}));
+    QCOMPARE(file("c.dst")->name(), QStringLiteral("Three"));
 }
 
 void FileSyncTest::readsNextTimeWhatCannotBeReadNow()
 {
 #ifdef __SANITIZE_ADDRESS__
     QSKIP("The sanitizer needs a descriptor to look at an exception, and finds none.");
-#elif defined(Q_OS_UNIX)
+#else
     write("a.dst", DstDesign::square("Before"));
     sync();
     write("a.dst", DstDesign::square("Changed", 60).stitch(1, 1));
     // Without a free descriptor a file can be looked at, but not opened, whoever runs the test.
     rlimit before{};
     QCOMPARE(getrlimit(RLIMIT_NOFILE, &before), 0);
-    m_listener.onProceed = [&before](const QString &text) {
+    m_listener.onSetSteps = [&before](int steps) {
         const rlimit none{0, before.rlim_max};
-        if (text.startsWith(QLatin1String("Loading")))
+        if (steps == 1)
             setrlimit(RLIMIT_NOFILE, &none);
     };
     const QList<int> counts = sync();
@@ -242,6 +256,56 @@ void FileSyncTest::readsNextTimeWhatCannotBeReadNow()
     QCOMPARE(sync(), (QList<int>{0, 1, 0, 0, 0}));
     QCOMPARE(file("a.dst")->name(), QStringLiteral("Changed"));
 #endif
+}
+
+void FileSyncTest::leavesOutWhatVanishesMeanwhile()
+{
+    write("a.dst", DstDesign::square("Goes"));
+    write("b.dst", DstDesign::square("Stays"));
+    m_listener.onSetSteps = [this](int steps) {
+        if (steps == 2)
+            QFile::remove(path("a.dst"));
+    };
+    FileSync sync(m_project, &m_listener);
+    sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
+    QCOMPARE(sync.counts().added, 1);
+    QCOMPARE(sync.counts().unreadable, 1);
+    QCOMPARE(sync.unreadableFiles().constFirst().path, path("a.dst"));
+    QVERIFY(sync.unreadableFiles().constFirst().reason.contains(QLatin1String("No such file")));
+    QVERIFY(!sync.unreadableFiles().constFirst().damaged);
+    QVERIFY(!file("a.dst"));
+    QCOMPARE(file("b.dst")->name(), QStringLiteral("Stays"));
+}
+
+void FileSyncTest::doesNotReadWhatIsTooLarge()
+{
+    write("a.dst", DstDesign::square());
+    QVERIFY(QFile::resize(path("a.dst"), 17 * 1024 * 1024)); // sparse
+    QCOMPARE(sync(), (QList<int>{1, 0, 0, 0, 1}));
+    QVERIFY(file("a.dst")->contentHash().isEmpty());
+    QCOMPARE(file("a.dst")->fileSize(), 17 * 1024 * 1024);
+    // It is told each time, but nothing changes by it.
+    QCOMPARE(sync(), (QList<int>{0, 0, 0, 0, 1}));
+}
+
+void FileSyncTest::tellsWhatItCannotLookInto()
+{
+    write("a.dst", DstDesign::square());
+    const QString missing = m_folder->design("missing");
+    m_project->setSmartFolders({m_folder->designs(), missing}, QString());
+    const QByteArray folder = QFile::encodeName(m_folder->designs());
+    // A design, a picture and a folder.
+    const QByteArray names[] = {folder + "/caf\xe9.DST", folder + "/caf\xe9.jpg", folder + "/\xff"};
+    for (const QByteArray &name : names)
+        QCOMPARE(::mkdir(name.constData(), 0777), 0);
+    FileSync sync(m_project, &m_listener);
+    sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
+    for (const QByteArray &name : names)
+        QCOMPARE(::rmdir(name.constData()), 0);
+    const QVector<SkippedEntry> skipped = sync.skippedEntries();
+    QCOMPARE(skipped.size(), 3);
+    QCOMPARE(skipped.at(2).kind, SkippedEntry::MissingFolder);
+    QCOMPARE(skipped.at(2).path, missing);
 }
 
 void FileSyncTest::keepsPreviewsInStep()
@@ -286,16 +350,145 @@ void FileSyncTest::reconnectsByContentOnly()
     QCOMPARE(m_project->files().size(), 2);
 }
 
-void FileSyncTest::prefersCopyWithUserData()
+void FileSyncTest::reconnectsEachTwin_data()
 {
-    for (const char *name : {"1.dst", "2.dst", "3.dst"})
-        write(name, DstDesign::square());
+    QTest::addColumn<QStringList>("before");
+    QTest::addColumn<QStringList>("after");
+    QTest::addColumn<QStringList>("tagged");
+    // Each file bears its own name as a tag, where there is one.
+    QTest::newRow("folder renamed")
+        << QStringList{"x/1", "x/2", "y/1"} << QStringList{"z/2", "z/1", "y2/1"}
+        << QStringList{"x/2", "x/1", "y/1"};
+    QTest::newRow("all renamed") << QStringList{"a1", "a2", "a3"} << QStringList{"b1", "b2", "b3"}
+                                 << QStringList{"a1", "a2", "a3"};
+    QTest::newRow("only one is left")
+        << QStringList{"-1", "2", "-3"} << QStringList{"4"} << QStringList{"2"};
+    QTest::newRow("one more than before")
+        << QStringList{"1", "2"} << QStringList{"3", "4", "5"} << QStringList{"1", "2", ""};
+}
+
+void FileSyncTest::reconnectsEachTwin()
+{
+    QFETCH(QStringList, before);
+    QFETCH(QStringList, after);
+    QFETCH(QStringList, tagged);
+    const auto make = [this](const QString &name) {
+        QVERIFY(QDir().mkpath(QFileInfo(m_folder->design(name)).path()));
+        QVERIFY(DstDesign::square().writeTo(m_folder->design(name) + ".dst"));
+    };
+    for (const QString &name : before)
+        make(name);
     sync();
-    file("2.dst")->setTags({"flowers"});
-    for (const char *name : {"1.dst", "2.dst", "3.dst"})
-        QVERIFY(QFile::rename(path(name), path(name) + ".dst"));
-    QCOMPARE(sync(), (QList<int>{0, 0, 3, 2, 0}));
-    QCOMPARE(m_project->files().constFirst()->tags(), QStringList{"flowers"});
+    for (const QString &name : before) {
+        if (!name.startsWith('-'))
+            file(name + ".dst")->setTags({name});
+    }
+    QVERIFY(QDir(m_folder->designs()).removeRecursively());
+    for (const QString &name : after)
+        make(name);
+
+    const int moved = qMin(before.size(), after.size());
+    QCOMPARE(sync(), (QList<int>{after.size() - moved, 0, moved, before.size() - moved, 0}));
+    for (int i = 0; i < after.size(); ++i)
+        QCOMPARE(file(after.at(i) + ".dst")->tags().join(' '), tagged.at(i));
+}
+
+void FileSyncTest::reconnectsNothingWhenAborted()
+{
+    write("a.dst", DstDesign::square("Same"));
+    sync();
+    file("a.dst")->setNotes("mine");
+    QVERIFY(QFile::rename(path("a.dst"), path("b.dst")));
+    m_listener.onProceed = [this](const QString &text) {
+        m_listener.aborted = text.startsWith(QLatin1String("Looking"));
+    };
+    QCOMPARE(sync(), (QList<int>{0, 0, 0, 0, 0}));
+    QVERIFY(m_listener.aborted);
+    QVERIFY(file("a.dst"));
+    m_listener = ScriptedListener();
+    QCOMPARE(sync(), (QList<int>{0, 0, 1, 0, 0}));
+    QCOMPARE(file("b.dst")->notes(), QStringLiteral("mine"));
+}
+
+QMap<QString, QByteArray> FileSyncTest::results(int threads)
+{
+    QDir(m_folder->dataFile(QString())).removeRecursively();
+    m_project = QSharedPointer<Project>::create();
+    m_project->setSmartFolders({m_folder->designs()}, QString());
+    ScriptedListener listener;
+    FileSync sync(m_project, &listener);
+    sync.setThreadCount(threads);
+    sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
+
+    QMap<QString, QByteArray> results;
+    for (const UnreadableFile &file : sync.unreadableFiles())
+        results[QStringLiteral("unreadable")] += file.path.toUtf8() + file.reason.toUtf8() + '\n';
+    results[QStringLiteral("told")] = listener.texts.join('\n').toUtf8();
+    m_project->save(m_folder->catalogueFile());
+    QDirIterator files(m_folder->dataFile(QString()), QDir::Files | QDir::Hidden,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        results[files.fileName()] = CatalogueFolder::read(path);
+    }
+    return results;
+}
+
+void FileSyncTest::doesNotDependOnTheNumberOfThreads()
+{
+    QDirIterator samples(SAMPLES_DIR "/Flowers", QDir::Files);
+    for (int i = 0; samples.hasNext(); ++i) {
+        const QString sample = samples.next();
+        QVERIFY(QFile::copy(sample, m_folder->design(samples.fileName())));
+        if (i % 5 == 0)
+            QVERIFY(QFile::copy(sample, m_folder->design("copy of " + samples.fileName())));
+        if (i % 7 == 0)
+            QVERIFY(CatalogueFolder::write(m_folder->design(QString::number(i) + ".hus"), "junk"));
+    }
+    // The same bytes make different pictures by their names; that of the last file stays.
+    for (const char *name : {"same.exp", "same.pec", "same.sew", "same.dst"}) {
+        DstDesign design;
+        for (int i = 0; i < 300; ++i)
+            design.stitch(i % 2 ? 90 : -90, 3);
+        write(name, design);
+    }
+    const auto expected = results(1);
+    QVERIFY(expected.size() > 40);
+    for (const int threads : {2, 3, 8}) {
+        const auto actual = results(threads);
+        QCOMPARE(actual.keys(), expected.keys());
+        for (const QString &name : expected.keys())
+            QVERIFY2(actual.value(name) == expected.value(name), qPrintable(name));
+    }
+}
+
+void FileSyncTest::clearsUpAfterADeadWriter()
+{
+    write("a.dst", DstDesign::square());
+    sync();
+    const QString left = m_folder->dataFile("previews/.hoopline-2147483647-0.part");
+    QVERIFY(CatalogueFolder::write(left, "half a picture"));
+    QCOMPARE(sync(), (QList<int>{0, 0, 0, 0, 0}));
+    QVERIFY(!QFile::exists(left));
+}
+
+void FileSyncTest::endsBesideAFileThatNeverAnswers()
+{
+    write("a.dst", DstDesign::square("One"));
+    write("b.dst", DstDesign::square("Two"));
+    // A pipe that nobody writes to takes the place of the file once it was found.
+    m_listener.onSetSteps = [this](int steps) {
+        if (steps == 2) {
+            QFile::remove(path("a.dst"));
+            ::mkfifo(QFile::encodeName(path("a.dst")).constData(), 0666);
+        }
+    };
+    m_listener.onWait = [this] { m_listener.aborted = true; };
+    QCOMPARE(sync(), (QList<int>{2, 0, 0, 0, 0}));
+    QVERIFY(file("a.dst")->contentHash().isEmpty());
+    // The thread that was left behind can end.
+    QFile pipe(path("a.dst"));
+    QVERIFY(pipe.open(QIODevice::ReadWrite));
 }
 
 QTEST_MAIN(FileSyncTest)

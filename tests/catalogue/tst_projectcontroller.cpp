@@ -25,6 +25,7 @@ private slots:
     void savesUserEdits();
     void reloadsNewerCatalogueOnly();
     void vanishedDesignLeavesTheOthers();
+    void announcesAgainAfterAScanThatFailed();
     void userDataSurvivesHostileNames();
 
 private:
@@ -158,8 +159,8 @@ void ProjectControllerTest::vanishedDesignLeavesTheOthers()
     QVERIFY(DstDesign::square().writeTo(path("a.dst")));
     QVERIFY(DstDesign::square("Stays").writeTo(path("b.dst")));
     m_controller->loadOrCreateProject();
-    m_listener.onProceed = [this](const QString &text) {
-        if (text.startsWith(QLatin1String("Loading")))
+    m_listener.onSetSteps = [this](int steps) {
+        if (steps == 2)
             QFile::remove(path("a.dst"));
     };
     m_controller->addDirectories({m_folder->designs()});
@@ -169,6 +170,14 @@ void ProjectControllerTest::vanishedDesignLeavesTheOthers()
     QCOMPARE(unreadable.constFirst().path, path("a.dst"));
     QVERIFY(!unreadable.constFirst().damaged);
     QVERIFY(unreadable.constFirst().reason.contains("No such file"));
+}
+
+void ProjectControllerTest::announcesAgainAfterAScanThatFailed()
+{
+    m_controller->loadOrCreateProject();
+    m_listener.onSetSteps = [](int) { throw Error(QStringLiteral("broken")); };
+    QVERIFY_EXCEPTION_THROWN(m_controller->addDirectories({m_folder->designs()}), Error);
+    QVERIFY(!ChangeManager::instance().isBulkOperationActive());
 }
 
 void ProjectControllerTest::userDataSurvivesHostileNames()

@@ -16,6 +16,13 @@ QByteArray encodedPath(const QString &dir)
     return QDir(dir).absolutePath().toUtf8();
 }
 
+using Stream = std::unique_ptr<DIR, int (*)(DIR *)>;
+
+Stream open(const QString &dir)
+{
+    return Stream(opendir(encodedPath(dir).constData()), closedir);
+}
+
 FolderListing::Type typeOf(mode_t mode)
 {
     if (S_ISREG(mode))
@@ -42,11 +49,21 @@ std::optional<FolderListing::Identity> FolderListing::identity(const QString &di
     return Identity(facts.st_dev, facts.st_ino);
 }
 
+QVector<QByteArray> FolderListing::fileNames(const QString &dir)
+{
+    QVector<QByteArray> names;
+    const Stream stream = open(dir);
+    while (const dirent *entry = stream ? readdir(stream.get()) : nullptr) {
+        if (entry->d_type != DT_DIR)
+            names.append(entry->d_name);
+    }
+    return names;
+}
+
 FolderListing::FolderListing(const QString &dir, bool hidden)
     : m_prefix(dir.endsWith(QLatin1Char('/')) ? dir : dir + QLatin1Char('/'))
 {
-    const std::unique_ptr<DIR, int (*)(DIR *)> stream(opendir(encodedPath(dir).constData()),
-                                                      closedir);
+    const Stream stream = open(dir);
     errno = stream ? 0 : errno;
     while (const dirent *entry = stream ? readdir(stream.get()) : nullptr) {
         if (hidden || entry->d_name[0] != '.')

@@ -3,6 +3,7 @@
 #include "base/files/FoundFiles.h"
 
 #include <optional>
+#include <QByteArray>
 #include <QString>
 #include <QVector>
 #include <sys/types.h>
@@ -45,6 +46,12 @@ public:
 
     /** The folder's path as it was given, and the name. */
     QString pathOf(const Entry &entry) const { return m_prefix + entry.name; }
+
+    /**
+     * The names of all entries that are no folders, as they are stored, unsorted and
+     * without a look at each; empty when the folder can't be read.
+     */
+    static QVector<QByteArray> fileNames(const QString &dir);
 
     /** Nothing when there is no folder at @p dir; errno tells why. */
     static std::optional<Identity> identity(const QString &dir);

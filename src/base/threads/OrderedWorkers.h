@@ -17,6 +17,13 @@
 #include <utility>
 #include <vector>
 
+/** How much of the machine workers may take. */
+struct WorkerLimits
+{
+    int threads;
+    qint64 memory; ///< bytes
+};
+
 /**
  * Does a list of jobs on several threads and hands the results back in the order of
  * the jobs, so that what becomes of them doesn't depend on the number of threads.
@@ -38,14 +45,8 @@ public:
     /** Does one job on any thread; must return soon after the check says stop. May throw. */
     using Work = std::function<Result(const Job &, const IAbortCheck &)>;
 
-    struct Limits
-    {
-        int threads;
-        qint64 memory; ///< bytes
-    };
-
     /** Begins. @throws std::system_error when there is no thread to be had */
-    OrderedWorkers(std::vector<Job> jobs, Work work, const Limits &limits)
+    OrderedWorkers(std::vector<Job> jobs, Work work, const WorkerLimits &limits)
         : m_shared(std::make_shared<Shared>(std::move(jobs), std::move(work), limits.memory))
     {
         const std::size_t useful =

@@ -1,50 +1,31 @@
 #include "catalogue/sync/FileSync.h"
 
 #include "base/EmptyProgressListener.h"
-#include "base/Error.h"
-#include "base/files/DirectoryScanner.h"
-#include "base/files/FileTools.h"
+#include "base/GlobalSettings.h"
+#include "base/threads/ResponsiveWait.h"
 #include "catalogue/records/File.h"
-#include "catalogue/records/Thread.h"
-#include "embroidery/EmbPattern.h"
-#include "embroidery/EmbroideryIO.h"
-#include "embroidery/EmbThread.h"
-#include "embroidery/IOException.h"
-#include "preview/render/PreviewRenderer.h"
+#include "catalogue/scan/DesignFinder.h"
+#include "catalogue/scan/DesignPreparation.h"
+#include "catalogue/scan/PreviewFolder.h"
+#include "catalogue/sync/Reconnection.h"
+#include "catalogue/sync/RecordUpdate.h"
 #include <algorithm>
-#include <QColor>
+#include <iterator>
 #include <QCryptographicHash>
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QHash>
-#include <QPixmap>
+#include <QThread>
 #include <utility>
 
 namespace {
 
 constexpr int ScanSteps = 10000;
-constexpr double PreviewSize = 400.0;
-constexpr double UnitsPerMillimetre = 10.0;
-constexpr qint64 BytesPerMB = 1048576;
+/** Of the files under way; one alone may need more. */
+constexpr qint64 WorkersMemory = 256 * 1024 * 1024;
+/** What the workers get to end by themselves when the user has asked for the end. */
+constexpr std::chrono::milliseconds LastMoment(40);
 
-/** Sets have no order of their own; runs over the same files shall go alike. */
-QStringList inOrder(const QSet<QString> &paths)
+QString fileName(const QString &path)
 {
-    QStringList list = paths.values();
-    std::sort(list.begin(), list.end());
-    return list;
-}
-
-bool bearsUserData(const IFile &file)
-{
-    return file.isFavorite() || !file.notes().isEmpty() || !file.tags().isEmpty();
-}
-
-QFileInfoList previewFiles(const QString &directory)
-{
-    return QDir(directory).entryInfoList({QStringLiteral("*.png")}, QDir::Files, QDir::Unsorted);
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
 } // namespace
@@ -52,9 +33,9 @@ QFileInfoList previewFiles(const QString &directory)
 FileSync::FileSync(QSharedPointer<Project> project, IProgressAbortListener *listener,
                    UsageEventSink usage)
     : m_project(std::move(project)), m_listener(listener ? listener : &emptyProgressListener),
-      m_tracking(std::move(usage))
+      m_previews(std::make_shared<PreviewFolder>(GlobalSettings().previewImagePath(QByteArray()))),
+      m_tracking(std::move(usage)), m_limits{QThread::idealThreadCount(), WorkersMemory}
 {
-    QDir().mkpath(m_settings.previewImagePath(QByteArray()));
 }
 
 QByteArray FileSync::calculateContentHash(const QByteArray &bytes)
@@ -67,121 +48,104 @@ void FileSync::syncFilesWithDisk(const QStringList &formats)
     m_tracking.beginSync(formats);
     m_counts = SyncCounts();
     m_unreadable.clear();
-    const Paths onDisk = findSupportedFiles();
+    m_skipped.clear();
+    m_previews->removeLeftovers();
+    const auto onDisk = findSupportedFiles();
     // What an aborted scan did not reach must never be taken for deleted.
     if (!m_listener->abortState())
         applyChanges(onDisk);
     m_tracking.endSync(m_project->smartFolders().size(), m_project->files().size());
 }
 
-QSet<QString> FileSync::findSupportedFiles()
+QHash<QString, FoundFile> FileSync::findSupportedFiles()
 {
-    DirectoryScanner scanner;
-    scanner.setAbortCheck(m_listener);
-    scanner.setProgressListener(m_listener);
     m_listener->setSteps(ScanSteps);
+    const FoundFiles found = DesignFinder::find(m_project->smartFolders(), *m_listener);
+    keepRelevant(found.skipped);
 
-    QStringList found;
-    const QStringList folders = m_project->smartFolders();
-    for (const QString &folder : folders)
-        found += scanner.findFilesRecursive(folder);
-    m_tracking.logFileCountByExtension(found);
-    const QStringList supported = m_tracking.supportedFiles();
-    return Paths(supported.begin(), supported.end());
+    QHash<QString, FoundFile> supported;
+    supported.reserve(found.files.size());
+    for (const FoundFile &file : found.files) {
+        if (m_tracking.logFile(file.path))
+            supported.insert(file.path, file);
+    }
+    return supported;
 }
 
-void FileSync::applyChanges(const Paths &onDisk)
+/** A name that is no text matters when it is that of a folder or of a design. */
+void FileSync::keepRelevant(const QVector<SkippedEntry> &skipped)
 {
-    const Paths known = projectFileNames();
-    Paths kept = known & onDisk;
-    Paths fresh = onDisk - kept;
-    Paths gone = known - kept;
+    std::copy_if(skipped.begin(), skipped.end(), std::back_inserter(m_skipped),
+                 [this](const SkippedEntry &entry) {
+                     return entry.kind != SkippedEntry::UndecodableName ||
+                            !fileName(entry.path).contains(QLatin1Char('.')) ||
+                            m_tracking.isSupported(entry.path);
+                 });
+}
 
-    const Paths reconnected = reconnectFiles(fresh, gone);
-    gone -= reconnected;
-    fresh -= reconnected;
-    kept += reconnected;
+void FileSync::applyChanges(const QHash<QString, FoundFile> &onDisk)
+{
+    QSet<QString> gone;
+    QHash<QString, FoundFile> unknown = onDisk;
+    const auto files = m_project->files();
+    for (const Record &file : files) {
+        const QString path = file->absoluteFilePath();
+        if (onDisk.contains(path))
+            unknown.remove(path);
+        else
+            gone.insert(path);
+    }
+    QVector<FoundFile> fresh(unknown.cbegin(), unknown.cend());
+    // Hashes have no order of their own; runs over the same files shall go alike.
+    std::sort(fresh.begin(), fresh.end(),
+              [](const FoundFile &a, const FoundFile &b) { return a.path < b.path; });
 
-    m_listener->setSteps(kept.size() + fresh.size());
-    m_existingPreviewKeys = existingPreviews();
+    if (!reconnectFiles(fresh, gone))
+        return;
+    m_listener->setSteps(onDisk.size());
+    m_existingPreviewKeys = m_previews->keys();
     removeFileData(gone);
-    addFileData(fresh);
-    updateFileData(kept);
+    updateRecords(fresh, onDisk);
     removePreviewFiles(m_existingPreviewKeys - allContentKeys());
 }
 
-QSet<QString> FileSync::projectFileNames() const
+/** False when the user has asked for the end: what was not compared yet may only have moved. */
+bool FileSync::reconnectFiles(QVector<FoundFile> &fresh, QSet<QString> &gone)
 {
-    Paths names;
-    const auto files = m_project->files();
-    names.reserve(files.size());
-    for (const QSharedPointer<IFile> &file : files)
-        names.insert(file->absoluteFilePath());
-    return names;
-}
-
-QSet<QString> FileSync::reconnectFiles(const Paths &fresh, const Paths &gone)
-{
-    Paths reconnected;
     if (fresh.isEmpty() || gone.isEmpty())
-        return reconnected;
-
-    QHash<QByteArray, QSharedPointer<IFile>> vanished;
-    QSet<int> sizes;
+        return true;
     const auto files = m_project->files();
-    for (const QSharedPointer<IFile> &file : files) {
-        if (!gone.contains(file->absoluteFilePath()))
-            continue;
-        QSharedPointer<IFile> &survivor = vanished[file->contentHash()];
-        // Of several copies only one survives; none that the user has worked on shall give way
-        // to one that he hasn't.
-        if (!survivor || bearsUserData(*file) || !bearsUserData(*survivor))
-            survivor = file;
-        sizes.insert(file->fileSize());
-    }
+    QList<Record> vanished;
+    std::copy_if(files.begin(), files.end(), std::back_inserter(vanished),
+                 [&gone](const Record &file) { return gone.contains(file->absoluteFilePath()); });
+    const auto matches = Reconnection(vanished, fresh).find(*m_listener, m_limits);
+    if (m_listener->abortState())
+        return false;
 
-    const QStringList paths = inOrder(fresh);
-    for (const QString &path : paths) {
-        if (!sizes.contains(int(QFileInfo(path).size())))
-            continue;
-        QByteArray bytes;
-        try {
-            bytes = FileTools::readAll(path, FileTools::Binary);
-        } catch (const Error &) {
-            continue; // noted when its record is made
-        }
-        const QSharedPointer<IFile> file = vanished.value(calculateContentHash(bytes));
-        if (!file)
-            continue;
-        file->setAbsoluteFilePath(path);
-        reconnected.insert(path);
+    QSet<QString> reconnected;
+    for (const Reconnection::Match &match : matches) {
+        match.record->setAbsoluteFilePath(match.path);
+        reconnected.insert(match.path);
     }
-
+    gone -= reconnected;
+    fresh.erase(std::remove_if(fresh.begin(), fresh.end(),
+                               [&reconnected](const FoundFile &file) {
+                                   return reconnected.contains(file.path);
+                               }),
+                fresh.end());
     m_counts.reconnected = reconnected.size();
     if (m_counts.reconnected != 0)
         m_project->setFiles(files);
-    return reconnected;
+    return true;
 }
 
-QSet<QByteArray> FileSync::existingPreviews()
-{
-    QSet<QByteArray> keys;
-    const QFileInfoList previews = previewFiles(m_settings.previewImagePath(QByteArray()));
-    keys.reserve(previews.size());
-    for (const QFileInfo &preview : previews) {
-        QString name = preview.fileName();
-        keys.insert(QByteArray::fromHex(name.remove(QStringLiteral(".png")).toLatin1()));
-    }
-    return keys;
-}
-
-void FileSync::removeFileData(const Paths &gone)
+void FileSync::removeFileData(const QSet<QString> &gone)
 {
     if (gone.isEmpty())
         return;
     const auto files = m_project->files();
-    QList<QSharedPointer<IFile>> remaining;
-    for (const QSharedPointer<IFile> &file : files) {
+    QList<Record> remaining;
+    for (const Record &file : files) {
         if (!gone.contains(file->absoluteFilePath()))
             remaining.append(file);
     }
@@ -189,138 +153,87 @@ void FileSync::removeFileData(const Paths &gone)
     m_counts.removed = files.size() - remaining.size();
 }
 
-void FileSync::addFileData(const Paths &fresh)
+void FileSync::updateRecords(const QVector<FoundFile> &fresh,
+                             const QHash<QString, FoundFile> &onDisk)
+{
+    QVector<Visit> kept;
+    std::vector<DesignJob> jobs;
+    const auto addJob = [&jobs](const FoundFile &file, const QByteArray &knownHash) {
+        jobs.push_back({file.path, file.size, knownHash, int(jobs.size())});
+    };
+    for (const FoundFile &file : fresh)
+        addJob(file, QByteArray());
+    const auto files = m_project->files();
+    for (const Record &file : files) {
+        const auto found = onDisk.constFind(file->absoluteFilePath());
+        if (found == onDisk.constEnd())
+            continue;
+        const bool doubtful = !RecordUpdate::isUnchanged(*file, *found, m_existingPreviewKeys);
+        kept.append({file, found->path, doubtful});
+        if (doubtful)
+            addJob(*found, file->contentHash());
+    }
+
+    const auto preparation =
+        std::make_shared<const DesignPreparation>(m_previews, m_existingPreviewKeys);
+    Workers workers(
+        std::move(jobs),
+        [preparation](const DesignJob &job, const IAbortCheck &abort) {
+            return preparation->prepare(job, abort);
+        },
+        m_limits);
+    addFileData(fresh, workers);
+    updateFileData(kept, workers);
+    if (m_listener->abortState())
+        workers.abort(LastMoment);
+}
+
+void FileSync::addFileData(const QVector<FoundFile> &fresh, Workers &workers)
 {
     if (fresh.isEmpty())
         return;
-    QList<QSharedPointer<IFile>> files = m_project->files();
-    const QStringList paths = inOrder(fresh);
-    for (const QString &path : paths) {
+    QList<Record> files = m_project->files();
+    const int before = files.size();
+    for (const FoundFile &found : fresh) {
         const auto file = QSharedPointer<File>::create(m_project.data());
-        file->setAbsoluteFilePath(path);
-        if (isStopped())
-            ++m_counts.unreached;
+        file->setAbsoluteFilePath(found.path);
+        const auto design = lookInto({file, found.path, true}, workers);
+        if (design)
+            commit(file, *design);
         else
-            updateFileData(file);
-        files.append(file);
+            ++m_counts.unreached;
+        if (!design || !design->vanished)
+            files.append(file);
     }
     m_project->setFiles(files);
-    m_counts.added = fresh.size();
+    m_counts.added = files.size() - before;
 }
 
-void FileSync::updateFileData(const Paths &kept)
+void FileSync::updateFileData(const QVector<Visit> &kept, Workers &workers)
 {
-    if (kept.isEmpty())
-        return;
-    const auto files = m_project->files();
-    for (const QSharedPointer<IFile> &file : files) {
-        if (kept.contains(file->absoluteFilePath()) && !isStopped())
-            m_counts.updated += updateFileData(file);
+    for (const Visit &visit : kept) {
+        if (const auto design = lookInto(visit, workers))
+            m_counts.updated += commit(visit.record, *design);
     }
 }
 
-bool FileSync::isStopped()
+/** Nothing when there was no need, or when the user has asked for the end. */
+std::optional<PreparedDesign> FileSync::lookInto(const Visit &visit, Workers &workers)
 {
-    if (!m_listener->abortState())
-        return false;
-    m_listener->proceed(QStringLiteral("Aborting..."));
-    return true;
-}
-
-int FileSync::updateFileData(const QSharedPointer<IFile> &file)
-{
-    const QString path = file->absoluteFilePath();
-    const QFileInfo info(path);
-    m_listener->proceed(QStringLiteral("Loading ") + info.fileName());
-
-    if (isUnchanged(*file, info))
-        return 0;
-
-    // Ahead of the new date and size: a file that can't be read must look changed the next time.
-    QByteArray bytes;
-    try {
-        bytes = FileTools::readAll(path, FileTools::Binary);
-    } catch (const Error &error) {
-        noteUnreadable({path, error.toString(), false});
-        return 0;
+    if (m_listener->abortState()) {
+        m_listener->proceed(QStringLiteral("Aborting..."));
+        return std::nullopt;
     }
-    file->setModificationDate(static_cast<unsigned int>(info.lastModified().toSecsSinceEpoch()));
-    file->setFileSize(static_cast<int>(info.size()));
-    const QByteArray hash = calculateContentHash(bytes);
-    const bool hasPreview = m_existingPreviewKeys.contains(hash);
-    if (hash == file->contentHash() && hasPreview)
-        return 1;
-
-    file->setContentHash(hash);
-    const Pattern pattern = readPattern(path, bytes);
-    if (!pattern) {
-        m_tracking.fileFormatError();
-        return 1;
-    }
-    copyMetaData(pattern, file);
-    if (!hasPreview)
-        updatePreviewImage(pattern, hash);
-    return 1;
+    m_listener->proceed(QStringLiteral("Loading ") + fileName(visit.path));
+    if (!visit.doubtful)
+        return std::nullopt;
+    return waitResponsively(*m_listener,
+                            [&workers](auto patience) { return workers.take(patience); });
 }
 
-bool FileSync::isUnchanged(const IFile &file, const QFileInfo &onDisk) const
+int FileSync::commit(const Record &file, const PreparedDesign &design)
 {
-    const QByteArray hash = file.contentHash();
-    return onDisk.lastModified().toSecsSinceEpoch() == file.modificationDate() &&
-           onDisk.size() == file.fileSize() && !hash.isEmpty() &&
-           m_existingPreviewKeys.contains(hash);
-}
-
-QSharedPointer<Embroidery::EmbPattern> FileSync::readPattern(const QString &path,
-                                                             const QByteArray &bytes)
-{
-    try {
-        return Embroidery::EmbroideryIO::readByteArray(path, bytes);
-    } catch (const Embroidery::IOException &exception) {
-        // One damaged design must not end the run for all the others.
-        noteUnreadable({path, exception.message, true});
-        return Pattern();
-    }
-}
-
-void FileSync::noteUnreadable(const UnreadableFile &file)
-{
-    m_unreadable.append(file);
-    ++m_counts.unreadable;
-}
-
-void FileSync::copyMetaData(const Pattern &pattern, const QSharedPointer<IFile> &file)
-{
-    file->setName(pattern->getName());
-    const QRectF bounds = pattern->boundingRect();
-    file->setDesignSize(
-        QSizeF(bounds.width() / UnitsPerMillimetre, bounds.height() / UnitsPerMillimetre));
-    file->setStitchCount(pattern->getStitchCount());
-
-    QList<QSharedPointer<IThread>> threads;
-    const auto embThreads = pattern->threadList();
-    for (const QSharedPointer<Embroidery::EmbThread> &embThread : embThreads) {
-        const auto thread = QSharedPointer<Thread>::create(m_project.data());
-        thread->setColor(QColor(embThread->getRGB()));
-        thread->setColorName(embThread->getDescription());
-        const QString chart = embThread->getChart();
-        thread->setChart(chart.isEmpty() ? embThread->getBrand() : chart);
-        threads.append(thread);
-    }
-    file->setThreads(threads);
-}
-
-void FileSync::updatePreviewImage(const Pattern &pattern, const QByteArray &hash)
-{
-    m_tracking.beginRenderFile();
-    const QPixmap pixmap = PreviewRenderer::renderToPixmap(pattern, PreviewSize);
-    m_tracking.endRenderFile(pattern->getStitchCount());
-    if (pixmap.isNull())
-        return;
-    const QString path = m_settings.previewImagePath(hash);
-    // Half a picture would pass for a preview in every later run.
-    if (!pixmap.save(path))
-        QFile::remove(path);
+    return RecordUpdate(m_project.data(), m_tracking, m_counts, m_unreadable).commit(file, design);
 }
 
 QSet<QByteArray> FileSync::allContentKeys() const
@@ -328,25 +241,14 @@ QSet<QByteArray> FileSync::allContentKeys() const
     QSet<QByteArray> keys;
     const auto files = m_project->files();
     keys.reserve(files.size());
-    for (const QSharedPointer<IFile> &file : files)
+    for (const Record &file : files)
         keys.insert(file->contentHash());
     return keys;
 }
 
 void FileSync::removePreviewFiles(const QSet<QByteArray> &orphans)
 {
-    if (orphans.isEmpty() ||
-        (m_maxCacheSizeMB != 0 && previewDirectorySizeMB() <= m_maxCacheSizeMB))
+    if (orphans.isEmpty() || (m_maxCacheSizeMB != 0 && m_previews->sizeInMB() <= m_maxCacheSizeMB))
         return;
-    for (const QByteArray &key : orphans)
-        QFile::remove(m_settings.previewImagePath(key));
-}
-
-qint64 FileSync::previewDirectorySizeMB()
-{
-    qint64 bytes = 0;
-    const QFileInfoList previews = previewFiles(m_settings.previewImagePath(QByteArray()));
-    for (const QFileInfo &preview : previews)
-        bytes += preview.size();
-    return bytes / BytesPerMB;
+    m_previews->remove(orphans);
 }

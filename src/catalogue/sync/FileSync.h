@@ -1,26 +1,31 @@
 #pragma once
 
-#include "base/GlobalSettings.h"
+#include "base/files/FoundFiles.h"
 #include "base/IProgressAbortListener.h"
+#include "base/threads/OrderedWorkers.h"
 #include "catalogue/records/IFile.h"
 #include "catalogue/records/Project.h"
+#include "catalogue/scan/PreparedDesign.h"
 #include "catalogue/sync/FileSyncTracking.h"
 #include "catalogue/sync/SyncCounts.h"
 #include "catalogue/sync/UnreadableFile.h"
+#include <memory>
+#include <optional>
 #include <QByteArray>
+#include <QHash>
 #include <QSet>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
-class QFileInfo;
-namespace Embroidery {
-class EmbPattern;
-}
+class PreviewFolder;
 
 /**
- * Brings the catalogue into line with the disk. One instance lives for one run,
- * on the main thread.
+ * Brings the catalogue into line with the disk. One instance lives for one run, on the
+ * main thread: it compares what a DesignFinder found with the records, has the new and
+ * the doubtful files looked into by a DesignPreparation on several threads, and enters
+ * the results in order. Only this thread touches the catalogue.
  *
  * A file is known by the MD5 of its bytes: a file that vanished and turns up
  * elsewhere with the same content keeps its record, and with it the user's tags,
@@ -38,9 +43,9 @@ public:
              UsageEventSink usage = {});
 
     /**
-     * The whole run over the project's smart folders.
+     * The whole run over the project's smart folders. A file that cannot be read leaves
+     * its record as it is, and the others go on.
      * @param formats wildcards of the formats that are read, such as "*.pes"
-     * A file that cannot be read leaves its record as it is; the others go on.
      */
     void syncFilesWithDisk(const QStringList &formats);
 
@@ -48,6 +53,8 @@ public:
     SyncCounts counts() const { return m_counts; }
     /** In the order in which the run met them. */
     QList<UnreadableFile> unreadableFiles() const { return m_unreadable; }
+    /** Folders that could not be looked into, and names of folders and designs that are no text. */
+    QVector<SkippedEntry> skippedEntries() const { return m_skipped; }
 
     /**
      * Above this many megabytes previews that no record needs are deleted; 0
@@ -55,38 +62,45 @@ public:
      */
     void setMaxCacheSizeMB(int megabytes) { m_maxCacheSizeMB = megabytes; }
 
+    /** As many threads as there are cores look into files, if nothing else is asked for. */
+    void setThreadCount(int count) { m_limits.threads = count; }
+
     /** The raw 16-byte MD5 digest of @p bytes. */
     static QByteArray calculateContentHash(const QByteArray &bytes);
 
 private:
-    using Paths = QSet<QString>;
-    using Pattern = QSharedPointer<Embroidery::EmbPattern>;
+    using Record = QSharedPointer<IFile>;
+    using Workers = OrderedWorkers<DesignJob, PreparedDesign>;
 
-    Paths findSupportedFiles();
-    void applyChanges(const Paths &onDisk);
-    Paths projectFileNames() const;
-    Paths reconnectFiles(const Paths &fresh, const Paths &gone);
-    QSet<QByteArray> existingPreviews();
-    void removeFileData(const Paths &gone);
-    void addFileData(const Paths &fresh);
-    void updateFileData(const Paths &kept);
-    bool isStopped();
-    int updateFileData(const QSharedPointer<IFile> &file);
-    bool isUnchanged(const IFile &file, const QFileInfo &onDisk) const;
-    void noteUnreadable(const UnreadableFile &file);
-    Pattern readPattern(const QString &path, const QByteArray &bytes);
-    void copyMetaData(const Pattern &pattern, const QSharedPointer<IFile> &file);
-    void updatePreviewImage(const Pattern &pattern, const QByteArray &hash);
+    /** A record whose file is there. */
+    struct Visit
+    {
+        Record record;
+        QString path;
+        bool doubtful; ///< one of the workers looks into the file
+    };
+
+    QHash<QString, FoundFile> findSupportedFiles();
+    void keepRelevant(const QVector<SkippedEntry> &skipped);
+    void applyChanges(const QHash<QString, FoundFile> &onDisk);
+    bool reconnectFiles(QVector<FoundFile> &fresh, QSet<QString> &gone);
+    void removeFileData(const QSet<QString> &gone);
+    void updateRecords(const QVector<FoundFile> &fresh, const QHash<QString, FoundFile> &onDisk);
+    void addFileData(const QVector<FoundFile> &fresh, Workers &workers);
+    void updateFileData(const QVector<Visit> &kept, Workers &workers);
+    std::optional<PreparedDesign> lookInto(const Visit &visit, Workers &workers);
+    int commit(const Record &file, const PreparedDesign &design);
     QSet<QByteArray> allContentKeys() const;
     void removePreviewFiles(const QSet<QByteArray> &orphans);
-    qint64 previewDirectorySizeMB();
 
     QSharedPointer<Project> m_project;
     IProgressAbortListener *m_listener;
     SyncCounts m_counts;
     QList<UnreadableFile> m_unreadable;
+    QVector<SkippedEntry> m_skipped;
+    std::shared_ptr<PreviewFolder> m_previews;
     QSet<QByteArray> m_existingPreviewKeys;
-    GlobalSettings m_settings;
     FileSyncTracking m_tracking;
+    WorkerLimits m_limits;
     int m_maxCacheSizeMB = 250;
 };

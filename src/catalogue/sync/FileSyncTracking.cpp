@@ -40,14 +40,25 @@ void FileSyncTracking::beginSync(const QStringList &filters)
 
 void FileSyncTracking::logFileCountByExtension(const QStringList &files)
 {
-    for (const QString &file : files) {
-        const QString suffix = extension(file);
-        if (m_supportedExtensions.contains(suffix))
-            m_supportedFiles.append(file);
-        const auto count = m_fileCounts.find(suffix);
-        if (count != m_fileCounts.end())
-            ++*count;
-    }
+    for (const QString &file : files)
+        logFile(file);
+}
+
+bool FileSyncTracking::logFile(const QString &file)
+{
+    const QString suffix = extension(file);
+    const auto count = m_fileCounts.find(suffix);
+    if (count != m_fileCounts.end())
+        ++*count;
+    if (!m_supportedExtensions.contains(suffix))
+        return false;
+    m_supportedFiles.append(file);
+    return true;
+}
+
+bool FileSyncTracking::isSupported(const QString &file) const
+{
+    return m_supportedExtensions.contains(extension(file));
 }
 
 void FileSyncTracking::fileFormatError()
@@ -63,8 +74,13 @@ void FileSyncTracking::beginRenderFile()
 
 void FileSyncTracking::endRenderFile(int stitchCount)
 {
+    endRenderFile(stitchCount, std::chrono::nanoseconds(m_renderTimer.nsecsElapsed()));
+}
+
+void FileSyncTracking::endRenderFile(int stitchCount, std::chrono::nanoseconds paintingTime)
+{
     m_renderedStitches += stitchCount;
-    m_renderTime += int(m_renderTimer.elapsed());
+    m_renderTime += int(std::chrono::round<std::chrono::milliseconds>(paintingTime).count());
 }
 
 void FileSyncTracking::endSync(int smartFolderCount, int fileCount)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/UsageEventSink.h"
+#include <chrono>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QSet>
@@ -24,12 +25,20 @@ public:
     /** Counts the known design formats among @p files and picks those that can be read. */
     void logFileCountByExtension(const QStringList &files);
 
+    /** The same for one file; true when it can be read. */
+    bool logFile(const QString &file);
+
+    /** Whether a file of this name can be read. */
+    bool isSupported(const QString &file) const;
+
     /** The names among those logged that can be read. */
     QStringList supportedFiles() const { return m_supportedFiles; }
 
     void fileFormatError();
     void beginRenderFile();
     void endRenderFile(int stitchCount);
+    /** The same for a design that was painted elsewhere. */
+    void endRenderFile(int stitchCount, std::chrono::nanoseconds paintingTime);
 
     /** Hands the three events of a synchronisation to the sink. */
     void endSync(int smartFolderCount, int fileCount);

@@ -14,7 +14,7 @@
 #include "catalogue/sync/FileSync.h"
 #include "embroidery/EmbroideryIO.h"
 #include "preview/cache/PreviewCache.h"
-#include "properties/changes/ChangeManager.h"
+#include "properties/changes/BulkOperation.h"
 #include "properties/undo/GUndoStack.h"
 #include <QFileInfo>
 #include <utility>
@@ -194,18 +194,22 @@ void ProjectController::removeSelectedDirectory()
 
 void ProjectController::scanSmartFolders()
 {
-    ChangeManager::instance().startBulkOperation({});
+    m_lastScan = SyncCounts();
+    m_unreadable.clear();
+    m_skipped.clear();
+    BulkOperation bulk;
     {
         FileSync sync(m_project, m_listener, m_usage);
         sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
         m_lastScan = sync.counts();
         m_unreadable = sync.unreadableFiles();
+        m_skipped = sync.skippedEntries();
         if (sync.numChangedFiles() > 0) {
             m_project->undoStack()->resetClean();
             PreviewCache::instance().clear();
         }
     }
-    ChangeManager::instance().finishBulkOperation(true);
+    bulk.finish();
     saveProjectIfModified();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/files/FoundFiles.h"
 #include "base/IProgressAbortListener.h"
 #include "base/UsageEventSink.h"
 #include "catalogue/models/FilterSelectionModel.h"
@@ -13,6 +14,7 @@
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /**
  * Owns the one catalogue of the program and decides when it is loaded, saved,
@@ -57,6 +59,7 @@ public:
     /** What the last scan did. */
     SyncCounts lastScan() const { return m_lastScan; }
     QList<UnreadableFile> unreadableFiles() const { return m_unreadable; }
+    QVector<SkippedEntry> skippedEntries() const { return m_skipped; }
 
     /**
      * Loads the catalogue into a new project. A missing catalogue is created. Of a damaged
@@ -110,7 +113,8 @@ public:
     void removeSelectedDirectory();
 
     /**
-     * Brings the catalogue into line with the disk and saves what changed.
+     * Brings the catalogue into line with the disk and saves what changed. Files that
+     * cannot be read are left out and listed.
      * @throws Error when the catalogue cannot be written
      */
     void scanSmartFolders();
@@ -136,4 +140,5 @@ private:
     SyncCounts m_lastScan;
     QList<Kept> m_kept;
     QList<UnreadableFile> m_unreadable;
+    QVector<SkippedEntry> m_skipped;
 };

@@ -7,5 +7,5 @@ struct UnreadableFile
 {
     QString path;
     QString reason;
-    bool damaged; ///< its bytes were read, but are no design; otherwise the disk gave none
+    bool damaged; ///< its bytes are no design that can be read; otherwise the disk gave none
 };
