@@ -302,7 +302,7 @@ void FileSyncTest::tellsWhatItCannotLookInto()
     sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
     for (const QByteArray &name : names)
         QCOMPARE(::rmdir(name.constData()), 0);
-    const QVector<SkippedEntry> skipped = sync.skippedEntries();
+    const QVector<SkippedEntry> skipped = sync.report().skipped;
     QCOMPARE(skipped.size(), 3);
     QCOMPARE(skipped.at(2).kind, SkippedEntry::MissingFolder);
     QCOMPARE(skipped.at(2).path, missing);

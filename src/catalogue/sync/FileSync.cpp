@@ -47,13 +47,13 @@ void FileSync::syncFilesWithDisk(const QStringList &formats)
 {
     m_tracking.beginSync(formats);
     m_counts = SyncCounts();
-    m_unreadable.clear();
-    m_skipped.clear();
+    m_report = ScanReport();
     m_previews->removeLeftovers();
     const auto onDisk = findSupportedFiles();
     // What an aborted scan did not reach must never be taken for deleted.
     if (!m_listener->abortState())
         applyChanges(onDisk);
+    m_report.stopped = m_listener->abortState() != 0;
     m_tracking.endSync(m_project->smartFolders().size(), m_project->files().size());
 }
 
@@ -75,7 +75,7 @@ QHash<QString, FoundFile> FileSync::findSupportedFiles()
 /** A name that is no text matters when it is that of a folder or of a design. */
 void FileSync::keepRelevant(const QVector<SkippedEntry> &skipped)
 {
-    std::copy_if(skipped.begin(), skipped.end(), std::back_inserter(m_skipped),
+    std::copy_if(skipped.begin(), skipped.end(), std::back_inserter(m_report.skipped),
                  [this](const SkippedEntry &entry) {
                      return entry.kind != SkippedEntry::UndecodableName ||
                             !fileName(entry.path).contains(QLatin1Char('.')) ||
@@ -124,6 +124,7 @@ bool FileSync::reconnectFiles(QVector<FoundFile> &fresh, QSet<QString> &gone)
 
     QSet<QString> reconnected;
     for (const Reconnection::Match &match : matches) {
+        m_report.moved.append({match.record->absoluteFilePath(), match.path});
         match.record->setAbsoluteFilePath(match.path);
         reconnected.insert(match.path);
     }
@@ -146,7 +147,10 @@ void FileSync::removeFileData(const QSet<QString> &gone)
     const auto files = m_project->files();
     QList<Record> remaining;
     for (const Record &file : files) {
-        if (!gone.contains(file->absoluteFilePath()))
+        const QString path = file->absoluteFilePath();
+        if (gone.contains(path))
+            m_report.removed.append(path);
+        else
             remaining.append(file);
     }
     m_project->setFiles(remaining);
@@ -193,7 +197,6 @@ void FileSync::addFileData(const QVector<FoundFile> &fresh, Workers &workers)
     if (fresh.isEmpty())
         return;
     QList<Record> files = m_project->files();
-    const int before = files.size();
     for (const FoundFile &found : fresh) {
         const auto file = QSharedPointer<File>::create(m_project.data());
         file->setAbsoluteFilePath(found.path);
@@ -201,19 +204,27 @@ void FileSync::addFileData(const QVector<FoundFile> &fresh, Workers &workers)
         if (design)
             commit(file, *design);
         else
-            ++m_counts.unreached;
-        if (!design || !design->vanished)
-            files.append(file);
+            m_report.unreached.append(found.path);
+        if (design && design->vanished)
+            continue;
+        files.append(file);
+        m_report.added.append(found.path);
     }
     m_project->setFiles(files);
-    m_counts.added = files.size() - before;
+    m_counts.added = m_report.added.size();
+    m_counts.unreached = m_report.unreached.size();
 }
 
 void FileSync::updateFileData(const QVector<Visit> &kept, Workers &workers)
 {
     for (const Visit &visit : kept) {
-        if (const auto design = lookInto(visit, workers))
-            m_counts.updated += commit(visit.record, *design);
+        const QByteArray before = visit.record->contentHash();
+        const auto design = lookInto(visit, workers);
+        if (!design)
+            continue;
+        m_counts.updated += commit(visit.record, *design);
+        if (design->state == PreparedDesign::Read && design->hash != before)
+            m_report.changed.append(visit.path);
     }
 }
 
@@ -233,7 +244,8 @@ std::optional<PreparedDesign> FileSync::lookInto(const Visit &visit, Workers &wo
 
 int FileSync::commit(const Record &file, const PreparedDesign &design)
 {
-    return RecordUpdate(m_project.data(), m_tracking, m_counts, m_unreadable).commit(file, design);
+    return RecordUpdate(m_project.data(), m_tracking, m_counts, m_report.unreadable)
+        .commit(file, design);
 }
 
 QSet<QByteArray> FileSync::allContentKeys() const

@@ -7,8 +7,8 @@
 #include "catalogue/records/Project.h"
 #include "catalogue/scan/PreparedDesign.h"
 #include "catalogue/sync/FileSyncTracking.h"
+#include "catalogue/sync/ScanReport.h"
 #include "catalogue/sync/SyncCounts.h"
-#include "catalogue/sync/UnreadableFile.h"
 #include <memory>
 #include <optional>
 #include <QByteArray>
@@ -51,10 +51,9 @@ public:
 
     int numChangedFiles() const { return m_counts.changed(); }
     SyncCounts counts() const { return m_counts; }
+    ScanReport report() const { return m_report; }
     /** In the order in which the run met them. */
-    QList<UnreadableFile> unreadableFiles() const { return m_unreadable; }
-    /** Folders that could not be looked into, and names of folders and designs that are no text. */
-    QVector<SkippedEntry> skippedEntries() const { return m_skipped; }
+    QList<UnreadableFile> unreadableFiles() const { return m_report.unreadable; }
 
     /**
      * Above this many megabytes previews that no record needs are deleted; 0
@@ -96,8 +95,7 @@ private:
     QSharedPointer<Project> m_project;
     IProgressAbortListener *m_listener;
     SyncCounts m_counts;
-    QList<UnreadableFile> m_unreadable;
-    QVector<SkippedEntry> m_skipped;
+    ScanReport m_report;
     std::shared_ptr<PreviewFolder> m_previews;
     QSet<QByteArray> m_existingPreviewKeys;
     FileSyncTracking m_tracking;

@@ -195,15 +195,13 @@ void ProjectController::removeSelectedDirectory()
 void ProjectController::scanSmartFolders()
 {
     m_lastScan = SyncCounts();
-    m_unreadable.clear();
-    m_skipped.clear();
+    m_lastReport = ScanReport();
     BulkOperation bulk;
     {
         FileSync sync(m_project, m_listener, m_usage);
         sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
         m_lastScan = sync.counts();
-        m_unreadable = sync.unreadableFiles();
-        m_skipped = sync.skippedEntries();
+        m_lastReport = sync.report();
         if (sync.numChangedFiles() > 0) {
             m_project->undoStack()->resetClean();
             PreviewCache::instance().clear();

@@ -1,20 +1,18 @@
 #pragma once
 
-#include "base/files/FoundFiles.h"
 #include "base/IProgressAbortListener.h"
 #include "base/UsageEventSink.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/CatalogueFile.h"
+#include "catalogue/sync/ScanReport.h"
 #include "catalogue/sync/SyncCounts.h"
-#include "catalogue/sync/UnreadableFile.h"
 #include <memory>
 #include <QCoreApplication>
 #include <QList>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
-#include <QVector>
 
 /**
  * Owns the one catalogue of the program and decides when it is loaded, saved,
@@ -58,8 +56,8 @@ public:
 
     /** What the last scan did. */
     SyncCounts lastScan() const { return m_lastScan; }
-    QList<UnreadableFile> unreadableFiles() const { return m_unreadable; }
-    QVector<SkippedEntry> skippedEntries() const { return m_skipped; }
+    ScanReport lastReport() const { return m_lastReport; }
+    QList<UnreadableFile> unreadableFiles() const { return m_lastReport.unreadable; }
 
     /**
      * Loads the catalogue into a new project. A missing catalogue is created. Of a damaged
@@ -139,6 +137,5 @@ private:
     std::unique_ptr<FilterSelectionModel> m_selectionModel;
     SyncCounts m_lastScan;
     QList<Kept> m_kept;
-    QList<UnreadableFile> m_unreadable;
-    QVector<SkippedEntry> m_skipped;
+    ScanReport m_lastReport;
 };

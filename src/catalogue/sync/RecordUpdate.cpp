@@ -25,9 +25,9 @@ int RecordUpdate::commit(const QSharedPointer<IFile> &record, const PreparedDesi
         noteUnreadable(record->absoluteFilePath(), design);
         return 0;
     }
-    const QByteArray before = record->contentHash();
     const bool touched = design.modified != record->modificationDate() ||
-                         int(design.size) != record->fileSize() || design.hash != before;
+                         int(design.size) != record->fileSize() ||
+                         design.hash != record->contentHash();
     record->setModificationDate(static_cast<unsigned int>(design.modified));
     record->setFileSize(static_cast<int>(design.size));
     if (design.state == PreparedDesign::Touched)
@@ -42,7 +42,6 @@ int RecordUpdate::commit(const QSharedPointer<IFile> &record, const PreparedDesi
     if (design.state == PreparedDesign::TooLarge)
         return touched ? 1 : 0;
     m_tracking.fileFormatError();
-    m_counts.unchanged += touched ? 0 : 1;
     return 1;
 }
 

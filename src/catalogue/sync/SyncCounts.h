@@ -8,7 +8,6 @@ struct SyncCounts
     int added = 0;
     int updated = 0;
     int unreadable = 0; ///< looked into, but no design could be made of it
-    int unchanged = 0;  ///< of those updated: unreadable as before, and tried again
     int unreached = 0;  ///< of those added: not looked into, since the user stopped the run
 
     /** How many records the run touched; unreadable files are counted by what was done with them.
