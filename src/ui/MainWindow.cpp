@@ -11,6 +11,7 @@
 #include "catalogue/query/SavedSearchesFile.h"
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/Project.h"
+#include "catalogue/scan/PreviewRepair.h"
 #include "catalogue/sync/ProjectController.h"
 #include "online/metrics/Metrics.h"
 #include "preview/cache/PreviewCache.h"
@@ -24,9 +25,10 @@
 #include "ui/NoticeBar.h"
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
-#include "ui/TransferNotice.h"
+#include "ui/ScanNotice.h"
 #include "ui/SortMenu.h"
 #include "ui/StatusLine.h"
+#include "ui/TransferNotice.h"
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/style/GWidgetStyles.h"
 
@@ -70,6 +72,7 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
     m_controller->setProgressAbortListener(m_progressDialog);
     m_controller->setUsageEventSink(&Metrics::submitEvent);
     filter()->setSortOrder(SortMenu::rememberedOrder());
+    PreviewCache::instance().setRepairer(&PreviewRepair::repaint);
     createPanes();
     createActions();
     createMenus();
@@ -145,6 +148,8 @@ void MainWindow::createPanes()
     m_transferNotice = new TransferNotice(m_notices, this);
     m_folderChanges = new FolderChangeNotice(
         m_project, m_notices, [this] { rescanDirectories(); }, this);
+    m_scanNotice = new ScanNotice(
+        m_notices, [this] { rescanDirectories(); }, this);
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -268,6 +273,7 @@ bool MainWindow::isModified() const
 void MainWindow::runWithProgress(const QString &activity, const std::function<void()> &operation)
 {
     const QScopedValueRollback<bool> running(m_operationRunning, true);
+    m_scanNotice->withdraw();
     m_center->setScanning(true);
     m_keeper->setPaused(true);
     m_status->setActivity(activity);
@@ -279,6 +285,7 @@ void MainWindow::runWithProgress(const QString &activity, const std::function<vo
         m_folderChanges->watcher()->endScan(complete);
         m_status->setActivity(QString());
         m_status->refresh();
+        m_progressDialog->hide();
     });
     m_progressDialog->show();
     try {
@@ -287,7 +294,7 @@ void MainWindow::runWithProgress(const QString &activity, const std::function<vo
         m_keeper->tellUnsaved(error.reason());
     }
     m_keeper->tellKept();
-    m_progressDialog->hide();
+    m_scanNotice->tell(m_controller->lastReport());
     complete = m_progressDialog->abortState() == 0;
 }
 

@@ -21,6 +21,7 @@ class RightSidebar;
 class TransferNotice;
 class SavedSearches;
 class StatusLine;
+class ScanNotice;
 
 /** The one window of the product: owns the catalogue's controller and turns commands into calls. */
 class MainWindow : public GMainWindow
@@ -106,6 +107,7 @@ private:
     PathOpener *m_pathOpener = nullptr;
     TransferNotice *m_transferNotice = nullptr;
     FolderChangeNotice *m_folderChanges = nullptr;
+    ScanNotice *m_scanNotice = nullptr;
     QSplitter *m_splitter = nullptr;
     LeftSidebar *m_left = nullptr;
     CenterView *m_center = nullptr;

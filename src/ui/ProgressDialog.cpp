@@ -73,6 +73,11 @@ void ProgressDialog::proceed(const QString &text)
     pumpEvents();
 }
 
+void ProgressDialog::stayResponsive()
+{
+    QCoreApplication::processEvents();
+}
+
 void ProgressDialog::pumpEvents()
 {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();

@@ -35,6 +35,9 @@ public:
     /** For work that cannot be broken off. */
     void setCancelEnabled(bool enabled);
 
+    /** Delivers events. */
+    void stayResponsive() override;
+
     /** 2 once the user has asked to stop, 0 until then. */
     int abortState() const override;
 

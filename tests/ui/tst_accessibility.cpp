@@ -15,6 +15,7 @@
 #include "ui/ExportDialog.h"
 #include "ui/LeftSidebar.h"
 #include "ui/MainWindow.h"
+#include "ui/NoticeBar.h"
 #include "ui/PreferencesDialog.h"
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
@@ -79,6 +80,7 @@ QWidget *paneOf(QWidget *widget)
 {
     while (widget && !qobject_cast<GToolBar *>(widget) && !qobject_cast<GSideBarBox *>(widget) &&
            !qobject_cast<CenterView *>(widget) && !qobject_cast<StatusLine *>(widget) &&
+           !qobject_cast<NoticeBar *>(widget) &&
            !widget->isWindow())
         widget = widget->parentWidget();
     return widget;
@@ -281,7 +283,7 @@ void tst_accessibility::tabLeadsThroughThePanes()
     for (const QWidget *pane : qAsConst(panes))
         names.append(QString::fromLatin1(pane->metaObject()->className()));
     QCOMPARE(names.join(QLatin1Char(' ')),
-             QStringLiteral("GToolBar DirectoriesBox TagsBox CenterView PropertiesBox StatusLine"));
+             QStringLiteral("GToolBar NoticeBar DirectoriesBox TagsBox CenterView PropertiesBox StatusLine"));
 }
 
 int main(int argc, char **argv)

@@ -128,6 +128,8 @@ void tst_cataloguekeeping::init()
     QVERIFY(DstDesign::square().writeTo(designs + QStringLiteral("/rose.dst")));
     open();
     m_window->filesDropped({designs});
+    // What the scan did is another matter.
+    m_window->findChild<NoticeBar *>()->withdraw(QStringLiteral("scan"));
     changeState(Qt::ApplicationActive);
 }
 
@@ -308,11 +310,11 @@ void tst_cataloguekeeping::tellsOfAFailedSaveAfterAScan()
     // The catalogue cannot be written where a folder has its name.
     QVERIFY(QFile::remove(m_file) && QDir().mkpath(m_file + QStringLiteral("/x")));
     m_window->filesDropped({more});
-    QCOMPARE(told().size(), 1);
+    QCOMPARE(told().size(), 2);
     QVERIFY(!m_window->findChild<ProgressDialog *>()->isVisible());
     QVERIFY(QDir(m_file).removeRecursively());
     changeState(Qt::ApplicationInactive);
-    QVERIFY(told().isEmpty());
+    QCOMPARE(told(), QStringList(QStringLiteral("1 new")));
     QVERIFY(saved().contains("leaf.dst"));
 }
 
