@@ -1,8 +1,12 @@
+#include "catalogue/scan/PreviewRepair.h"
 #include "preview/cache/PreviewCache.h"
 #include "preview/cache/PreviewCacheListener.h"
 #include "PreviewFixture.h"
+#include "support/CatalogueFolder.h"
+#include "support/DstDesign.h"
 #include <functional>
 #include <memory>
+#include <QCryptographicHash>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -39,6 +43,8 @@ private slots:
     void callbackMayDestroyAnotherListener();
     void clearKeepsOpenRequests();
     void whatCannotBeLoadedShowsTheErrorPicture();
+    void damagedPreviewIsPaintedAgain_data();
+    void damagedPreviewIsPaintedAgain();
 
 private:
     QSharedPointer<IFile> file(const QByteArray &hash)
@@ -186,6 +192,49 @@ void tst_PreviewCache::whatCannotBeLoadedShowsTheErrorPicture()
     // It stays, also when the file is mended, until the memory is cleared.
     PreviewFixture::storePreview("broken", QSize(8, 8), Qt::red);
     QCOMPARE(cache.previewImage(file("broken"), nullptr).size(), error.size());
+}
+
+void tst_PreviewCache::damagedPreviewIsPaintedAgain_data()
+{
+    QTest::addColumn<QByteArray>("preview");
+    QTest::addColumn<bool>("designIsAsBefore");
+    QTest::addColumn<bool>("mended");
+    const auto whole = QByteArray::fromBase64(
+        "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+M9QDwADhgGAWjR9awAAAABJRU5E"
+        "rkJggg==");
+    QByteArray flipped = whole;
+    flipped[45] = char(flipped.at(45) ^ 4);
+    QTest::newRow("cut short") << whole.left(50) << true << true;
+    QTest::newRow("empty") << QByteArray("") << true << true;
+    QTest::newRow("flipped bit") << flipped << true << true;
+    QTest::newRow("other design") << whole.left(50) << false << false;
+}
+
+void tst_PreviewCache::damagedPreviewIsPaintedAgain()
+{
+    QFETCH(QByteArray, preview);
+    QFETCH(bool, designIsAsBefore);
+    QFETCH(bool, mended);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.dst"));
+    QVERIFY(DstDesign::square().writeTo(path));
+    const QByteArray hash =
+        QCryptographicHash::hash(CatalogueFolder::read(path), QCryptographicHash::Md5);
+    QVERIFY(CatalogueFolder::write(PreviewFixture::previewPath(hash), preview));
+    if (!designIsAsBefore)
+        QVERIFY(DstDesign::square("Other").writeTo(path));
+
+    PreviewCache &cache = PreviewCache::instance();
+    cache.setRepairer(&PreviewRepair::repaint);
+    Listener listener;
+    const auto design = PreviewFixture::makeFile(&m_project, path, hash);
+    cache.previewImage(design, &listener);
+    QTRY_COMPARE(listener.calls, 1);
+    cache.setRepairer({});
+    const QImage shown = image(cache.previewImage(design, nullptr));
+    QCOMPARE(shown != image(QStringLiteral(":/render-error.png")), mended);
+    QCOMPARE(image(PreviewFixture::previewPath(hash)), mended ? shown : QImage());
+    QVERIFY(QFile::remove(PreviewFixture::previewPath(hash)));
 }
 
 QTEST_MAIN(tst_PreviewCache)

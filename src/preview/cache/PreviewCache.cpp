@@ -33,7 +33,7 @@ QPixmap PreviewCache::previewImage(const QSharedPointer<IFile> &file,
         return *pixmap;
     }
     if (!m_keyRequests.contains(key)) {
-        emit loadPreview(key, m_settings.previewImagePath(key));
+        emit loadPreview(key, m_settings.previewImagePath(key), file->absoluteFilePath());
     }
     // A card that is painted again while it waits has asked already.
     if (listener != nullptr && !m_keyRequests.contains(key, listener)) {
@@ -66,6 +66,11 @@ void PreviewCache::dropRequestsOfListener(PreviewCacheListener *listener)
         m_keyRequests.remove(key, listener);
     }
     m_listenerRequests.remove(listener);
+}
+
+void PreviewCache::setRepairer(const PreviewRepairer &repairer)
+{
+    QMetaObject::invokeMethod(&m_worker, [this, repairer] { m_worker.setRepairer(repairer); });
 }
 
 void PreviewCache::clear()

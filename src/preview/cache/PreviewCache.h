@@ -3,6 +3,7 @@
 #include "base/GlobalSettings.h"
 #include "catalogue/records/IFile.h"
 #include "preview/cache/PreviewCacheWorker.h"
+#include "preview/cache/PreviewRepairer.h"
 #include <QByteArray>
 #include <QCache>
 #include <QMultiHash>
@@ -33,6 +34,9 @@ public:
     /** Forgets what `listener` waits for; loads under way still fill the cache. */
     void dropRequestsOfListener(PreviewCacheListener *listener);
 
+    /** Who mends damaged previews; without one they show the error picture. */
+    void setRepairer(const PreviewRepairer &repairer);
+
     /** Empties the memory. Open requests stay and are answered as usual. */
     void clear();
 
@@ -41,8 +45,8 @@ public slots:
     void previewLoaded(const QByteArray &key, QImage image);
 
 signals:
-    /** Asks the worker for the file at `path`. */
-    void loadPreview(const QByteArray &key, const QString &path);
+    /** Asks the worker for the file at `path`, the preview of the design at `designPath`. */
+    void loadPreview(const QByteArray &key, const QString &path, const QString &designPath);
 
 private:
     PreviewCache();

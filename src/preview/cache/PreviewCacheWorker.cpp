@@ -1,5 +1,8 @@
 #include "preview/cache/PreviewCacheWorker.h"
 
+#include "base/IAbortCheck.h"
+
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace {
@@ -17,6 +20,16 @@ QImage readImage(const QString &path)
     }
     return reader.read();
 }
+
+/** The end of the program doesn't wait for a picture. */
+class EndOfThread : public IAbortCheck
+{
+public:
+    int abortState() const override
+    {
+        return QThread::currentThread()->isInterruptionRequested() ? 1 : 0;
+    }
+};
 
 } // namespace
 
@@ -38,7 +51,8 @@ void PreviewCacheWorker::stop()
     m_thread.wait();
 }
 
-void PreviewCacheWorker::loadPreview(const QByteArray &key, const QString &path)
+void PreviewCacheWorker::loadPreview(const QByteArray &key, const QString &path,
+                                     const QString &designPath)
 {
     // The loads still queued at the end of the program have nobody to wait for them.
     if (m_thread.isInterruptionRequested()) {
@@ -46,8 +60,21 @@ void PreviewCacheWorker::loadPreview(const QByteArray &key, const QString &path)
     }
     QImage image = readImage(path);
     if (image.isNull()) {
+        image = repair(key, path, designPath);
+    }
+    if (image.isNull()) {
         image = readImage(QStringLiteral(":/render-error.png"));
     }
     // The format that pixmaps have, so that the GUI thread needs no conversion.
     emit previewLoaded(key, image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+}
+
+QImage PreviewCacheWorker::repair(const QByteArray &key, const QString &path,
+                                  const QString &designPath) const
+{
+    // Where there is no file, there was nothing to show, or the next scan makes it.
+    if (!m_repairer || !QFileInfo(path).isFile()) {
+        return QImage();
+    }
+    return m_repairer(key, path, designPath, EndOfThread());
 }

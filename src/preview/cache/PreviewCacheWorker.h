@@ -1,5 +1,7 @@
 #pragma once
 
+#include "preview/cache/PreviewRepairer.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QObject>
@@ -24,14 +26,23 @@ public:
     /** Ends the thread for good once the load under way is done; those still queued are dropped. */
     void stop();
 
+    /** In the worker's thread only. */
+    void setRepairer(const PreviewRepairer &repairer) { m_repairer = repairer; }
+
 public slots:
-    /** Runs in the worker's thread; always answers with previewLoaded(). */
-    void loadPreview(const QByteArray &key, const QString &path);
+    /**
+     * Runs in the worker's thread; always answers with previewLoaded(). A file that is
+     * there but damaged is made anew from the design.
+     */
+    void loadPreview(const QByteArray &key, const QString &path, const QString &designPath);
 
 signals:
     /** The image of `key`, or the error picture where the file has none. */
     void previewLoaded(const QByteArray &key, QImage image);
 
 private:
+    QImage repair(const QByteArray &key, const QString &path, const QString &designPath) const;
+
     QThread m_thread;
+    PreviewRepairer m_repairer;
 };
