@@ -1,3 +1,4 @@
+#include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
@@ -6,6 +7,7 @@
 #include <memory>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QSignalSpy>
 #include <QtTest>
 
 using Files = QList<QSharedPointer<IFile>>;
@@ -79,6 +81,7 @@ private slots:
     void unitFallsBackWhenTheFileChanges();
     void selectionColorsTheLabel();
     void oddNamesAreDrawnOnOneLine();
+    void unreadDesignsAreNotShownAsDamaged();
 
 private:
     std::unique_ptr<PreviewFixture> m_fixture;
@@ -243,6 +246,23 @@ void tst_GridScene::oddNamesAreDrawnOnOneLine()
         QCOMPARE(pictureOf(QStringLiteral("b%1c.dst").arg(gap)), plain);
     }
     QVERIFY(pictureOf(QStringLiteral("<b>b</b> c.dst")) != plain);
+}
+
+void tst_GridScene::unreadDesignsAreNotShownAsDamaged()
+{
+    Sheet sheet(1);
+    const QSharedPointer<IFile> file = sheet.files.first();
+    QSignalSpy loads(&PreviewCache::instance(), &PreviewCache::loadPreview);
+    file->setDesignSize(QSizeF(-1, -1));
+    file->setFavorite(true);
+    const QImage unread = sheet.picture();
+    QCOMPARE(loads.count(), 0);
+    QCOMPARE(sheet.card(0)->description(), QStringLiteral("Not read yet, favorite"));
+    // Looked into, but damaged.
+    file->setModificationDate(1);
+    QVERIFY(sheet.picture() != unread);
+    QCOMPARE(loads.count(), 1);
+    QCOMPARE(sheet.card(0)->description(), QStringLiteral("favorite"));
 }
 
 QTEST_MAIN(tst_GridScene)

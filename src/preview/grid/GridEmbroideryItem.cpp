@@ -4,6 +4,7 @@
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
+#include "preview/grid/UnreadDesign.h"
 #include "properties/core/PropertyValues.h"
 #include "widgets/controls/DesktopInteraction.h"
 #include "widgets/style/WidgetStyles.h"
@@ -107,9 +108,16 @@ QString GridEmbroideryItem::fullName() const
 QString GridEmbroideryItem::description() const
 {
     const QString size = LocaleAwareFunctions::toString(m_file->designSize(), m_labelsImperial);
-    const QString favorite = m_file->isFavorite() ? tr("favorite") : QString();
-    return size.isEmpty() || favorite.isEmpty() ? size + favorite
-                                                : size + QStringLiteral(", ") + favorite;
+    QStringList parts;
+    if (UnreadDesign::is(*m_file)) {
+        parts.append(UnreadDesign::text());
+    } else if (!size.isEmpty()) {
+        parts.append(size);
+    }
+    if (m_file->isFavorite()) {
+        parts.append(tr("favorite"));
+    }
+    return parts.join(QStringLiteral(", "));
 }
 
 void GridEmbroideryItem::clearLabels()
@@ -190,6 +198,11 @@ void GridEmbroideryItem::paint(QPainter *painter, const QStyleOptionGraphicsItem
 
 void GridEmbroideryItem::paintPreview(QPainter *painter)
 {
+    if (UnreadDesign::is(*m_file)) {
+        const int side = m_layout->previewSize;
+        UnreadDesign::paint(painter, QRect(m_layout->padding, m_layout->padding, side, side));
+        return;
+    }
     const QPixmap image = PreviewCache::instance().previewImage(m_file, this);
     if (image.isNull()) {
         return;
