@@ -80,8 +80,7 @@ QWidget *paneOf(QWidget *widget)
 {
     while (widget && !qobject_cast<GToolBar *>(widget) && !qobject_cast<GSideBarBox *>(widget) &&
            !qobject_cast<CenterView *>(widget) && !qobject_cast<StatusLine *>(widget) &&
-           !qobject_cast<NoticeBar *>(widget) &&
-           !widget->isWindow())
+           !qobject_cast<NoticeBar *>(widget) && !widget->isWindow())
         widget = widget->parentWidget();
     return widget;
 }
@@ -283,7 +282,8 @@ void tst_accessibility::tabLeadsThroughThePanes()
     for (const QWidget *pane : qAsConst(panes))
         names.append(QString::fromLatin1(pane->metaObject()->className()));
     QCOMPARE(names.join(QLatin1Char(' ')),
-             QStringLiteral("GToolBar NoticeBar DirectoriesBox TagsBox CenterView PropertiesBox StatusLine"));
+             QStringLiteral(
+                 "GToolBar NoticeBar DirectoriesBox TagsBox CenterView PropertiesBox StatusLine"));
 }
 
 int main(int argc, char **argv)

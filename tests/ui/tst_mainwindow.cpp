@@ -12,7 +12,6 @@
 #include "ui/EmptyHint.h"
 #include "ui/MainWindow.h"
 #include "ui/NoticeBar.h"
-#include "ui/NoticeRow.h"
 #include "ui/panels/DirectoriesBox.h"
 #include "ui/panels/SavedSearchesBox.h"
 #include "ui/ProgressDialog.h"
@@ -32,9 +31,10 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
-#include <QSplitter>
 #include <QSlider>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
@@ -78,6 +78,8 @@ private slots:
     void asksWhenTheCatalogueCannotBeUsed_data();
     void asksWhenTheCatalogueCannotBeUsed();
     void offersARescanWhenAFolderHasChanged();
+    void tellsWhatAScanDid();
+    void stoppedImportLeadsToTheRest();
 
 private:
     void open();
@@ -89,6 +91,17 @@ private:
     QString hintText() const { return hint()->findChild<QLabel *>()->text(); }
     QPushButton *hintButton() const { return hint()->findChild<QPushButton *>(); }
     QString catalogue() const;
+    /** The text of the last notice. */
+    QString notice() const
+    {
+        QString text;
+        const auto labels = m_window->findChild<NoticeBar *>()->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->isVisible() && !label->text().isEmpty())
+                text = label->text();
+        }
+        return text;
+    }
 
     std::unique_ptr<QTemporaryDir> m_directory;
     QPointer<MainWindow> m_window;
@@ -177,13 +190,12 @@ void tst_mainwindow::offersItsCommands()
     const auto menuActions = m_window->menuBar()->actions();
     for (const QAction *menu : menuActions)
         menus.append(texts(menu->menu()->actions()).join(QLatin1Char('|')));
-    QCOMPARE(
-        menus,
-        (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|&Open design|-|"
-                                "Preferences...|Quit"),
-                     QStringLiteral("Select all|Save search"), QStringLiteral("&Sort by"),
-                     QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
-                                    "&About Hoopline Organizer")}));
+    QCOMPARE(menus,
+             (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|&Open design|-|"
+                                         "Preferences...|Quit"),
+                          QStringLiteral("Select all|Save search"), QStringLiteral("&Sort by"),
+                          QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
+                                         "&About Hoopline Organizer")}));
     QCOMPARE(action(QStringLiteral("Quit"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 
@@ -496,15 +508,58 @@ void tst_mainwindow::offersARescanWhenAFolderHasChanged()
         QSKIP("The system watches no folders.");
     const QString before = catalogue();
     createFolder(QStringLiteral("roses"), {QStringLiteral("bud.dst")});
-    const auto *notices = m_window->findChild<NoticeBar *>();
-    QTRY_VERIFY(notices->isVisible());
-    QCOMPARE(notices->findChild<NoticeRow *>()->text(),
-             QStringLiteral("The folder roses has changed."));
+    QTRY_COMPARE(notice(), QStringLiteral("The folder roses has changed."));
     QCOMPARE(catalogue(), before);
 
-    notices->findChild<QPushButton *>()->click();
+    m_window->findChild<NoticeBar *>()->findChildren<QPushButton *>().last()->click();
     QVERIFY(catalogue().contains(QStringLiteral("bud.dst")));
-    QVERIFY(!notices->isVisible());
+    QCOMPARE(notice(), QStringLiteral("1 new"));
+}
+
+void tst_mainwindow::tellsWhatAScanDid()
+{
+    const QString roses = createFolder(QStringLiteral("roses"),
+                                       {QStringLiteral("rose.dst"), QStringLiteral("leaf.dst")});
+    QFile broken(roses + QStringLiteral("/broken.hus"));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("junk") == 4);
+    broken.close();
+    open();
+    m_window->filesDropped({roses});
+    QCOMPARE(notice(), QStringLiteral("3 new, 1 not readable"));
+    QVERIFY(QFile::rename(roses + QStringLiteral("/rose.dst"), roses + QStringLiteral("/r.dst")));
+    QVERIFY(broken.remove());
+    action(QStringLiteral("&Rescan"))->trigger();
+    QCOMPARE(notice(), QStringLiteral("1 moved, 1 gone"));
+    action(QStringLiteral("&Rescan"))->trigger();
+    QCOMPARE(notice(), QStringLiteral("Nothing has changed."));
+}
+
+void tst_mainwindow::stoppedImportLeadsToTheRest()
+{
+    constexpr int count = 150;
+    QStringList names;
+    for (int i = 0; i < count; ++i)
+        names.append(QStringLiteral("%1.dst").arg(i));
+    const QString roses = createFolder(QStringLiteral("roses"), names);
+    open();
+    auto *progress = m_window->findChild<ProgressDialog *>();
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, progress, [progress] {
+        if (progress->findChild<QLabel *>()->text().startsWith(QStringLiteral("Loading")))
+            progress->reject();
+    });
+    timer.start(0);
+    m_window->filesDropped({roses});
+    timer.stop();
+    QVERIFY(!progress->isVisible());
+    const QString told = notice();
+    QVERIFY2(QRegularExpression("^Stopped: 150 new, \\d+ not read yet$").match(told).hasMatch(),
+             qPrintable(told));
+    const auto buttons = m_window->findChild<NoticeBar *>()->findChildren<QPushButton *>();
+    buttons.last()->click();
+    QCOMPARE(scene()->items().isEmpty(), false);
+    action(QStringLiteral("&Rescan"))->trigger();
+    QCOMPARE(notice(), QStringLiteral("Nothing has changed."));
 }
 
 void tst_mainwindow::asksWhenTheCatalogueCannotBeUsed_data()

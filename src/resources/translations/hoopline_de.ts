@@ -250,6 +250,13 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>DesignPreparation</name>
+    <message>
+        <source>larger than %1 MB</source>
+        <translation>größer als %1 MB</translation>
+    </message>
+</context>
+<context>
     <name>DesignReader</name>
     <message>
         <source>The file cannot be read: %1</source>
@@ -1311,6 +1318,13 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>Reconnection</name>
+    <message>
+        <source>Looking for moved designs</source>
+        <translation>Verschobene Stickmuster werden gesucht</translation>
+    </message>
+</context>
+<context>
     <name>RenderTarget</name>
     <message>
         <source>The picture must not bear the name of a design: %1</source>
@@ -1425,6 +1439,162 @@ Optionen:
     <message>
         <source>The catalogue was changed during the scan. Nothing was saved.</source>
         <translation>Der Katalog wurde während des Einlesens geändert. Es wurde nichts gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>ScanNotice</name>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation>Es hat sich nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The scan was stopped.</source>
+        <translation>Das Einlesen wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Abgebrochen: %1</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>Neu einlesen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n neu</numerusform>
+            <numerusform>%n neu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n geändert</numerusform>
+            <numerusform>%n geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moved</source>
+        <translation>
+            <numerusform>%n verschoben</numerusform>
+            <numerusform>%n verschoben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gone</source>
+        <translation>
+            <numerusform>%n verschwunden</numerusform>
+            <numerusform>%n verschwunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not readable</source>
+        <translation>
+            <numerusform>%n nicht lesbar</numerusform>
+            <numerusform>%n nicht lesbar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n ausgelassen</numerusform>
+            <numerusform>%n ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read yet</source>
+        <translation>
+            <numerusform>%n noch nicht gelesen</numerusform>
+            <numerusform>%n noch nicht gelesen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the counts of a scan</comment>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>%n Datei konnte nicht gelesen werden.</numerusform>
+            <numerusform>%n Dateien konnten nicht gelesen werden.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScanReportDialog</name>
+    <message>
+        <source>Result of the scan</source>
+        <translation>Ergebnis des Einlesens</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Liste kopieren</translation>
+    </message>
+    <message>
+        <source>Not readable</source>
+        <translation>Nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>The name is not valid text.</source>
+        <translation>Der Name ist kein gültiger Text.</translation>
+    </message>
+    <message>
+        <source>Not read yet</source>
+        <translation>Noch nicht gelesen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Verschoben</translation>
+    </message>
+    <message>
+        <source>was %1</source>
+        <translation>war %1</translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation>Verschwunden</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>section and number of files</comment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1848,6 +2018,17 @@ Optionen:
     <message>
         <source>The drive is no longer there.</source>
         <translation>Der Datenträger ist nicht mehr da.</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadDesign</name>
+    <message>
+        <source>Not read yet</source>
+        <translation>Noch nicht gelesen</translation>
+    </message>
+    <message>
+        <source>“Rescan” reads it.</source>
+        <translation>„Neu einlesen“ liest es.</translation>
     </message>
 </context>
 </TS>

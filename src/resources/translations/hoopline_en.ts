@@ -79,6 +79,72 @@
     </message>
 </context>
 <context>
+    <name>ScanNotice</name>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n new</numerusform>
+            <numerusform>%n new</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n changed</numerusform>
+            <numerusform>%n changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moved</source>
+        <translation>
+            <numerusform>%n moved</numerusform>
+            <numerusform>%n moved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gone</source>
+        <translation>
+            <numerusform>%n gone</numerusform>
+            <numerusform>%n gone</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not readable</source>
+        <translation>
+            <numerusform>%n not readable</numerusform>
+            <numerusform>%n not readable</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n left out</numerusform>
+            <numerusform>%n left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read yet</source>
+        <translation>
+            <numerusform>%n not read yet</numerusform>
+            <numerusform>%n not read yet</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>%n file could not be read.</numerusform>
+            <numerusform>%n files could not be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message numerus="yes">
         <source>holds none of its %n design(s) any more</source>

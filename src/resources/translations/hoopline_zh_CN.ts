@@ -248,6 +248,13 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>DesignPreparation</name>
+    <message>
+        <source>larger than %1 MB</source>
+        <translation>大于 %1 MB</translation>
+    </message>
+</context>
+<context>
     <name>DesignReader</name>
     <message>
         <source>The file cannot be read: %1</source>
@@ -1304,6 +1311,13 @@ Options:
     </message>
 </context>
 <context>
+    <name>Reconnection</name>
+    <message>
+        <source>Looking for moved designs</source>
+        <translation>正在查找已移动的花样</translation>
+    </message>
+</context>
+<context>
     <name>RenderTarget</name>
     <message>
         <source>The picture must not bear the name of a design: %1</source>
@@ -1417,6 +1431,153 @@ Options:
     <message>
         <source>The catalogue was changed during the scan. Nothing was saved.</source>
         <translation>扫描期间花样库被更改。未保存任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ScanNotice</name>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation>没有变化。</translation>
+    </message>
+    <message>
+        <source>The scan was stopped.</source>
+        <translation>扫描已停止。</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>已停止：%1</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>重新扫描</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>新增 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>更改 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n moved</source>
+        <translation>
+            <numerusform>移动 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n gone</source>
+        <translation>
+            <numerusform>消失 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not readable</source>
+        <translation>
+            <numerusform>无法读取 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>跳过 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not read yet</source>
+        <translation>
+            <numerusform>尚未读取 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the counts of a scan</comment>
+        <translation>，</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>以及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) could not be read.</source>
+        <translation>
+            <numerusform>%n 个文件无法读取。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScanReportDialog</name>
+    <message>
+        <source>Result of the scan</source>
+        <translation>扫描结果</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>复制列表</translation>
+    </message>
+    <message>
+        <source>Not readable</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>已跳过</translation>
+    </message>
+    <message>
+        <source>The name is not valid text.</source>
+        <translation>名称不是有效的文本。</translation>
+    </message>
+    <message>
+        <source>Not read yet</source>
+        <translation>尚未读取</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>已移动</translation>
+    </message>
+    <message>
+        <source>was %1</source>
+        <translation>原为 %1</translation>
+    </message>
+    <message>
+        <source>Gone</source>
+        <translation>已消失</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>section and number of files</comment>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>
@@ -1831,6 +1992,17 @@ Options:
     <message>
         <source>The drive is no longer there.</source>
         <translation>驱动器已不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadDesign</name>
+    <message>
+        <source>Not read yet</source>
+        <translation>尚未读取</translation>
+    </message>
+    <message>
+        <source>“Rescan” reads it.</source>
+        <translation>“重新扫描”即可读取。</translation>
     </message>
 </context>
 </TS>
