@@ -6,8 +6,8 @@
 #include "cli/DesignFile.h"
 #include "cli/DesignReport.h"
 #include "cli/RenderTarget.h"
+#include "preview/render/PngEncoder.h"
 #include "preview/render/PreviewRenderer.h"
-#include <QBuffer>
 #include <QImage>
 
 namespace {
@@ -33,6 +33,8 @@ QList<QCommandLineOption> InspectCommand::options() const
         {QStringLiteral("points"), tr("With --json, list every point.")},
         {QStringLiteral("render"), tr("Write the preview of the one file as PNG."),
          QStringLiteral("OUT.png")},
+        {QStringLiteral("card"),
+         tr("With --render, paint a square card: on white, with a margin.")},
         {QStringLiteral("force"), tr("With --render, replace a file that is there.")},
         {QStringLiteral("size"), tr("Longer side of the preview in pixels; 400 if not given."),
          QStringLiteral("N"), QStringLiteral("400")},
@@ -65,7 +67,7 @@ int InspectCommand::run(const CommandLine &line) const
         if (!file.isReadable())
             succeeded = false;
         else if (renders)
-            succeeded = render(file, line.value("render"), size);
+            succeeded = render(file, line, size);
     }
     return output.flush() && succeeded ? Success : Failure;
 }
@@ -79,16 +81,15 @@ int InspectCommand::parseSize(const QString &text)
     return size;
 }
 
-bool InspectCommand::render(const DesignFile &file, const QString &target, int size)
+bool InspectCommand::render(const DesignFile &file, const CommandLine &line, int size)
 {
-    const QImage image = PreviewRenderer().render(file.pattern(), size);
+    PreviewRenderer renderer;
+    const QImage image = line.isSet("card") ? renderer.renderCard(file.pattern(), size)
+                                            : renderer.render(file.pattern(), size);
     if (image.isNull()) {
         Console::reportError(tr("%1: The design has no extent to show.").arg(file.name()));
         return false;
     }
-    QBuffer picture;
-    picture.open(QIODevice::WriteOnly);
-    image.save(&picture, "PNG");
-    RenderTarget::write(target, picture.data());
+    RenderTarget::write(line.value("render"), PngEncoder::encode(image));
     return true;
 }

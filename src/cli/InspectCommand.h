@@ -21,5 +21,5 @@ public:
 
 private:
     static int parseSize(const QString &text);
-    static bool render(const DesignFile &file, const QString &target, int size);
+    static bool render(const DesignFile &file, const CommandLine &line, int size);
 };

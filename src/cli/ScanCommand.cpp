@@ -45,7 +45,10 @@ int ScanCommand::run(const CommandLine &line) const
     ScanController controller(prune);
     controller.open();
     {
-        const auto named = qScopeGuard([&controller] { nameUnreadable(controller); });
+        const auto named = qScopeGuard([&controller] {
+            nameUnreadable(controller);
+            nameSkipped(controller);
+        });
         synchronise(controller, folders);
     }
     return report(controller);
@@ -81,6 +84,16 @@ void ScanCommand::nameUnreadable(const ScanController &controller)
         Console::reportError(file.reason.contains(file.path)
                                  ? file.reason
                                  : QStringLiteral("%1: %2").arg(file.path, file.reason));
+}
+
+void ScanCommand::nameSkipped(const ScanController &controller)
+{
+    const QVector<SkippedEntry> skipped = controller.lastReport().skipped;
+    for (const SkippedEntry &entry : skipped)
+        Console::reportError(
+            QStringLiteral("%1: %2").arg(entry.path, entry.kind == SkippedEntry::UndecodableName
+                                                         ? tr("left out, the name is no valid text")
+                                                         : entry.reason));
 }
 
 int ScanCommand::report(const ScanController &controller)

@@ -24,5 +24,6 @@ private:
     static QStringList parseFolders(const QStringList &names);
     static void synchronise(ScanController &controller, const QStringList &folders);
     static void nameUnreadable(const ScanController &controller);
+    static void nameSkipped(const ScanController &controller);
     static int report(const ScanController &controller);
 };

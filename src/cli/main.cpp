@@ -3,6 +3,7 @@
 #include "base/GDebug.h"
 #include "base/GTranslationLoader.h"
 #include "cli/Companion.h"
+#include "cli/RawName.h"
 #include <algorithm>
 #include <memory>
 #include <QGuiApplication>
@@ -50,5 +51,9 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QLatin1String(BuildConfig::Organisation));
     QCoreApplication::setApplicationVersion(QLatin1String(BuildConfig::Version));
     loadTranslations(*app);
-    return Companion().run(QCoreApplication::arguments().mid(1));
+    // Qt's own list has lost what is no text.
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(RawName::decoded(argv[i]));
+    return Companion().run(arguments);
 }

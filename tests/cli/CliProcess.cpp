@@ -23,7 +23,8 @@ QString CliProcess::dataPath(const QString &name) const
                            QStringLiteral("/Hoopline Organizer/") + name);
 }
 
-bool CliProcess::start(QProcess &process, const QStringList &arguments) const
+bool CliProcess::start(QProcess &process, const QStringList &arguments,
+                       const QString &program) const
 {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
@@ -36,7 +37,7 @@ bool CliProcess::start(QProcess &process, const QStringList &arguments) const
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_root.filePath("cache"));
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(workPath());
-    process.start(QStringLiteral(CLI_PATH), arguments);
+    process.start(program, arguments);
     return process.waitForStarted();
 }
 

@@ -27,7 +27,8 @@ public:
 
     Result run(const QStringList &arguments) const;
     /** Gives @p process its environment and starts it. */
-    bool start(QProcess &process, const QStringList &arguments) const;
+    bool start(QProcess &process, const QStringList &arguments,
+               const QString &program = QStringLiteral(CLI_PATH)) const;
     static Result finish(QProcess &process);
 
     /** The folder that the companion runs in. */

@@ -1,12 +1,14 @@
 #include "CliProcess.h"
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
+#include <algorithm>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QtTest>
 #include <unistd.h>
 
@@ -24,6 +26,9 @@ private slots:
     void keepsHostileTextOffTheTerminal();
     void rendersPreview_data();
     void rendersPreview();
+    void rendersCards_data();
+    void rendersCards();
+    void opensNamesThatAreNoText();
     void refusesToHarmFiles_data();
     void refusesToHarmFiles();
     void forgottenTargetCostsNoDesign();
@@ -177,6 +182,60 @@ void CliInspectTest::rendersPreview()
     QCOMPARE(result.status, 0);
     QImage image(m_cli.workPath("picture"), "PNG");
     QTEST(image.size(), "size");
+}
+
+void CliInspectTest::rendersCards_data()
+{
+    QTest::addColumn<int>("width"); // of the stitches, in tenths of a millimetre
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("ordinary") << 100 << 60 << true;
+    QTest::newRow("a line without height") << 100 << 0 << true;
+    QTest::newRow("upright") << 0 << 100 << true;
+    QTest::newRow("empty") << 0 << 0 << false;
+}
+
+void CliInspectTest::rendersCards()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(bool, drawn);
+    constexpr int side = 110;
+    DstDesign design;
+    if (drawn)
+        design.stitch(width, height).stitch(-width, -height).stitch(width, height);
+    QVERIFY(design.end().writeTo(m_cli.workPath("d.dst")));
+    QFile::remove(m_cli.workPath("card.png"));
+    const auto result =
+        m_cli.run({"inspect", "--card", "--render", "card.png", "--size", "110", "d.dst"});
+    QCOMPARE(result.status, drawn ? 0 : 1);
+    const QImage card(m_cli.workPath("card.png"));
+    QCOMPARE(card.isNull(), !drawn);
+    QRect marked;
+    for (int y = 0; y < card.height(); ++y) {
+        for (int x = 0; x < card.width(); ++x) {
+            if (card.pixel(x, y) != qRgb(255, 255, 255))
+                marked |= QRect(x, y, 1, 1);
+        }
+    }
+    if (drawn) {
+        QCOMPARE(card.size(), QSize(side, side));
+        QVERIFY(QRect(4, 4, side - 8, side - 8).contains(marked));
+        QVERIFY(std::max(marked.width(), marked.height()) > 90);
+    }
+}
+
+void CliInspectTest::opensNamesThatAreNoText()
+{
+    const QByteArray path = m_cli.workPath("caf").toUtf8() + "\xe9\xc3\xa9.dst";
+    QCOMPARE(::link(m_cli.workPath("a.dst").toUtf8().constData(), path.constData()), 0);
+    // A shell finds the name, as Qt cannot pass it on.
+    QVERIFY(CatalogueFolder::write(m_cli.workPath("go"), "exec \"$1\" inspect --json caf*.dst"));
+    QProcess process;
+    QVERIFY(m_cli.start(process, {"go", CLI_PATH}, "sh"));
+    const auto result = CliProcess::finish(process);
+    QVERIFY2(result.status == 0, result.error);
+    QVERIFY2(result.out.contains("\"md5\": \"") && result.out.contains("\xc3\xa9.dst"), result.out);
 }
 
 void CliInspectTest::refusesToHarmFiles_data()

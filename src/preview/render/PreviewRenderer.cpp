@@ -16,6 +16,8 @@ using Embroidery::StitchBlock;
 namespace {
 
 constexpr double PenWidth = 4.0;
+/** Of a card's width; the rest is margin. */
+constexpr double CardShare = 200.0 / 220.0;
 constexpr float EndTilt = 0.3f;
 
 // Also false for a NaN, which compares false with everything.
@@ -55,9 +57,45 @@ QImage PreviewRenderer::render(const QSharedPointer<EmbPattern> &pattern, double
     }
     const QSize pixels = QSizeF(width, height).toSize();
     const QPointF offset(-std::floor(rect.x() * scale), -std::floor(rect.y() * scale));
+    return paint(blocks, pixels, scale, offset, abort);
+}
+
+QImage PreviewRenderer::renderCard(const QSharedPointer<EmbPattern> &pattern, int size,
+                                   const IAbortCheck &abort)
+{
+    if (pattern.isNull() || !isDrawableSide(size)) {
+        return QImage();
+    }
+    const QList<StitchBlock> blocks = pattern->asStitchBlock();
+    const bool hasStitch = std::any_of(blocks.begin(), blocks.end(), [](const StitchBlock &block) {
+        return block.points.size() > 1;
+    });
+    // The thread is wider than the line that the needle follows.
+    constexpr double half = PenWidth / 2;
+    const QRectF rect = pattern->boundingRect().adjusted(-half, -half, half, half);
+    const double scale = size * CardShare / std::max(rect.width(), rect.height());
+    if (!hasStitch || !std::isfinite(scale) || !(scale > 0)) {
+        return QImage();
+    }
+    const QPointF middle(size / 2.0, size / 2.0);
+    const QImage design =
+        paint(blocks, QSize(size, size), scale, middle - rect.center() * scale, abort);
+    if (design.isNull()) {
+        return QImage();
+    }
+    QImage card(design.size(), QImage::Format_ARGB32);
+    card.fill(Qt::white);
+    QPainter(&card).drawImage(0, 0, design);
+    return card;
+}
+
+QImage PreviewRenderer::paint(const QList<StitchBlock> &blocks, const QSize &pixels, double scale,
+                              const QPointF &offset, const IAbortCheck &abort) const
+{
     StitchPainter painter(pixels, scale, offset, PenWidth);
+    const StitchLight lamp = light();
     const bool done =
-        !painter.isNull() && DesignPainter(painter, light(), abort)
+        !painter.isNull() && DesignPainter(painter, lamp, abort)
                                  .paint(blocks, DesignPainter::Budget::forPicture(pixels));
     return done ? painter.take() : QImage();
 }

@@ -49,6 +49,15 @@ public:
     QImage render(const QSharedPointer<Embroidery::EmbPattern> &pattern, double size,
                   const IAbortCheck &abort = DummyAbortCheck());
 
+    /**
+     * The design as a card shows it, a square of `size` pixels: on white, with a margin
+     * that is never drawn into. Every shape fits, also one of a single line. Null when
+     * there is no stitch to show, for a size below 1 or above LargestSide, and when
+     * `abort` said stop.
+     */
+    QImage renderCard(const QSharedPointer<Embroidery::EmbPattern> &pattern, int size,
+                      const IAbortCheck &abort = DummyAbortCheck());
+
     /** One stitch, from and to in design units (tenths of a millimetre). */
     void drawThread(QPainter &painter, QPointF &from, const QPointF &to, const QColor &color);
 
@@ -70,6 +79,8 @@ public:
 
 private:
     StitchLight light() const;
+    QImage paint(const QList<Embroidery::StitchBlock> &blocks, const QSize &pixels, double scale,
+                 const QPointF &offset, const IAbortCheck &abort) const;
 
     QColor m_lightColor;
     QColor m_ambientColor;

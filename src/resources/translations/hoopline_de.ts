@@ -748,6 +748,10 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>With --render, replace a file that is there.</source>
         <translation>Mit --render eine vorhandene Datei ersetzen.</translation>
     </message>
+    <message>
+        <source>With --render, paint a square card: on white, with a margin.</source>
+        <translation>Mit --render: als quadratische Karte malen, auf Weiß und mit Rand.</translation>
+    </message>
 </context>
 <context>
     <name>ListCommand</name>
@@ -1424,6 +1428,10 @@ Optionen:
             <numerusform>Abgebrochen; %n neues Stickmuster ist noch zu lesen.</numerusform>
             <numerusform>Abgebrochen; %n neue Stickmuster sind noch zu lesen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>left out, the name is no valid text</source>
+        <translation>ausgelassen, der Name ist kein gültiger Text</translation>
     </message>
 </context>
 <context>

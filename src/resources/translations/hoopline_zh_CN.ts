@@ -744,6 +744,10 @@ Commands; each has a --help of its own:</source>
         <source>With --render, replace a file that is there.</source>
         <translation>与 --render 一起使用时，替换已有的文件。</translation>
     </message>
+    <message>
+        <source>With --render, paint a square card: on white, with a margin.</source>
+        <translation>与 --render 合用：绘制为白底、带边距的方形卡片。</translation>
+    </message>
 </context>
 <context>
     <name>ListCommand</name>
@@ -1416,6 +1420,10 @@ Options:
         <translation>
             <numerusform>已停止；还有 %n 个新花样待读取。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>left out, the name is no valid text</source>
+        <translation>已跳过，名称不是有效的文本</translation>
     </message>
 </context>
 <context>
