@@ -11,21 +11,22 @@ endfunction()
 
 # hoopline_hermetic_test(name COMMAND ... [TIMEOUT seconds])
 # A test that runs without a display in a folder of its own, which is its home and
-# takes its temporary files: it neither sees nor leaves anything elsewhere.
+# takes its temporary files: it neither sees nor leaves anything elsewhere. It ends
+# with 77 where something lacks that it needs.
 function(hoopline_hermetic_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
     add_test(NAME ${name} COMMAND hermetic ${ARG_COMMAND})
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} SKIP_RETURN_CODE 77 ENVIRONMENT
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 endfunction()
 
-# hoopline_test(tst_name DEPENDS ... [SOURCES ...] [TIMEOUT seconds])
-# One QtTest executable made of tst_name.cpp.
+# hoopline_test(tst_name DEPENDS ... [SOURCES ...] [TIMEOUT seconds] [LAUNCHER script])
+# One QtTest executable made of tst_name.cpp. A launcher gets it as its argument.
 function(hoopline_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT;LAUNCHER" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_compile_definitions(${name} PRIVATE
@@ -33,7 +34,8 @@ function(hoopline_test name)
         SAMPLES_DIR="${PROJECT_SOURCE_DIR}/samples")
     target_link_libraries(${name} PRIVATE
         ${ARG_DEPENDS} Qt5::Test hermetic_start hoopline_options)
-    hoopline_hermetic_test(${name} TIMEOUT ${ARG_TIMEOUT} COMMAND $<TARGET_FILE:${name}>)
+    hoopline_hermetic_test(${name} TIMEOUT ${ARG_TIMEOUT}
+        COMMAND ${ARG_LAUNCHER} $<TARGET_FILE:${name}>)
 endfunction()
 
 # hoopline_benchmark(bench_name DEPENDS ... [SOURCES ...])

@@ -4,11 +4,12 @@
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
-# The last seven are what the tests themselves call upon: a FAT file system for the
-# transfer, also where the kernel has none, certificates, and the validators of the
-# desktop files.
+# The last ten are what the tests themselves call upon: a FAT file system for the
+# transfer, also where the kernel has none, certificates, the validators of the
+# desktop files, and a virtual display with a window manager and real keys.
 install_missing "${build_packages[@]}" \
-    dbus dosfstools fusefat openssl desktop-file-utils appstream shared-mime-info
+    dbus dosfstools fusefat openssl desktop-file-utils appstream shared-mime-info \
+    xvfb openbox xdotool
 
 build dev
 

@@ -3,6 +3,7 @@
 #include "online/FeedbackDialog.h"
 #include "online/metrics/ReplyLimits.h"
 #include "online/services/GUrlProvider.h"
+#include "widgets/controls/FocusReturn.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -99,6 +100,7 @@ void FeedbackDialog::showProgress()
     m_progress->setWindowModality(Qt::WindowModal);
     m_progress->setMinimumDuration(0);
     m_progress->setMinimumWidth(ProgressWidth);
+    new FocusReturn(m_progress);
     connect(m_progress, &QProgressDialog::canceled, this, &FeedbackDialog::cancelUpload);
     m_progress->show();
 }

@@ -4,6 +4,7 @@
 #include "drives/DrivePoller.h"
 #include "ui/TransferProgress.h"
 #include "ui_ExportDialogUI.h"
+#include "widgets/controls/FocusReturn.h"
 #include "widgets/controls/GMessageBox.h"
 
 #include <algorithm>
@@ -21,6 +22,7 @@ ExportDialog::ExportDialog(QWidget *parent, const QList<QSharedPointer<IFile>> &
       m_poller(new DrivePoller(volumes, this)), m_files(files)
 {
     m_ui->setupUi(this);
+    new FocusReturn(this);
     m_ui->label->setText(tr("%n file(s) will be copied.", nullptr, files.size()));
     connect(m_poller, &DrivePoller::drivesListed, this, &ExportDialog::updateDriveList);
     fillDriveList();

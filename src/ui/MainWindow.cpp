@@ -41,6 +41,7 @@
 #include <QScopeGuard>
 #include <QSplashScreen>
 #include <QSplitter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -48,6 +49,7 @@ namespace {
 constexpr int InitialWidth = 1024;
 constexpr int InitialHeight = 700;
 constexpr int SideBarMargin = 30;
+constexpr int RetryDelay = 100; // milliseconds
 
 QString splitterKey()
 {
@@ -272,6 +274,9 @@ bool MainWindow::isModified() const
 
 void MainWindow::runWithProgress(const QString &activity, const std::function<void()> &operation)
 {
+    // The events that the progress lets in may bring another operation.
+    if (m_operationRunning)
+        return;
     const QScopedValueRollback<bool> running(m_operationRunning, true);
     m_scanNotice->withdraw();
     m_center->setScanning(true);
@@ -287,7 +292,7 @@ void MainWindow::runWithProgress(const QString &activity, const std::function<vo
         m_status->refresh();
         m_progressDialog->hide();
     });
-    m_progressDialog->show();
+    m_progressDialog->begin();
     try {
         operation();
     } catch (const CatalogueUnsavedError &error) {
@@ -307,6 +312,10 @@ void MainWindow::hideStaleProgress()
 
 void MainWindow::addDirectories(const QStringList &directories)
 {
+    if (m_operationRunning) {
+        QTimer::singleShot(RetryDelay, this, [this, directories] { addDirectories(directories); });
+        return;
+    }
     runWithProgress(tr("Scanning..."), [&] { m_controller->addDirectories(directories); });
     GlobalSettings().setLastImportPath(directories.first());
     filter()->setDirectory(directories.first());
@@ -339,7 +348,7 @@ void MainWindow::filesDropped(const QStringList &paths)
 void MainWindow::removeSelectedDirectory()
 {
     const QString folder = filter()->directoryFilter();
-    if (folder.isEmpty())
+    if (folder.isEmpty() || m_operationRunning)
         return;
     GMessageBox question(GMessageBox::Question, this, tr("Remove selected folder from list?"),
                          folder);

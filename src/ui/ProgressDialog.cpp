@@ -1,7 +1,10 @@
 #include "ui/ProgressDialog.h"
 
+#include "widgets/controls/FocusReturn.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QProgressBar>
@@ -31,6 +34,7 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     m_detail->hide();
     m_cancelButton->setAutoDefault(false);
     connect(m_cancelButton, &QPushButton::clicked, this, &ProgressDialog::reject);
+    new FocusReturn(this);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_label);
@@ -39,14 +43,22 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     layout->addWidget(m_cancelButton, 0, Qt::AlignRight);
 }
 
+void ProgressDialog::begin()
+{
+    m_aborted = false;
+    m_begun.start();
+}
+
 void ProgressDialog::show()
 {
     m_aborted = false;
+    m_begun.invalidate();
     QDialog::show();
 }
 
 void ProgressDialog::hide()
 {
+    m_begun.invalidate();
     QDialog::hide();
 }
 
@@ -70,6 +82,10 @@ void ProgressDialog::proceed(const QString &text)
     if (!text.isNull())
         m_label->setText(text);
     m_progressBar->setValue(qMin(m_progressBar->value() + 1, m_progressBar->maximum()));
+    if (isWaiting() && m_begun.hasExpired(Patience)) {
+        m_begun.invalidate();
+        QDialog::show();
+    }
     pumpEvents();
 }
 
@@ -84,7 +100,9 @@ void ProgressDialog::pumpEvents()
     if (qAbs(now - m_lastEventProcessing) <= PumpInterval)
         return;
     m_lastEventProcessing = now;
-    QCoreApplication::processEvents();
+    // Nothing bars the way to the window below as long as there is no dialog.
+    QCoreApplication::processEvents(isWaiting() ? QEventLoop::ExcludeUserInputEvents
+                                                : QEventLoop::AllEvents);
 }
 
 void ProgressDialog::setCancelEnabled(bool enabled)

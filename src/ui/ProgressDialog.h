@@ -3,6 +3,7 @@
 #include "base/IProgressAbortListener.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 
 class QLabel;
 class QProgressBar;
@@ -18,10 +19,21 @@ class ProgressDialog : public QDialog, public IProgressAbortListener
     Q_OBJECT
 
 public:
+    /** How long work may last until begin() has the window shown, in milliseconds. */
+    static constexpr int Patience = 300;
+
     explicit ProgressDialog(QWidget *parent);
 
-    /** Shows the window and forgets an earlier "Cancel". */
+    /**
+     * Forgets an earlier "Cancel" and lets proceed() show the window once the work has
+     * lasted. What the user types and clicks until then waits for the end of the work.
+     */
+    void begin();
+
+    /** Shows the window at once and forgets an earlier "Cancel". */
     void show();
+
+    /** The end of the work, whether the window has come up or not. */
     void hide();
 
     void setSteps(int steps) override;
@@ -49,6 +61,7 @@ signals:
     void cancelRequested();
 
 private:
+    bool isWaiting() const { return m_begun.isValid(); }
     void pumpEvents();
 
     QLabel *m_label;
@@ -56,5 +69,6 @@ private:
     QLabel *m_detail;
     QPushButton *m_cancelButton;
     bool m_aborted = false;
+    QElapsedTimer m_begun; ///< invalid unless the window is still to come
     qint64 m_lastEventProcessing = 0; ///< milliseconds since the epoch
 };

@@ -69,6 +69,7 @@ private slots:
     void emptySheetLeadsToAFolder();
     void emptySheetTellsOfEmptyFolders();
     void emptySheetIsSilentDuringAScan();
+    void foldersDroppedDuringAScanFollowIt();
     void emptySheetLeadsOutOfTheFilter();
     void selectsWhatTheFilterShows();
     void opensADesignInItsWindow();
@@ -360,23 +361,43 @@ void tst_mainwindow::emptySheetTellsOfEmptyFolders()
     QVERIFY(!tree->selectionModel()->hasSelection());
 }
 
-// What it would tell behind the progress dialog may be wrong a second later.
+// What it would tell while the designs are being read may be wrong a second later.
 void tst_mainwindow::emptySheetIsSilentDuringAScan()
 {
     open();
+    QVERIFY(hint()->isVisible());
     int looks = 0;
     bool told = false;
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, [&] {
-        if (m_window->findChild<ProgressDialog *>()->isVisible()) {
-            ++looks;
-            told = told || hint()->isVisible();
-        }
+        ++looks;
+        told = told || hint()->isVisible();
     });
     timer.start(0);
     m_window->filesDropped({createFolder(QStringLiteral("roses"), {QStringLiteral("a.dst")})});
+    timer.stop();
     QVERIFY(looks > 0);
     QVERIFY(!told);
+}
+
+// The events that a scan lets in may bring the next folder, but never a second scan.
+void tst_mainwindow::foldersDroppedDuringAScanFollowIt()
+{
+    const QString roses = createFolder(QStringLiteral("roses"), {QStringLiteral("rose.dst")});
+    const QString leaves = createFolder(QStringLiteral("leaves"), {QStringLiteral("leaf.dst")});
+    open();
+    bool dropped = false;
+    QTimer::singleShot(0, m_window, [&] {
+        m_window->filesDropped({leaves});
+        action(QStringLiteral("&Rescan"))->trigger();
+        dropped = true;
+        QVERIFY(!hint()->isVisible());
+    });
+    m_window->filesDropped({roses});
+    QVERIFY(dropped);
+    QVERIFY(catalogue().contains(roses));
+    QVERIFY(!catalogue().contains(leaves));
+    QTRY_VERIFY(catalogue().contains(leaves));
 }
 
 void tst_mainwindow::emptySheetLeadsOutOfTheFilter()

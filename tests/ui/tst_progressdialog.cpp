@@ -31,6 +31,7 @@ class tst_progressdialog : public QObject
 private slots:
     void showsProgress();
     void pumpsEventsAtMostOnceInAHundredMilliseconds();
+    void comesUpWhenTheWorkLasts();
     void everyWayOutOnlyAsksForTheEnd_data();
     void everyWayOutOnlyAsksForTheEnd();
 };
@@ -74,6 +75,25 @@ void tst_progressdialog::pumpsEventsAtMostOnceInAHundredMilliseconds()
     QTest::qSleep(110);
     dialog.proceed(QString());
     QCOMPARE(counter.count, 2);
+}
+
+void tst_progressdialog::comesUpWhenTheWorkLasts()
+{
+    ProgressDialog dialog(nullptr);
+    dialog.reject();
+    dialog.begin();
+    QCOMPARE(dialog.abortState(), 0);
+    dialog.proceed(QString());
+    QVERIFY(!dialog.isVisible());
+    dialog.hide();
+
+    dialog.begin();
+    QTest::qSleep(ProgressDialog::Patience + 1);
+    dialog.proceed(QString());
+    QVERIFY(dialog.isVisible());
+    dialog.hide();
+    dialog.proceed(QString());
+    QVERIFY(!dialog.isVisible());
 }
 
 void tst_progressdialog::everyWayOutOnlyAsksForTheEnd_data()
