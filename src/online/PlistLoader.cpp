@@ -2,9 +2,10 @@
 
 #include "base/Error.h"
 #include "base/files/FileTools.h"
-#include "properties/xml/XmlTools.h"
+#include "properties/xml/ForeignXml.h"
 
 #include <QDomDocument>
+#include <QFileInfo>
 
 namespace {
 
@@ -65,6 +66,8 @@ QVariant parseDom(const QDomDocument &document)
 
 QVariant PlistLoader::read(const QString &fileName)
 {
+    if (QFileInfo(fileName).size() > ForeignXml::MaximumSize)
+        throw Error(QStringLiteral("The property list %1 is too large.").arg(fileName));
     return parse(FileTools::readAll(fileName));
 }
 
@@ -72,7 +75,7 @@ QVariant PlistLoader::parse(const QByteArray &data)
 {
     QDomDocument document;
     QString message;
-    if (!XmlTools::parseAnyEncoding(document, data, &message))
+    if (!ForeignXml::parse(document, data, &message))
         throw Error(message);
     return parseDom(document);
 }

@@ -1,21 +1,18 @@
 #include "online/WindowsUpdater.h"
 
 #include "base/GSettings.h"
-#include "online/AvailableUpdate.h"
 #include "online/metrics/ReplyLimits.h"
-#include "online/services/VersionCompare.h"
 #include "online/UpdateDialog.h"
-#include "properties/xml/XmlTools.h"
 #include "widgets/controls/GMessageBox.h"
 
 #include <QApplication>
 #include <QAuthenticator>
-#include <QDomDocument>
+#include <QFutureWatcher>
 #include <QInputDialog>
 #include <QMainWindow>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QRegularExpression>
+#include <QtConcurrent>
 #include <QTimer>
 
 namespace {
@@ -25,53 +22,11 @@ constexpr auto Interactive = QNetworkRequest::Attribute(QNetworkRequest::User + 
 constexpr auto IgnoreSkipped = QNetworkRequest::Attribute(QNetworkRequest::User + 2);
 
 constexpr int MaxLoggedBody = 2048;
-constexpr int MaxVersionLength = 32;
 constexpr int BusyDelay = 500; // milliseconds
 
 bool attribute(const QNetworkReply *reply, QNetworkRequest::Attribute name)
 {
     return reply->request().attribute(name).toBool();
-}
-
-// What bears no version, or none that could be one, is passed over.
-bool isRelease(const QDomElement &item)
-{
-    const QString version = item.firstChildElement(QStringLiteral("enclosure"))
-                                .attribute(QStringLiteral("sparkle:version"));
-    return version.contains(QRegularExpression(QStringLiteral("[0-9]"))) &&
-           version.size() <= MaxVersionLength;
-}
-
-AvailableUpdate release(const QDomElement &item)
-{
-    const QDomElement enclosure = item.firstChildElement(QStringLiteral("enclosure"));
-    const auto text = [&item](const QString &name) {
-        return item.firstChildElement(name).text().trimmed();
-    };
-    AvailableUpdate update;
-    update.version = enclosure.attribute(QStringLiteral("sparkle:version"));
-    update.title = text(QStringLiteral("title"));
-    update.releaseDate =
-        QDate::fromString(text(QStringLiteral("tnw:releaseDate")), QStringLiteral("yyyy-MM-dd"));
-    update.releaseNotes = QUrl(text(QStringLiteral("sparkle:releaseNotesLink")), QUrl::StrictMode);
-    update.download = QUrl(enclosure.attribute(QStringLiteral("url")), QUrl::StrictMode);
-    return update;
-}
-
-AvailableUpdate newestRelease(const QDomElement &channel)
-{
-    const QString itemTag = QStringLiteral("item");
-    AvailableUpdate best;
-    best.version = QCoreApplication::applicationVersion();
-    for (QDomElement item = channel.firstChildElement(itemTag); !item.isNull();
-         item = item.nextSiblingElement(itemTag)) {
-        if (!isRelease(item))
-            continue;
-        const AvailableUpdate candidate = release(item);
-        if (VersionCompare::compare(candidate.version, best.version) == 1)
-            best = candidate;
-    }
-    return best;
 }
 
 // Not the active window, which may be a dialog about to go or belong to another program.
@@ -93,8 +48,10 @@ WindowsUpdater::WindowsUpdater() : m_manager(new QNetworkAccessManager(this))
     connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
             &WindowsUpdater::authenticationRequired);
     // The end of the program still turns the event loop; a late answer has nobody to ask.
-    connect(qApp, &QCoreApplication::aboutToQuit, m_manager,
-            [this] { m_manager->disconnect(this); });
+    connect(qApp, &QCoreApplication::aboutToQuit, m_manager, [this] {
+        m_manager->disconnect(this);
+        qDeleteAll(m_manager->findChildren<QFutureWatcherBase *>());
+    });
 }
 
 WindowsUpdater::~WindowsUpdater()
@@ -145,23 +102,27 @@ void WindowsUpdater::replyFinished(QNetworkReply *reply)
 
 void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool interactive)
 {
-    const auto fail = [interactive](const QString &reason) {
-        if (interactive)
-            GMessageBox::critical(tr("Update check failed"), reason);
-    };
-    QDomDocument document;
-    if (!XmlTools::parseAnyEncoding(document, data, nullptr)) {
-        qWarning("Update feed: %s", data.left(MaxLoggedBody).constData());
-        return fail(tr("Can't read app cast feed. (No XML)"));
-    }
-    const QDomElement rss = document.firstChildElement(QStringLiteral("rss"));
-    if (rss.isNull())
-        return fail(tr("Can't read app cast feed. (Not RSS)"));
-    const QDomElement channel = rss.firstChildElement(QStringLiteral("channel"));
-    if (channel.isNull())
-        return fail(tr("Can't read app cast feed. (No channel found)"));
+    auto *watcher = new QFutureWatcher<UpdateFeed>(m_manager);
+    connect(watcher, &QFutureWatcher<UpdateFeed>::finished, this, [=] {
+        watcher->deleteLater();
+        const UpdateFeed feed = watcher->result();
+        if (feed.problem == UpdateFeed::NoXml)
+            qWarning("Update feed: %s", data.left(MaxLoggedBody).constData());
+        report(feed, ignoreSkipped, interactive);
+    });
+    // A feed may take its time, which is not to be the window's.
+    watcher->setFuture(
+        QtConcurrent::run(&UpdateFeed::read, data, QCoreApplication::applicationVersion()));
+}
 
-    const AvailableUpdate best = newestRelease(channel);
+void WindowsUpdater::report(const UpdateFeed &feed, bool ignoreSkipped, bool interactive)
+{
+    if (feed.problem != UpdateFeed::NoProblem) {
+        if (interactive)
+            GMessageBox::critical(tr("Update check failed"), textOf(feed.problem));
+        return;
+    }
+    const AvailableUpdate &best = feed.newest;
     const bool skipped = GSettings().updaterSkippedVersions().contains(best.version);
     if (best.version == QCoreApplication::applicationVersion()) {
         if (interactive)
@@ -172,6 +133,21 @@ void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool i
     }
     if (!skipped || ignoreSkipped)
         offer(best);
+}
+
+QString WindowsUpdater::textOf(UpdateFeed::Problem problem)
+{
+    switch (problem) {
+    case UpdateFeed::NoProblem:
+        break;
+    case UpdateFeed::NoXml:
+        return tr("Can't read app cast feed. (No XML)");
+    case UpdateFeed::NotRss:
+        return tr("Can't read app cast feed. (Not RSS)");
+    case UpdateFeed::NoChannel:
+        return tr("Can't read app cast feed. (No channel found)");
+    }
+    return QString();
 }
 
 void WindowsUpdater::offer(const AvailableUpdate &update)

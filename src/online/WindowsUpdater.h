@@ -1,6 +1,7 @@
 #pragma once
 
 #include "online/AutoUpdater.h"
+#include "online/UpdateFeed.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -10,7 +11,6 @@ class QAuthenticator;
 class QNetworkAccessManager;
 class QNetworkReply;
 class UpdateDialog;
-struct AvailableUpdate;
 
 /**
  * Reads the feed of releases, on every platform, and offers what is newer. A
@@ -35,6 +35,8 @@ private slots:
 private:
     void startNetworkRequest(bool queryOnly, bool interactive, bool ignoreSkipped);
     void parseXML(const QByteArray &data, bool ignoreSkipped, bool interactive);
+    void report(const UpdateFeed &feed, bool ignoreSkipped, bool interactive);
+    static QString textOf(UpdateFeed::Problem problem);
     void offer(const AvailableUpdate &update);
 
     QNetworkAccessManager *m_manager;

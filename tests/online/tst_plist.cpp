@@ -20,7 +20,9 @@ void tst_Plist::values()
     const QString path = dir.filePath(QStringLiteral("p.plist"));
     QVERIFY_EXCEPTION_THROWN(PlistLoader::read(path), Error);
     QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(100'000'000));
+    QVERIFY_EXCEPTION_THROWN(PlistLoader::read(path), Error);
+    QVERIFY(file.resize(0));
     file.write("<?xml version=\"1.0\"?>\n<!DOCTYPE plist PUBLIC \"-//A//DTD PLIST 1.0//EN\" "
                "\"http://a.example/p.dtd\">\n<plist version=\"1.0\"><dict>"
                "<key>s</key><string>t</string><key>r</key><real>1.5</real>"

@@ -6,6 +6,7 @@
 #include <memory>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFutureWatcher>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMainWindow>
@@ -125,6 +126,7 @@ void tst_Updater::check(bool interactive)
     else
         m_updater->checkForUpdates();
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 30'000);
+    QTRY_VERIFY(!m_updater->findChild<QFutureWatcherBase *>());
 }
 
 void tst_Updater::answer(const HttpServer::Response &response, bool interactive)
@@ -162,6 +164,10 @@ void tst_Updater::answers_data()
     };
     add("empty", "", noXml);
     add("deeply nested", QByteArray("<a>").repeated(1'000'000), noXml);
+    QByteArray attributes;
+    for (int i = 0; i < 60'000; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
+    add("sixty thousand attributes", "<rss" + attributes + "/>", noXml);
     add("growing text", "<!DOCTYPE r [<!ENTITY a \"bbbb\">]><rss>&a;</rss>", noXml);
     add("page of a proxy", "<html><body>Sign in</body></html>", QStringLiteral("(Not RSS)"));
     add("no channel", "<rss/>", QStringLiteral("(No channel found)"));

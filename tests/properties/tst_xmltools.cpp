@@ -1,4 +1,5 @@
 #include "properties/ThrowHelper.h"
+#include "properties/xml/ForeignXml.h"
 #include "properties/xml/SimpleXmlWriter.h"
 #include "properties/xml/XmlAttributeOrder.h"
 #include "properties/xml/XmlTools.h"
@@ -16,6 +17,8 @@ private slots:
     void encodings();
     void hostile_data();
     void hostile();
+    void foreignBounds_data();
+    void foreignBounds();
     void anyEncoding();
     void blanksAndVerbatim();
     void textSurvives_data();
@@ -95,8 +98,56 @@ void TestXmlTools::hostile()
     QVERIFY(!XmlTools::parse(document, xml, nullptr, &text, nullptr));
     QVERIFY(!text.isEmpty());
     text.clear();
-    QVERIFY(!XmlTools::parseAnyEncoding(document, xml, &text));
+    QVERIFY(!ForeignXml::parse(document, xml, &text));
     QVERIFY(!text.isEmpty());
+}
+
+void TestXmlTools::foreignBounds_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<bool>("taken");
+    const auto attributes = [](int count) {
+        QByteArray list;
+        for (int i = 0; i < count; ++i)
+            list += " a" + QByteArray::number(i) + "=''";
+        return list;
+    };
+    const auto declared = [](int count) {
+        QByteArray list = "<!DOCTYPE r [<!ATTLIST r";
+        for (int i = 0; i < count; ++i)
+            list += " a" + QByteArray::number(i) + " CDATA 'x'";
+        return list + ">]>";
+    };
+    const QByteArray longText(ForeignXml::MaximumTokenSize - 8192, 'x');
+    const QByteArray longWord(ForeignXml::MaximumTokenSize, 'x');
+    const auto add = [](const char *name, const QByteArray &xml, bool taken) {
+        QTest::newRow(name) << xml << taken;
+    };
+    add("attributes", "<r" + attributes(ForeignXml::MaximumAttributes) + "/>", true);
+    add("too many attributes", "<r" + attributes(ForeignXml::MaximumAttributes + 1) + "/>", false);
+    add("sixty thousand attributes", "<r><e" + attributes(60'000) + "/></r>", false);
+    add("declared attributes", declared(10) + "<r/>", true);
+    add("sixty thousand declared", declared(60'000) + "<r/>", false);
+    add("long text", "<r>" + longText + "<![CDATA[" + longText + "]]></r>", true);
+    add("too long text", "<r>" + longWord + longWord + "</r>", false);
+    add("endless tag", "<r a='" + longWord + longWord, false);
+    add("many tokens", "<r>" + QByteArray("<a/>x").repeated(50'000) + "</r>", true);
+    add("too large", "<r>" + QByteArray("<a/>").repeated(ForeignXml::MaximumSize / 4) + "</r>",
+        false);
+    add("cut off", "<r><a>", false);
+    add("more than a chunk", "<r>" + QByteArray("<a>\xc3\xa4</a>").repeated(1000) + "</r>", true);
+}
+
+void TestXmlTools::foreignBounds()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(bool, taken);
+    QDomDocument document;
+    QString text;
+    QCOMPARE(ForeignXml::parse(document, xml, &text), taken);
+    QCOMPARE(text.isEmpty(), taken);
+    if (taken)
+        QCOMPARE(document.documentElement().tagName(), QStringLiteral("r"));
 }
 
 void TestXmlTools::anyEncoding()
@@ -104,7 +155,7 @@ void TestXmlTools::anyEncoding()
     QDomDocument document;
     const QByteArray latin =
         "<?xml version='1.0' encoding='iso-8859-1'?><r a:b='&amp;'>\xe4&lt;</r>";
-    QVERIFY(XmlTools::parseAnyEncoding(document, latin, nullptr));
+    QVERIFY(ForeignXml::parse(document, latin));
     QCOMPARE(document.documentElement().text(), QString::fromUtf8("ä<"));
     QCOMPARE(document.documentElement().attribute("a:b"), QStringLiteral("&"));
 }

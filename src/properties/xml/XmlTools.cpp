@@ -114,15 +114,6 @@ bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttribut
     return false;
 }
 
-bool XmlTools::parseAnyEncoding(QDomDocument &document, const QByteArray &data, QString *errorText)
-{
-    QXmlStreamReader reader(data);
-    build(document, reader, nullptr);
-    if (reader.hasError() && errorText)
-        *errorText = reader.errorString();
-    return !reader.hasError();
-}
-
 static bool isValidCharacter(const QString &text, int i)
 {
     const QChar c = text.at(i);

@@ -27,10 +27,6 @@ public:
     static bool parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
                       QString *errorText, int *errorLine);
 
-    /** The same for what others write: takes any encoding that is declared, and never throws. */
-    static bool parseAnyEncoding(QDomDocument &document, const QByteArray &data,
-                                 QString *errorText);
-
     /**
      * The document as UTF-8, indented by @p indent blanks. Texts of blanks only are
      * dropped, but not in elements named in @p verbatimTags. Characters that XML can't
