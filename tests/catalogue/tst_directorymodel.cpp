@@ -11,6 +11,8 @@ private slots:
     void tree();
     void namesakesTellTheirParents_data();
     void namesakesTellTheirParents();
+    void neighbours_data();
+    void neighbours();
     void hostileDepth();
 };
 
@@ -63,6 +65,39 @@ void TestDirectoryModel::namesakesTellTheirParents()
     DirectoryModel model(catalogue.project);
     model.refresh();
     QTEST(text(model), "tree");
+}
+
+void TestDirectoryModel::neighbours_data()
+{
+    QTest::addColumn<QStringList>("directories");
+    QTest::addColumn<QStringList>("folders");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("a name that begins as another")
+        << QStringList{"/d/Rose", "/d/Rose/wild", "/d/Rose-2", "/d/Rose-2/wild"}
+        << QStringList{"/d/Rose", "/d/Rose-2"} << "Rose(wild) Rose-2(wild)";
+    QTest::newRow("outside of all folders")
+        << QStringList{"/a/b", "/d/one/x", "/d/outside/y", "/d/two/z"}
+        << QStringList{"/d/one", "/d/two"} << "one(x) two(z)";
+    QTest::newRow("a folder within another")
+        << QStringList{"/d/x", "/d/x/y", "/d/z"} << QStringList{"/d", "/d/x"} << "d(x(y) z) x";
+    QTest::newRow("everything") << QStringList{"/d/x", "/e"} << QStringList{"/"} << "/(d(x) e)";
+}
+
+void TestDirectoryModel::neighbours()
+{
+    QFETCH(QStringList, directories);
+    QFETCH(QStringList, folders);
+    Catalogue catalogue;
+    for (const QString &directory : directories)
+        catalogue.add(directory + "/a.pes");
+    catalogue.project->setSmartFolders(folders, {});
+    DirectoryModel model(catalogue.project);
+    model.refresh();
+    QTEST(text(model), "shown");
+    for (const QString &directory : directories) {
+        const QModelIndex index = model.indexForPath(directory);
+        QVERIFY(!index.isValid() || model.absoluteFilePath(index) == directory);
+    }
 }
 
 void TestDirectoryModel::hostileDepth()

@@ -4,6 +4,28 @@
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
 
+#include <algorithm>
+
+static QString withSlash(const QString &path)
+{
+    return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+}
+
+/**
+ * Takes what is @p folder or lies in it out of @p paths, in their order. Neighbours
+ * whose names begin alike may stand between, wherever the language sorts them.
+ */
+static QStringList takeInside(const QString &folder, QStringList &paths)
+{
+    const auto isOutside = [&folder, inside = withSlash(folder)](const QString &path) {
+        return path != folder && !path.startsWith(inside);
+    };
+    const auto firstInside = std::stable_partition(paths.begin(), paths.end(), isOutside);
+    const QStringList taken(firstInside, paths.end());
+    paths.erase(firstInside, paths.end());
+    return taken;
+}
+
 // No file system holds deeper trees; a catalogue from elsewhere might claim to.
 static constexpr int maximumDepth = 1000;
 
@@ -21,8 +43,10 @@ void DirectoryModel::refresh()
     QStringList folders = m_project->smartFolders();
     LocaleAwareFunctions::sort(paths);
     LocaleAwareFunctions::sort(folders);
-    for (const QString &folder : std::as_const(folders))
-        addDirectory(invisibleRootItem(), folder, takePathsOfSmartfolder(folder, paths));
+    for (const QString &folder : std::as_const(folders)) {
+        QStringList inside = takeInside(folder, paths);
+        addDirectory(invisibleRootItem(), folder, takePathsOfSmartfolder(folder, inside));
+    }
     const QHash<QString, QString> labels = FolderLabels::of(folders);
     for (int row = 0; row < rowCount(); ++row)
         item(row)->setText(labels.value(absoluteFilePath(index(row, 0))));
@@ -57,7 +81,8 @@ QList<QStringList> DirectoryModel::takePathsOfSmartfolder(const QString &folder,
 void DirectoryModel::addDirectory(QStandardItem *parent, const QString &path,
                                   const QList<QStringList> &subPaths)
 {
-    auto *item = new QStandardItem(m_folderIcon, lastElementOfPath(path));
+    const QString text = lastElementOfPath(path);
+    auto *item = new QStandardItem(m_folderIcon, text.isEmpty() ? path : text);
     item->setData(path, PathRole);
     parent->appendRow(item);
     m_itemsByPath.insert(path, item);
@@ -76,7 +101,7 @@ void DirectoryModel::addDirectory(QStandardItem *parent, const QString &path,
             group.append(elements.mid(1));
     }
     for (const QString &name : std::as_const(names))
-        addDirectory(item, path + QLatin1Char('/') + name, groups.take(name));
+        addDirectory(item, withSlash(path) + name, groups.take(name));
 }
 
 QString DirectoryModel::absoluteFilePath(const QModelIndex &index) const
