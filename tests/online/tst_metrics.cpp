@@ -202,9 +202,9 @@ void tst_Metrics::synchronisationNamesNoFile()
     QCOMPARE(tracking.supportedFiles(), (QStringList{"/home/jo/rose.PES", "/home/jo/rose.pes"}));
     tracking.fileFormatError();
     tracking.beginRenderFile();
-    tracking.endRenderFile(40);
+    tracking.endRenderFile(2'000'000'000);
     tracking.beginRenderFile();
-    tracking.endRenderFile(2);
+    tracking.endRenderFile(2'000'000'042);
     tracking.endSync(5, 6);
     QTRY_COMPARE(m_server->requests().size(), 3);
     for (const HttpServer::Request &request : m_server->requests())
@@ -218,7 +218,7 @@ void tst_Metrics::synchronisationNamesNoFile()
     QCOMPARE(loader, (QJsonObject{{"num files", 2},
                                   {"num errors", 1},
                                   {"rendered files", 2},
-                                  {"rendered stitches", 42}}));
+                                  {"rendered stitches", 4'000'000'042.0}}));
     const QJsonObject types = told().value(QStringLiteral("hl found file types"));
     QCOMPARE(types.size(), 19);
     QCOMPARE(types.value(QStringLiteral("pes")).toInt(), 2);

@@ -34,7 +34,8 @@ void FileSyncTracking::beginSync(const QStringList &filters)
     m_supportedFiles.clear();
     for (int &count : m_fileCounts)
         count = 0;
-    m_renderedFiles = m_errors = m_renderedStitches = m_renderTime = 0;
+    m_renderedFiles = m_errors = 0;
+    m_renderedStitches = m_renderTime = 0;
     m_syncTimer.start();
 }
 
@@ -80,7 +81,7 @@ void FileSyncTracking::endRenderFile(int stitchCount)
 void FileSyncTracking::endRenderFile(int stitchCount, std::chrono::nanoseconds paintingTime)
 {
     m_renderedStitches += stitchCount;
-    m_renderTime += int(std::chrono::round<std::chrono::milliseconds>(paintingTime).count());
+    m_renderTime += std::chrono::round<std::chrono::milliseconds>(paintingTime).count();
 }
 
 void FileSyncTracking::endSync(int smartFolderCount, int fileCount)

@@ -50,8 +50,8 @@ private:
     QStringList m_supportedFiles;
     int m_renderedFiles = 0;
     int m_errors = 0;
-    int m_renderedStitches = 0;
-    int m_renderTime = 0;
+    qint64 m_renderedStitches = 0;
+    qint64 m_renderTime = 0; ///< milliseconds
     QElapsedTimer m_syncTimer;
     QElapsedTimer m_renderTimer;
 };

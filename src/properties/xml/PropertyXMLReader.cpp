@@ -11,6 +11,7 @@
 #include "properties/core/PropertyReference.h"
 #include "properties/core/PropertyValues.h"
 #include "properties/presets/PropertyPresetCollection.h"
+#include "properties/xml/StoredText.h"
 
 PropertyXMLReader::PropertyXMLReader(GProject *project, const PropertyFactory *factory)
     : m_project(project), m_factory(factory)
@@ -40,7 +41,7 @@ void PropertyXMLReader::visit(PropertyBool *property)
 void PropertyXMLReader::visit(PropertyString *property)
 {
     property->setValueWithoutUndoAndAnnounceChange(
-        sharedText(property->propertyName(), m_currentElement.text()));
+        sharedText(property->propertyName(), StoredText::decode(m_currentElement.text())));
 }
 
 /**
@@ -115,7 +116,7 @@ void PropertyXMLReader::visit(PropertyEnum *property)
 
 void PropertyXMLReader::visit(PropertyFilename *property)
 {
-    const QString text = m_currentElement.text();
+    const QString text = StoredText::decode(m_currentElement.text());
     property->setValueWithoutUndoAndAnnounceChange(
         text.isEmpty() ? GFileName()
                        : GFileName(QDir::cleanPath(m_baseDir.absoluteFilePath(text))));
@@ -181,7 +182,7 @@ void PropertyXMLReader::visit(PropertyStringList *property)
     QStringList texts;
     const QDomNodeList strings = m_currentElement.elementsByTagName(QStringLiteral("string"));
     for (int i = 0; i < strings.count(); ++i)
-        texts.append(strings.at(i).toElement().text());
+        texts.append(StoredText::decode(strings.at(i).toElement().text()));
     property->setValueWithoutUndoAndAnnounceChange(texts);
 }
 

@@ -12,6 +12,7 @@
 #include "properties/descriptions/PropertyDescriptionReference.h"
 #include "properties/presets/PropertyPresetCollection.h"
 #include "properties/xml/PropertySerializer.h"
+#include "properties/xml/StoredText.h"
 #include "properties/xml/XmlTools.h"
 
 #include <QUuid>
@@ -106,7 +107,7 @@ void PropertyXMLWriter::visit(PropertyBool *property)
 
 void PropertyXMLWriter::visit(PropertyString *property)
 {
-    addTextElem(property->propertyName(), property->value());
+    addTextElem(property->propertyName(), StoredText::encode(property->value()));
 }
 
 void PropertyXMLWriter::visit(PropertyInt *property)
@@ -168,7 +169,8 @@ void PropertyXMLWriter::visit(PropertyFilename *property)
     }
     const QString relative = m_baseDir.relativeFilePath(path);
     const bool isBase = relative.isEmpty() || relative == QLatin1String(".");
-    addTextElem(property->propertyName(), isBase ? QStringLiteral("./") : relative);
+    addTextElem(property->propertyName(),
+                isBase ? QStringLiteral("./") : StoredText::encode(relative));
 }
 
 void PropertyXMLWriter::visit(PropertyCircle *property)
@@ -221,7 +223,7 @@ void PropertyXMLWriter::visit(PropertyStringList *property)
 {
     beginElement(property->propertyName());
     for (const QString &text : property->value())
-        addTextElem(QStringLiteral("string"), text);
+        addTextElem(QStringLiteral("string"), StoredText::encode(text));
     endElement();
 }
 

@@ -114,7 +114,7 @@ bool XmlTools::parse(QDomDocument &document, const QByteArray &data, XmlAttribut
     return false;
 }
 
-static bool isValidCharacter(const QString &text, int i)
+bool XmlTools::isValidCharacter(const QString &text, int i)
 {
     const QChar c = text.at(i);
     if (c.isHighSurrogate())

@@ -49,6 +49,9 @@ public:
     /** Replaces the children by @p content: by its markup if well-formed, else as text. */
     static void setXmlContent(QDomDocument &document, QDomElement &element, const QString &content);
 
+    /** Whether XML can hold what stands at @p i of @p text, with its other half if it has one. */
+    static bool isValidCharacter(const QString &text, int i);
+
     /** @p text without the characters that XML can't hold. */
     static QString withoutInvalidCharacters(const QString &text);
 
