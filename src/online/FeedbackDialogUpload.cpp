@@ -4,6 +4,7 @@
 #include "online/metrics/ReplyLimits.h"
 #include "online/services/GUrlProvider.h"
 #include "widgets/controls/FocusReturn.h"
+#include "widgets/controls/GMessageBox.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -126,8 +127,7 @@ void FeedbackDialog::cancelUpload()
 // The text is the server's, so it is shown as it is and nothing in it is loaded.
 void FeedbackDialog::showFailure(const QString &text)
 {
-    QMessageBox box(QMessageBox::Critical, tr("Sending message failed"), text.left(MaxShownText),
-                    QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
+    GMessageBox box(GMessageBox::Critical, this, text.left(MaxShownText));
+    box.setWindowTitle(tr("Sending message failed"));
     box.exec();
 }

@@ -8,13 +8,13 @@
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"
 #include "online/WindowsUpdater.h"
+#include "widgets/controls/GMessageBox.h"
 #include "widgets/style/DesktopColorScheme.h"
 #include "widgets/style/WidgetStyles.h"
 
 #include <algorithm>
 #include <QDir>
 #include <QIcon>
-#include <QMessageBox>
 #include <QTimer>
 #include <utility>
 
@@ -103,7 +103,7 @@ void HooplineApplication::reportError(const Error &error)
 {
     // Also what a worker's event handler throws is shown by the thread that has the windows.
     const QString text = error.toString();
-    QMetaObject::invokeMethod(this, [text] { QMessageBox::critical(nullptr, tr("Error"), text); });
+    QMetaObject::invokeMethod(this, [text] { GMessageBox::alert(tr("Error"), text); });
 }
 
 void HooplineApplication::emitSyncGlobalSettings()

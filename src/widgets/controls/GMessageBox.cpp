@@ -1,13 +1,12 @@
 #include "widgets/controls/GMessageBox.h"
 
-#include "widgets/style/WidgetHelper.h"
+#include "widgets/controls/MessageText.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QLayout>
 
 namespace {
-
-constexpr int LeastTextWidth = 320;
 
 QMessageBox::Icon iconOf(GMessageBox::Type type)
 {
@@ -22,6 +21,18 @@ QMessageBox::Icon iconOf(GMessageBox::Type type)
         return QMessageBox::Question;
     }
     return QMessageBox::NoIcon;
+}
+
+bool isOpen(const QString &text, const QString &informativeText)
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (const QWidget *widget : widgets) {
+        const auto *box = qobject_cast<const GMessageBox *>(widget);
+        if (box && box->isVisible() && box->text() == text &&
+            box->informativeText() == informativeText)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -72,25 +83,44 @@ QMessageBox::StandardButton GMessageBox::question(const QString &text,
     return run(Question, text, informativeText, parent);
 }
 
+void GMessageBox::alert(const QString &title, const QString &text)
+{
+    if (isOpen(text, QString()))
+        return;
+    GMessageBox box(Critical, nullptr, text);
+    box.setWindowTitle(title);
+    box.exec();
+}
+
 void GMessageBox::showEvent(QShowEvent *event)
 {
-    const QList<QLabel *> labels = findChildren<QLabel *>();
-    for (QLabel *label : labels) {
-        const bool isText = label->objectName() == QLatin1String("qt_msgbox_label") ||
-                            label->objectName() == QLatin1String("qt_msgbox_informativelabel");
-        if (!isText)
-            continue;
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        label->setMinimumWidth(LeastTextWidth);
-        label->setText(WidgetHelper::breakable(label->text()));
+    if (!findChild<MessageText *>()) {
+        QString below = informativeText();
+        if (!m_explanation.isEmpty())
+            below += QStringLiteral("\n\n") + m_explanation;
+        replaceLabel(QStringLiteral("qt_msgbox_label"), text());
+        replaceLabel(QStringLiteral("qt_msgbox_informativelabel"), below);
     }
     QMessageBox::showEvent(event);
+}
+
+void GMessageBox::replaceLabel(const QString &name, const QString &text)
+{
+    auto *label = findChild<QLabel *>(name);
+    if (!label)
+        return;
+    auto *view = new MessageText(text, this);
+    view->fit(label->font());
+    delete layout()->replaceWidget(label, view);
+    label->hide();
 }
 
 QMessageBox::StandardButton GMessageBox::run(Type type, const QString &text,
                                              const QString &informativeText, QWidget *parent)
 {
+    // Several clicks in a row have one answer.
+    if (type != Question && isOpen(text, informativeText))
+        return Ok;
     GMessageBox box(type, parent ? parent : QApplication::activeWindow(), text, informativeText);
     return static_cast<StandardButton>(box.exec());
 }

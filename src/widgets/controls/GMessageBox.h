@@ -3,7 +3,8 @@
 #include <QMessageBox>
 
 /**
- * A message with a main text and an informative text, both shown as plain text.
+ * A message with a main text and an informative text, both shown as plain text that can be
+ * copied.
  *
  * With a parent the box is a sheet of the parent's window.
  */
@@ -19,8 +20,19 @@ public:
                          const QString &informativeText = QString());
 
     /**
+     * What is shown below the informative text, which there must be: the cause in the user's
+     * words, and an address or a path to copy.
+     */
+    void setExplanation(const QString &explanation) { m_explanation = explanation; }
+    QString explanation() const { return m_explanation; }
+
+    /** Shows an error over no window in particular and waits, unless it is being shown already. */
+    static void alert(const QString &title, const QString &text);
+
+    /**
      * Show a box over \a parent, or over the active window when it is null, and wait for it.
-     * They return the button that closed the box; Escape on a question counts as No.
+     * They return the button that closed the box; Escape on a question counts as No. What is
+     * being told already is not told twice.
      */
     static StandardButton critical(const QString &text, const QString &informativeText = QString(),
                                    QWidget *parent = nullptr);
@@ -36,6 +48,9 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void replaceLabel(const QString &name, const QString &text);
     static StandardButton run(Type type, const QString &text, const QString &informativeText,
                               QWidget *parent);
+
+    QString m_explanation;
 };

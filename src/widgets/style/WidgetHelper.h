@@ -17,8 +17,8 @@ public:
     static qreal contrast(const QColor &first, const QColor &second);
 
     /**
-     * \a text with places to break at inside words that no line could hold: labels and tool tips
-     * wrap at blanks only. For display, never for storage.
+     * \a text with places to break at inside words that no line could hold: tool tips wrap at
+     * blanks only. For what nobody can copy, and never for storage.
      */
     static QString breakable(const QString &text);
 
