@@ -9,14 +9,21 @@
 #include "widgets/controls/GSideBar.h"
 #include "widgets/controls/GSideBarBoxAdvanced.h"
 #include "widgets/controls/GTreeView.h"
+#include "widgets/controls/MessageText.h"
+#include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QMessageBox>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QToolTip>
 #include <QtTest>
 #include <QVBoxLayout>
 
@@ -28,9 +35,14 @@ private slots:
     void initTestCase();
     void questionDefaultsToNo();
     void messageIsPlainText();
+    void longMessageFitsTheScreen();
+    void sameMessageIsToldOnce();
     void sideBarKeepsItsState();
     void titleFoldsByKeyboard();
     void treeDescribesItsEmptiness();
+    void deepTreeKeepsItsNames();
+    void onlyTheLeftButtonChoosesAFolder();
+    void elidedNameHasAToolTip();
     void textEditGrowsUpToAMost();
     void aboutBannerIsReadable();
     void aboutTellsTheDateInTheProgramsLanguage();
@@ -57,20 +69,53 @@ void tst_controls::questionDefaultsToNo()
 
 void tst_controls::messageIsPlainText()
 {
-    const QString hostile = QStringLiteral("<b>a</b> & ") + QString(500, QLatin1Char('x'));
-    GMessageBox box(GMessageBox::Question, nullptr, QStringLiteral("<i>main</i>"), hostile);
+    const QString path = QStringLiteral("/d/<img src=x>") + QString(250, QLatin1Char('x'));
+    GMessageBox box(GMessageBox::Critical, nullptr, QStringLiteral("<i>main</i>"), path);
+    box.setExplanation(QStringLiteral("why"));
     box.show();
     QVERIFY(QTest::qWaitForWindowExposed(&box));
-    int seen = 0;
+    QVERIFY(box.width() < 700);
     const auto labels = box.findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        if (label->text().isEmpty())
-            continue;
-        ++seen;
-        QCOMPARE(label->textFormat(), Qt::PlainText);
+    for (const QLabel *label : labels)
+        QVERIFY(!label->isVisible() || label->text().isEmpty());
+    const auto texts = box.findChildren<MessageText *>();
+    QCOMPARE(texts.size(), 2);
+    QCOMPARE(texts.first()->toPlainText(), QStringLiteral("<i>main</i>"));
+    for (MessageText *text : texts) {
+        QVERIFY(text->isVisible());
+        QVERIFY(text->document()->size().height() <= text->height());
+        QVERIFY(text->document()->size().width() <= text->width());
     }
-    QCOMPARE(seen, 2);
-    QVERIFY(box.width() < 900);
+    // What is copied is what there is.
+    QTest::mouseClick(texts.last()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::keyClick(texts.last(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(texts.last(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), path + QStringLiteral("\n\nwhy"));
+    QCOMPARE(box.informativeText(), path);
+}
+
+void tst_controls::longMessageFitsTheScreen()
+{
+    GMessageBox box(GMessageBox::Critical, nullptr, QStringLiteral("line\n").repeated(2000));
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(box.height() < box.screen()->availableGeometry().height());
+}
+
+// Nobody would answer a second box: the test would stand still.
+void tst_controls::sameMessageIsToldOnce()
+{
+    const QString text = QStringLiteral("lost");
+    bool repeated = false;
+    QTimer::singleShot(0, this, [&] {
+        GMessageBox::alert(QStringLiteral("Error"), text);
+        GMessageBox::critical(text);
+        repeated = true;
+        QApplication::activeModalWidget()->close();
+    });
+    GMessageBox::alert(QStringLiteral("Error"), text);
+    QVERIFY(repeated);
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void tst_controls::sideBarKeepsItsState()
@@ -136,6 +181,85 @@ void tst_controls::treeDescribesItsEmptiness()
     QVERIFY(tree.accessibleDescription().isEmpty());
     model.clear();
     QCOMPARE(tree.accessibleDescription(), QStringLiteral("Drop here"));
+}
+
+static bool showsName(const GTreeView &tree)
+{
+    const int left = tree.visualRect(tree.currentIndex()).left();
+    const int width = tree.sizeHintForIndex(tree.currentIndex()).width();
+    return left >= 0 && left + width <= tree.viewport()->width();
+}
+
+void tst_controls::deepTreeKeepsItsNames()
+{
+    QStandardItemModel model;
+    QStandardItem *parent = model.invisibleRootItem();
+    constexpr int Levels = 20;
+    for (int level = 0; level < Levels; ++level) {
+        parent->appendRow(new QStandardItem(QString::number(level)));
+        parent->appendRow(new QStandardItem(QStringLiteral("beside %1").arg(level)));
+        parent = parent->child(0);
+    }
+    GTreeView tree;
+    tree.setHeaderHidden(true);
+    tree.setModel(&model);
+    tree.resize(200, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    tree.setCurrentIndex(model.index(0, 0));
+    for (int level = 0; level < Levels; ++level) {
+        QCOMPARE(tree.currentIndex().data().toString(), QString::number(level));
+        QVERIFY(showsName(tree));
+        QTest::keyClick(&tree, Qt::Key_Right);
+        QTest::keyClick(&tree, Qt::Key_Right);
+    }
+    QTest::keyClick(&tree, Qt::Key_Down);
+    QCOMPARE(tree.currentIndex().data().toString(), QStringLiteral("beside 19"));
+    QVERIFY(showsName(tree));
+    for (int level = Levels - 2; level >= 0; --level) {
+        QTest::keyClick(&tree, Qt::Key_Left);
+        QCOMPARE(tree.currentIndex().data().toString(), QString::number(level));
+        QVERIFY(showsName(tree));
+        QTest::keyClick(&tree, Qt::Key_Left);
+    }
+    QCOMPARE(tree.horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_controls::onlyTheLeftButtonChoosesAFolder()
+{
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(QStringLiteral("roses")));
+    GTreeView tree;
+    tree.setModel(&model);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    const QPoint place = tree.visualRect(model.index(0, 0)).center();
+    QTest::mouseClick(tree.viewport(), Qt::RightButton, {}, place);
+    QVERIFY(!tree.selectionModel()->hasSelection());
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, place);
+    QVERIFY(tree.selectionModel()->hasSelection());
+}
+
+void tst_controls::elidedNameHasAToolTip()
+{
+    const QString longName = QStringLiteral("<b>Roses</b> ").repeated(10);
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(longName));
+    model.appendRow(new QStandardItem(QStringLiteral("short")));
+    GTreeView tree;
+    tree.setModel(&model);
+    tree.resize(200, 200);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    const auto rest = [&tree, &model](int row) {
+        const QPoint place = tree.visualRect(model.index(row, 0)).center();
+        QHelpEvent event(QEvent::ToolTip, place, tree.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(tree.viewport(), &event);
+    };
+    rest(0);
+    QCOMPARE(QToolTip::text(), WidgetHelper::toolTipText(longName));
+    rest(1);
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void tst_controls::textEditGrowsUpToAMost()

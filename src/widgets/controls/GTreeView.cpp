@@ -1,9 +1,14 @@
 #include "widgets/controls/GTreeView.h"
 
+#include "widgets/controls/DropFrame.h"
+#include "widgets/controls/ElisionToolTip.h"
+
 #include <QAbstractTextDocumentLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
@@ -11,11 +16,17 @@ namespace {
 
 constexpr int PlaceholderIconSize = 64;
 constexpr int PlaceholderGap = 12;
-constexpr int DropFrameWidth = 2;
+constexpr int LeastNameWidth = 120;
 
 } // namespace
 
-GTreeView::GTreeView(QWidget *parent) : QTreeView(parent) {}
+GTreeView::GTreeView(QWidget *parent) : QTreeView(parent), m_dropFrame(new DropFrame(viewport()))
+{
+    new ElisionToolTip(this);
+    header()->setStretchLastSection(false);
+    connect(this, &QTreeView::expanded, this, &GTreeView::fitColumn);
+    connect(this, &QTreeView::collapsed, this, &GTreeView::fitColumn);
+}
 
 void GTreeView::setPlaceholder(const QIcon &icon, const QString &richText, const QColor &color)
 {
@@ -28,8 +39,7 @@ void GTreeView::setPlaceholder(const QIcon &icon, const QString &richText, const
 
 void GTreeView::setDropHighlighted(bool highlighted)
 {
-    m_dropHighlighted = highlighted;
-    viewport()->update();
+    m_dropFrame->setVisible(highlighted);
 }
 
 void GTreeView::setModel(QAbstractItemModel *model)
@@ -42,20 +52,68 @@ void GTreeView::setModel(QAbstractItemModel *model)
     connect(model, &QAbstractItemModel::rowsInserted, this, &GTreeView::updateDescription);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &GTreeView::updateDescription);
     connect(model, &QAbstractItemModel::modelReset, this, &GTreeView::updateDescription);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &GTreeView::fitColumn);
+    connect(model, &QAbstractItemModel::modelReset, this, &GTreeView::fitColumn);
     updateDescription();
+    fitColumn();
+}
+
+void GTreeView::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    QTreeView::scrollTo(index, hint);
+    if (!index.isValid())
+        return;
+    QScrollBar *bar = horizontalScrollBar();
+    const int left = visualRect(index).left();
+    const int width = qMin(sizeHintForIndex(index).width(), viewport()->width());
+    const int beyond = left + width - viewport()->width();
+    if (left < 0 || beyond > 0)
+        bar->setValue(bar->value() + (left < 0 ? left : beyond));
 }
 
 void GTreeView::mousePressEvent(QMouseEvent *event)
 {
+    // The others would choose a row though there is nothing to do with it.
+    if (event->button() != Qt::LeftButton)
+        return;
     QTreeView::mousePressEvent(event);
-    if (event->button() == Qt::LeftButton && !indexAt(event->pos()).isValid())
+    if (!indexAt(event->pos()).isValid())
         clearSelection();
+}
+
+void GTreeView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    fitColumn();
+}
+
+void GTreeView::fitColumn()
+{
+    if (!model() || model()->columnCount() == 0)
+        return;
+    // A row without room for its name would be out of reach for the arrow keys, too.
+    const int levels = deepestLevel(rootIndex()) + (rootIsDecorated() ? 1 : 0);
+    setColumnWidth(0, qMax(viewport()->width(), levels * indentation() + LeastNameWidth));
+}
+
+int GTreeView::deepestLevel(const QModelIndex &parent) const
+{
+    int deepest = 0;
+    for (int row = 0; row < model()->rowCount(parent); ++row) {
+        const QModelIndex index = model()->index(row, 0, parent);
+        if (isExpanded(index))
+            deepest = qMax(deepest, 1 + deepestLevel(index));
+    }
+    return deepest;
 }
 
 void GTreeView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && selectionModel() && selectionModel()->hasSelection())
         clearSelection();
+    else if (event->key() == Qt::Key_Left && isExpanded(currentIndex()))
+        // While the view is scrolled sideways, the base would leave the folder open.
+        collapse(currentIndex());
     else
         QTreeView::keyPressEvent(event);
 }
@@ -65,8 +123,6 @@ void GTreeView::paintEvent(QPaintEvent *event)
     QTreeView::paintEvent(event);
     if (isEmpty())
         paintPlaceholder();
-    if (m_dropHighlighted)
-        paintDropFrame();
 }
 
 bool GTreeView::isEmpty() const
@@ -103,12 +159,4 @@ void GTreeView::paintPlaceholder()
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, m_placeholderColor);
     text.documentLayout()->draw(&painter, context);
-}
-
-void GTreeView::paintDropFrame()
-{
-    constexpr qreal Inset = DropFrameWidth / 2.0;
-    QPainter painter(viewport());
-    painter.setPen(QPen(palette().color(QPalette::Highlight), DropFrameWidth));
-    painter.drawRect(QRectF(viewport()->rect()).adjusted(Inset, Inset, -Inset, -Inset));
 }

@@ -3,9 +3,12 @@
 #include <QIcon>
 #include <QTreeView>
 
+class DropFrame;
+
 /**
- * A tree view that shows an icon and a rich text in its middle while it has no rows. A click
- * beside the rows and the Escape key clear the selection.
+ * A tree view of one column that shows an icon and a rich text in its middle while it has no
+ * rows. A click beside the rows and the Escape key clear the selection. Names that are too long
+ * have a tool tip; where the tree is so deep that they would have no room, it scrolls sideways.
  */
 class GTreeView : public QTreeView
 {
@@ -24,20 +27,23 @@ public:
     void setDropHighlighted(bool highlighted);
 
     void setModel(QAbstractItemModel *model) override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     bool isEmpty() const;
     void updateDescription();
+    void fitColumn();
+    int deepestLevel(const QModelIndex &parent) const;
     void paintPlaceholder();
-    void paintDropFrame();
 
     QIcon m_placeholderIcon;
     QString m_placeholderText;
     QColor m_placeholderColor;
-    bool m_dropHighlighted = false;
+    DropFrame *m_dropFrame;
 };
