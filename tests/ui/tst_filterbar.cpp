@@ -1,6 +1,7 @@
 #include "PanelFixture.h"
 
 #include "base/GlobalSettings.h"
+#include "base/GTranslationLoader.h"
 #include "catalogue/models/FilterModel.h"
 #include "ui/panels/FilterBar.h"
 
@@ -24,6 +25,8 @@ private slots:
     void init();
     void typeChoice();
     void sizeInMillimetres();
+    void sizeInTheWritingOfTheLanguage_data();
+    void sizeInTheWritingOfTheLanguage();
     void switchingUnitsResets();
     void searchByShortcutAndEscape();
     void tellsMistakesUnderTheField();
@@ -104,6 +107,37 @@ void tst_filterbar::sizeInMillimetres()
     QCOMPARE(shown(), 3);
     child<QComboBox>("heightCombobox")->setCurrentText(QStringLiteral("100"));
     QCOMPARE(shown(), 2);
+}
+
+void tst_filterbar::sizeInTheWritingOfTheLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("designs");
+    QTest::newRow("comma") << "de"
+                           << "109,5" << 2;
+    QTest::newRow("point") << "de"
+                           << "109.5" << 2;
+    QTest::newRow("just wide enough") << "de"
+                                      << "110,0" << 3;
+    QTest::newRow("comma that parts thousands") << "en"
+                                                << "10,9" << 3;
+    QTest::newRow("no number") << "de"
+                               << "1,0,9" << 3;
+    QTest::newRow("endless") << "en"
+                             << "nan" << 3;
+}
+
+void tst_filterbar::sizeInTheWritingOfTheLanguage()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, text);
+    GSettings().setUiLanguage(language);
+    GTranslationLoader::instance()->setTranslations(qApp);
+    auto *width = child<QComboBox>("widthCombobox");
+    width->lineEdit()->selectAll();
+    QTest::keyClicks(width->lineEdit(), text);
+    QTEST(shown(), "designs");
 }
 
 void tst_filterbar::switchingUnitsResets()

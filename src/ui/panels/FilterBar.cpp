@@ -2,6 +2,7 @@
 
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
+#include "base/GTranslationLoader.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/Project.h"
 #include "embroidery/EmbroideryIO.h"
@@ -13,7 +14,9 @@
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
 
+#include <optional>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QShortcut>
 
 namespace {
@@ -22,6 +25,21 @@ constexpr double MillimetresPerInch = 25.4;
 
 /** What the search field needs beside the other fields to be of use. */
 constexpr int LeastSearchWidth = 120;
+
+/** A number, with a point or as people who have the language write it. */
+std::optional<double> number(const QString &text)
+{
+    bool ok = false;
+    double value = text.toDouble(&ok);
+    const QLocale language(GTranslationLoader::instance()->languageCode());
+    for (QLocale locale : {language, QLocale::system()}) {
+        // A comma between thousands would be taken for one before a fraction.
+        locale.setNumberOptions(QLocale::RejectGroupSeparator);
+        if (!ok)
+            value = locale.toDouble(text, &ok);
+    }
+    return ok ? std::optional(value) : std::nullopt;
+}
 
 } // namespace
 
@@ -118,9 +136,8 @@ void FilterBar::setTypeFilter(const QString &text)
 void FilterBar::setSizeFilter()
 {
     const auto millimetres = [this](const QComboBox *box) {
-        bool ok = false;
-        const double value = box->currentText().toDouble(&ok);
-        return ok ? value * m_sizeUnitFactor : -1.0;
+        const std::optional<double> value = number(box->currentText());
+        return value ? *value * m_sizeUnitFactor : -1.0;
     };
     m_filter->setMaxDesignSize(
         QSizeF(millimetres(m_ui->widthCombobox), millimetres(m_ui->heightCombobox)));
