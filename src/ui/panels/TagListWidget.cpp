@@ -1,12 +1,14 @@
 #include "ui/panels/TagListWidget.h"
 
 #include "ui/panels/ElidingDelegate.h"
+#include "widgets/controls/ElisionToolTip.h"
 #include "widgets/style/WidgetHelper.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStandardItemModel>
 
 namespace {
@@ -15,7 +17,6 @@ constexpr int IconExtent = 16;
 constexpr int FadeIntervalMs = 50;
 constexpr qreal FadeStep = 0.05;
 constexpr int LongestMenuText = 40;
-constexpr int LongestRowWithoutToolTip = 20;
 
 QString menuText(QString tag)
 {
@@ -34,6 +35,7 @@ TagListWidget::TagListWidget(QWidget *parent)
 {
     setModel(m_model);
     setItemDelegate(new ElidingDelegate(this));
+    new ElisionToolTip(this);
     setEditTriggers(NoEditTriggers);
     setIconSize(QSize(IconExtent, IconExtent));
     setTextElideMode(Qt::ElideRight);
@@ -52,7 +54,10 @@ TagListWidget::TagListWidget(QWidget *parent)
 
 void TagListWidget::setTags(const QStringList &tags)
 {
-    const QString selected = selectedTag();
+    // Where the old name is still there, the new one was refused.
+    const bool refused = !m_selectedOldName.isEmpty() && tags.contains(m_selectedOldName);
+    const QString selected = refused ? m_selectedOldName : selectedTag();
+    const int scrolled = verticalScrollBar()->value();
     m_addedItem = nullptr;
     m_editedOldName.clear();
     m_highlightedItems.clear();
@@ -65,6 +70,13 @@ void TagListWidget::setTags(const QStringList &tags)
     for (const QString &tag : tags)
         m_model->appendRow(createTagItem(tag));
     selectTag(selected);
+    doItemsLayout();
+    verticalScrollBar()->setValue(scrolled);
+}
+
+QString TagListWidget::commandTag() const
+{
+    return m_menuTag.isEmpty() ? selectedTag() : m_menuTag;
 }
 
 QString TagListWidget::selectedTag() const
@@ -106,12 +118,20 @@ void TagListWidget::startAddingTag()
 
 void TagListWidget::startRenamingTag()
 {
-    const QStandardItem *item = selectedItem();
-    if (!item || item == m_allItem)
+    const QStandardItem *item = findItem(commandTag());
+    if (!item)
         return;
     scrollIntoView(item);
     m_editedOldName = item->text();
+    m_renamingUnselected = item != selectedItem();
     edit(item->index());
+}
+
+void TagListWidget::mousePressEvent(QMouseEvent *event)
+{
+    // The others would choose a tag, and so what the grid shows, on the way to the menu.
+    if (event->button() == Qt::LeftButton)
+        QListView::mousePressEvent(event);
 }
 
 void TagListWidget::keyPressEvent(QKeyEvent *event)
@@ -131,8 +151,8 @@ void TagListWidget::contextMenuEvent(QContextMenuEvent *event)
     const QStandardItem *item = m_model->itemFromIndex(index);
     if (!item || item == m_allItem)
         return;
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
 
+    const QScopedValueRollback<QString> menuTag(m_menuTag, item->text());
     QMenu menu(this);
     const QString name = menuText(item->text());
     menu.addAction(tr("Remove '%1'").arg(name), this, &TagListWidget::removeTag);
@@ -172,6 +192,8 @@ void TagListWidget::finishRenaming(const QString &text)
 {
     const QString oldName = m_editedOldName;
     m_editedOldName.clear();
+    const QScopedValueRollback<QString> told(m_selectedOldName,
+                                             m_renamingUnselected ? QString() : oldName);
     if (!oldName.isEmpty() && text != oldName)
         emit tagRenamed(oldName, text);
 }
@@ -182,6 +204,7 @@ void TagListWidget::onEditorClosed()
         m_model->removeRow(m_addedItem->row());
     m_addedItem = nullptr;
     m_editedOldName.clear();
+    m_renamingUnselected = false;
     setFocus();
 }
 
@@ -220,10 +243,7 @@ QStandardItem *TagListWidget::selectedItem() const
 
 QStandardItem *TagListWidget::createTagItem(const QString &text) const
 {
-    auto *item = new QStandardItem(m_tagIcon, text);
-    if (text.length() > LongestRowWithoutToolTip)
-        item->setToolTip(WidgetHelper::toolTipText(text));
-    return item;
+    return new QStandardItem(m_tagIcon, text);
 }
 
 void TagListWidget::scrollIntoView(const QStandardItem *item)

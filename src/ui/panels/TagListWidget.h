@@ -25,6 +25,12 @@ public:
     /** Empty when no tag is selected. */
     QString selectedTag() const;
 
+    /** The tag that a command is about: the one that a context menu is open for, or selected. */
+    QString commandTag() const;
+
+    /** Whether what is being renamed is not the selected tag. */
+    bool isRenamingUnselected() const { return m_renamingUnselected; }
+
     /** Selects the tag, or the entry for all files when there is no such tag. */
     void selectTag(const QString &tag);
 
@@ -39,12 +45,13 @@ signals:
     void tagRenamed(const QString &oldName, const QString &newName);
     /** Empty for the entry that stands for all files. */
     void selectedTagChanged(const QString &tag);
-    /** The user wants the selected tag removed. */
+    /** The user wants the tag of commandTag() removed. */
     void removeTag();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     void onItemSelectionChanged();
@@ -65,6 +72,9 @@ private:
     QStandardItem *m_allItem = nullptr;
     QStandardItem *m_addedItem = nullptr;
     QString m_editedOldName;
+    QString m_menuTag;         ///< empty while no context menu is open
+    QString m_selectedOldName; ///< while a new name for the selected tag is being told
+    bool m_renamingUnselected = false;
     QList<QStandardItem *> m_highlightedItems;
     QTimer m_fadeTimer;
     bool m_changingItems = false;

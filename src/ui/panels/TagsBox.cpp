@@ -79,15 +79,17 @@ void TagsBox::onTagRenamed(const QString &oldName, const QString &newName)
     }
     BulkMacro macro(m_project->undoStack(), tr("rename tag"));
     m_controller.renameTag(oldName, newName);
-    m_filter->setTag(newName);
+    if (!m_tagList->isRenamingUnselected())
+        m_filter->setTag(newName);
     macro.finish();
 }
 
 void TagsBox::removeTag()
 {
-    const QString tag = m_tagList->selectedTag();
+    const QString tag = m_tagList->commandTag();
     if (tag.isEmpty())
         return;
+    const bool isShown = tag == m_tagList->selectedTag();
     const int count = m_controller.filesWithTag(tag).count();
     if (count >= 1) {
         const auto answer = GMessageBox::question(
@@ -98,7 +100,8 @@ void TagsBox::removeTag()
     }
     BulkMacro macro(m_project->undoStack(), tr("remove tag"));
     m_controller.removeTag(tag);
-    m_filter->setTag(QString());
+    if (isShown)
+        m_filter->setTag(QString());
     macro.finish();
 }
 
