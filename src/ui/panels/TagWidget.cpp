@@ -4,12 +4,14 @@
 #include "catalogue/records/Project.h"
 #include "properties/undo/BulkMacro.h"
 #include "ui/panels/FlowLayout.h"
+#include "ui/panels/TagCompleter.h"
 #include "ui/panels/TagLabel.h"
+#include "widgets/controls/WidePopup.h"
 
 #include <QComboBox>
-#include <QCompleter>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QListView>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -38,14 +40,14 @@ TagWidget::TagWidget(const QSharedPointer<Project> &project, QWidget *parent)
 void TagWidget::createInput()
 {
     m_comboBox->setEditable(true);
-    m_comboBox->completer()->setCaseSensitivity(Qt::CaseSensitive);
-    m_comboBox->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    m_comboBox->setCompleter(new TagCompleter(m_comboBox));
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_comboBox->setMinimumContentsLength(LeastComboChars);
     m_comboBox->setAccessibleName(tr("New tag"));
     m_comboBox->setToolTip(tr("<p>Select an existing tag from the drop down list or enter a new "
                               "tag. The tag is added to all selected files.</p>"));
     m_comboBox->installEventFilter(this);
+    m_comboBox->view()->window()->installEventFilter(this);
     connect(m_comboBox, &QComboBox::textActivated, this, &TagWidget::addTag);
     connect(m_comboBox, &QComboBox::editTextChanged, this, &TagWidget::updateAddButtonState);
 
@@ -141,6 +143,9 @@ bool TagWidget::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
+    auto *list = qobject_cast<QListView *>(m_comboBox->view());
+    if (list && watched == list->window() && event->type() == QEvent::Show)
+        WidePopup::widen(list);
     return QFrame::eventFilter(watched, event);
 }
 
