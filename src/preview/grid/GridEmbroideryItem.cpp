@@ -4,9 +4,11 @@
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
+#include "preview/grid/PictureGround.h"
 #include "preview/grid/UnreadDesign.h"
 #include "properties/core/PropertyValues.h"
 #include "widgets/controls/DesktopInteraction.h"
+#include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
 #include <QFileInfo>
 #include <QFont>
@@ -122,14 +124,20 @@ QString GridEmbroideryItem::description() const
 
 void GridEmbroideryItem::clearLabels()
 {
+    if (!toolTip().isEmpty()) {
+        setToolTip(QString());
+    }
     m_nameLabel.clear();
     m_sizeLabel.clear();
 }
 
 void GridEmbroideryItem::fillLabels()
 {
-    m_nameLabel =
-        QFontMetrics(QFont()).elidedText(fullName(), Qt::ElideRight, qMax(0, m_maxLabelWidth));
+    const QString name = fullName();
+    m_nameLabel = QFontMetrics(QFont()).elidedText(name, Qt::ElideRight, qMax(0, m_maxLabelWidth));
+    if (m_nameLabel != name) {
+        setToolTip(WidgetHelper::toolTipText(name));
+    }
     if (m_layout->lines >= 2) {
         m_sizeLabel = LocaleAwareFunctions::toString(m_designSize, m_labelsImperial);
     }
@@ -206,6 +214,10 @@ void GridEmbroideryItem::paintPreview(QPainter *painter)
     const QPixmap image = PreviewCache::instance().previewImage(m_file, this);
     if (image.isNull()) {
         return;
+    }
+    const QColor ground = PictureGround::of(*m_file);
+    if (ground != brush().color()) {
+        painter->fillRect(QRect(0, 0, cardWidth(m_layout), cardWidth(m_layout)), ground);
     }
     const int previewSize = m_layout->previewSize;
     const double f = double(previewSize) / qMax(image.width(), image.height());

@@ -20,6 +20,8 @@ public:
     void observedObjectChanged(const Observable *observable) override;
 
 protected:
+    /** Two quick clicks are one for the flag; nobody wants it twice. */
+    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *) override {}
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:

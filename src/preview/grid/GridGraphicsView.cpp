@@ -1,12 +1,14 @@
 #include "preview/grid/GridGraphicsView.h"
 
 #include "preview/cache/PreviewCache.h"
+#include "preview/grid/EdgeScroller.h"
 #include "preview/grid/GridAccessible.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridNavigation.h"
 #include "widgets/style/WidgetStyles.h"
 #include <algorithm>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainterPath>
 
@@ -26,15 +28,19 @@ GridPreviewScene::Selecting selectingWith(Qt::KeyboardModifiers modifiers)
 
 } // namespace
 
-GridGraphicsView::GridGraphicsView(QWidget *parent) : EditorGraphicsView(parent)
+GridGraphicsView::GridGraphicsView(QWidget *parent)
+    : EditorGraphicsView(parent), m_edgeScroller(new EdgeScroller(this))
 {
     setFrameShape(QFrame::NoFrame);
+    // The cards take nothing that is dropped; whoever stands around the view may.
+    setAcceptDrops(false);
     // A few cards stand at the top, where the first of many would.
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     GridAccessible::install();
     setAccessibleName(tr("Designs"));
     setAccessibleDescription(tr("The arrow keys choose a design, Return opens it, Space enlarges "
                                 "it, F marks it as a favorite."));
+    connect(m_edgeScroller, &EdgeScroller::scrolled, this, &GridGraphicsView::continueRubberBand);
     updateBackground();
 }
 
@@ -80,7 +86,42 @@ void GridGraphicsView::wheelEvent(QWheelEvent *event)
 void GridGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     EditorGraphicsView::mouseDoubleClickEvent(event);
-    emit openSelection();
+    if (event->button() == Qt::LeftButton && !isOnStar(event->pos())) {
+        emit openSelection();
+    }
+}
+
+bool GridGraphicsView::isOnStar(const QPoint &pos) const
+{
+    const QGraphicsItem *item = itemAt(pos);
+    // A card has no other children.
+    return item != nullptr && item->parentItem() != nullptr;
+}
+
+void GridGraphicsView::mouseMoveEvent(QMouseEvent *event)
+{
+    EditorGraphicsView::mouseMoveEvent(event);
+    m_dragPos = event->pos();
+    if (!rubberBandRect().isNull()) {
+        m_edgeScroller->dragTo(m_dragPos);
+    }
+}
+
+void GridGraphicsView::continueRubberBand()
+{
+    if (rubberBandRect().isNull()) {
+        m_edgeScroller->stop();
+        return;
+    }
+    QMouseEvent move(QEvent::MouseMove, m_dragPos, viewport()->mapToGlobal(m_dragPos), Qt::NoButton,
+                     Qt::LeftButton, QGuiApplication::keyboardModifiers());
+    EditorGraphicsView::mouseMoveEvent(&move);
+}
+
+void GridGraphicsView::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_edgeScroller->stop();
+    EditorGraphicsView::mouseReleaseEvent(event);
 }
 
 void GridGraphicsView::keyPressEvent(QKeyEvent *event)

@@ -5,6 +5,8 @@
 #include "preview/grid/GridPreviewScene.h"
 #include <QAccessible>
 
+class EdgeScroller;
+
 /** The view of the grid: tells its width in scene units and handles the grid's keys. */
 class GridGraphicsView : public EditorGraphicsView
 {
@@ -58,9 +60,13 @@ private:
     int firstIndexInView() const;
     void openContextMenu();
     void dragDesigns();
+    bool isOnStar(const QPoint &pos) const;
+    void continueRubberBand();
     void announce(QAccessible::Event type, int index);
 
     GridPreviewScene *m_gridScene = nullptr;
+    EdgeScroller *m_edgeScroller;
+    QPoint m_dragPos;
     // Rather than by the mouse, as of the last press.
     bool m_usedByKeys = false;
     DesignDrag m_drag;

@@ -8,10 +8,16 @@
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridGraphicsView.h"
+#include "preview/grid/GridPlace.h"
 #include "preview/grid/GridPreviewScene.h"
+#include "preview/grid/PictureGround.h"
 #include "preview/grid/PreviewSheet.h"
 #include <algorithm>
 #include <QEvent>
+#include <QGraphicsItem>
+#include <QLineF>
+#include <QPainter>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -20,6 +26,14 @@ const QList<int> PreviewBrowser::ScaleFactors = {33, 50, 75, 100, 150, 200};
 namespace {
 
 constexpr int DefaultScaleFactor = 100;
+
+QPixmap onGround(const QPixmap &preview, const QColor &ground)
+{
+    QPixmap picture(preview.size());
+    picture.fill(ground);
+    QPainter(&picture).drawPixmap(0, 0, preview);
+    return picture;
+}
 
 } // namespace
 
@@ -60,6 +74,8 @@ void PreviewBrowser::connectModels()
     connect(m_models->selection(), &ISelectionModel::selectionChanged, m_scene,
             &GridPreviewScene::selectFiles);
     connect(m_models->filter(), &IFilterModel::filterChanged, this, &PreviewBrowser::filterChanged);
+    connect(m_models->filter(), &IFilterModel::directoryFilterChanged, this,
+            &PreviewBrowser::directoryChanged);
 }
 
 void PreviewBrowser::readZoom()
@@ -85,7 +101,9 @@ void PreviewBrowser::observedObjectChanged(const Observable *observable)
 
 void PreviewBrowser::filterChanged()
 {
+    const GridPlace place(m_view);
     m_scene->setFiles(m_models->filter()->filteredFiles());
+    place.restore(m_view);
 }
 
 int PreviewBrowser::zoomPercent() const
@@ -122,12 +140,25 @@ void PreviewBrowser::showSelection()
     m_view->setFocus(Qt::OtherFocusReason);
 }
 
+void PreviewBrowser::directoryChanged()
+{
+    QScrollBar *bar = m_view->verticalScrollBar();
+    bar->setValue(bar->minimum());
+}
+
 void PreviewBrowser::updateZoomAndKeepSelectionVisible()
 {
     const QList<QGraphicsItem *> selected = m_scene->selectedItems();
+    const QPointF center = m_view->mapToScene(m_view->viewport()->rect().center());
+    // Of many cards the one that the user is looking at.
+    const auto isNearer = [center](const QGraphicsItem *a, const QGraphicsItem *b) {
+        return QLineF(center, a->sceneBoundingRect().center()).length() <
+               QLineF(center, b->sceneBoundingRect().center()).length();
+    };
+    const auto nearest = std::min_element(selected.begin(), selected.end(), isNearer);
     m_view->zoomTo(zoom());
-    if (!selected.isEmpty()) {
-        m_view->centerOn(selected.first());
+    if (nearest != selected.end()) {
+        m_view->centerOn(*nearest);
     }
 }
 
@@ -135,8 +166,8 @@ void PreviewBrowser::previewSelection()
 {
     const QList<QSharedPointer<IFile>> files = m_models->selection()->selectedFiles();
     if (files.size() == 1) {
-        PreviewSheet sheet(this, PreviewCache::instance().previewImage(files.first(), nullptr));
-        sheet.exec();
+        const QPixmap preview = PreviewCache::instance().previewImage(files.first(), nullptr);
+        PreviewSheet(this, onGround(preview, PictureGround::of(*files.first()))).exec();
     }
 }
 
