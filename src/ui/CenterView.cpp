@@ -8,8 +8,11 @@
 #include "ui/design/DesignWindow.h"
 #include "ui/EmptyHint.h"
 #include "ui/panels/FilterBar.h"
+#include "widgets/controls/DragDropHelper.h"
+#include "widgets/controls/DropFrame.h"
 
 #include <algorithm>
+#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QSet>
 #include <QVBoxLayout>
@@ -18,17 +21,41 @@ CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
                        FilterSelectionModel *model)
     : QWidget(parent), m_model(model), m_filterBar(new FilterBar(this, project, model->filter())),
       m_browser(new PreviewBrowser(this, project, model)),
-      m_hint(new EmptyHint(m_browser, project, model->filter()))
+      m_hint(new EmptyHint(m_browser, project, model->filter())),
+      m_dropHelper(new DragDropHelper(this, DragDropHelper::Directories))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_filterBar);
     layout->addWidget(m_browser, 1);
+    auto *frame = new DropFrame(this);
 
     connect(m_browser, &PreviewBrowser::openRequested, this, &CenterView::showInWindow);
     connect(m_hint, &EmptyHint::addFolderRequested, this, &CenterView::addFolderRequested);
     connect(m_hint, &EmptyHint::allDesignsRequested, this, &CenterView::showAllDesigns);
+    connect(m_dropHelper, &DragDropHelper::filesDropped, this, &CenterView::filesDropped);
+    connect(m_dropHelper, &DragDropHelper::dragActiveChanged, frame, &DropFrame::setVisible);
+}
+
+void CenterView::dragEnterEvent(QDragEnterEvent *event)
+{
+    m_dropHelper->dragEnterEvent(event);
+}
+
+void CenterView::dragMoveEvent(QDragMoveEvent *event)
+{
+    m_dropHelper->dragMoveEvent(event);
+}
+
+void CenterView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    m_dropHelper->dragLeaveEvent(event);
+}
+
+void CenterView::dropEvent(QDropEvent *event)
+{
+    m_dropHelper->dropEvent(event);
 }
 
 CenterView::~CenterView() = default;

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class DesignWindow;
+class DragDropHelper;
 class EmptyHint;
 class FilterBar;
 class FilterSelectionModel;
@@ -13,7 +14,10 @@ class IFile;
 class PreviewBrowser;
 class Project;
 
-/** The grid of designs below the strip that narrows it. */
+/**
+ * The grid of designs between the strip that narrows it and the line that counts them. Takes
+ * folders that are dropped on it.
+ */
 class CenterView : public QWidget
 {
     Q_OBJECT
@@ -48,6 +52,14 @@ signals:
     void addFolderRequested();
     /** The user wants the designs of all folders. */
     void allFoldersRequested();
+    /** Folders that are to be added. */
+    void filesDropped(const QStringList &folders);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void showAllDesigns();
@@ -60,4 +72,5 @@ private:
     EmptyHint *m_hint;
     // Made for the first design, and used for all that follow.
     std::unique_ptr<DesignWindow> m_designWindow;
+    DragDropHelper *m_dropHelper;
 };

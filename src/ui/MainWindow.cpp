@@ -174,6 +174,7 @@ void MainWindow::createPanes()
     connect(m_left, &LeftSidebar::filesDropped, this, &MainWindow::filesDropped);
     connect(m_left, &LeftSidebar::removeSelectedDirectory, this,
             &MainWindow::removeSelectedDirectory);
+    connect(m_center, &CenterView::filesDropped, this, &MainWindow::filesDropped);
     connect(m_center, &CenterView::addFolderRequested, this, &MainWindow::addDirectory);
     connect(m_center, &CenterView::allFoldersRequested, m_left, &LeftSidebar::showAllFolders);
 }

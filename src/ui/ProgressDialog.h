@@ -69,6 +69,6 @@ private:
     QLabel *m_detail;
     QPushButton *m_cancelButton;
     bool m_aborted = false;
-    QElapsedTimer m_begun; ///< invalid unless the window is still to come
+    QElapsedTimer m_begun;            ///< invalid unless the window is still to come
     qint64 m_lastEventProcessing = 0; ///< milliseconds since the epoch
 };

@@ -4,6 +4,7 @@
 #include "catalogue/records/IThread.h"
 #include "catalogue/records/Thread.h"
 #include "ui/panels/ColorBoxPainter.h"
+#include "widgets/controls/ElisionToolTip.h"
 
 #include <QHeaderView>
 #include <QTreeWidget>
@@ -15,6 +16,7 @@ enum Column { ColorColumn, NameColumn, ChartColumn };
 
 constexpr int ColorColumnWidth = 30;
 constexpr int RowHeight = 30;
+constexpr int LeastNameWidth = 60;
 
 } // namespace
 
@@ -36,6 +38,7 @@ void ColorsBox::initTree()
     m_tree->setFocusPolicy(Qt::NoFocus);
     m_tree->setUniformRowHeights(true);
     m_tree->setAccessibleName(tr("Colors"));
+    new ElisionToolTip(m_tree);
     m_tree->setItemDelegateForColumn(ColorColumn, new ColorBoxPainter(m_tree));
     m_tree->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::MinimumExpanding);
     m_tree->header()->setMinimumSectionSize(ColorColumnWidth);
@@ -73,6 +76,22 @@ void ColorsBox::observedObjectChanged(const Observable *)
         rows.append(row);
     }
     m_tree->addTopLevelItems(rows);
+    fitColumns();
+}
+
+void ColorsBox::fitColumns()
+{
     m_tree->resizeColumnToContents(NameColumn);
     m_tree->resizeColumnToContents(ChartColumn);
+    // A long name makes room for the chart.
+    const int room = m_tree->viewport()->width() - ColorColumnWidth;
+    const int name = qMax(room - m_tree->columnWidth(ChartColumn), LeastNameWidth);
+    if (m_tree->columnWidth(NameColumn) > name)
+        m_tree->setColumnWidth(NameColumn, name);
+}
+
+void ColorsBox::resizeEvent(QResizeEvent *event)
+{
+    GSideBarBox::resizeEvent(event);
+    fitColumns();
 }

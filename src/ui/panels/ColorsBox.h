@@ -20,8 +20,12 @@ public:
     void setFiles(const QList<QSharedPointer<IFile>> &files);
     void observedObjectChanged(const Observable *observable) override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void initTree();
+    void fitColumns();
 
     QSharedPointer<IFile> m_file;
     QTreeWidget *m_tree;

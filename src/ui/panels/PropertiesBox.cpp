@@ -29,6 +29,7 @@ constexpr int CaptionSpacing = 6;
 constexpr int RowSpacing = 2;
 constexpr int ShareOfSideBar = 3;
 constexpr int ScrollDelayMs = 100;
+constexpr int FileNameRow = 0;
 
 QLabel *createCaption(const QString &text)
 {
@@ -89,11 +90,15 @@ void PropertiesBox::initPanel()
 
 void PropertiesBox::addSimpleProperties()
 {
-    addSimpleProperty(tr("File name"), m_fileNameValue);
+    m_fileNameCaption = addSimpleProperty(tr("File name"), m_fileNameValue);
     m_nameCaption = addSimpleProperty(tr("Name"), m_nameValue);
     addSimpleProperty(tr("Design size"), m_designSizeValue);
     addSimpleProperty(tr("Number of stitches"), m_stitchCountValue);
     addSimpleProperty(tr("Number of colors"), m_colorCountValue);
+    // Nothing below is to move under the pointer when the name comes or goes.
+    m_nameRoom = new QLabel;
+    m_nameRoom->hide();
+    m_grid->addWidget(m_nameRoom, m_rows, 0);
     for (ElidedLabel *value : {m_fileNameValue, m_nameValue, m_designSizeValue})
         value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
@@ -101,7 +106,7 @@ void PropertiesBox::addSimpleProperties()
 QLabel *PropertiesBox::addSimpleProperty(const QString &text, ElidedLabel *value)
 {
     QLabel *caption = createCaption(text);
-    const int row = m_grid->rowCount();
+    const int row = m_rows++;
     m_grid->addWidget(caption, row, 0);
     m_grid->addWidget(value, row, 1);
     return caption;
@@ -143,6 +148,7 @@ void PropertiesBox::setFiles(const QList<QSharedPointer<IFile>> &files)
     const QList<QSharedPointer<IFile>> oldFiles = std::exchange(m_files, files);
     for (const Observable *property : observedProperties())
         property->registerObserver(this);
+    placeFileName();
     if (m_files.count() == 1)
         PropertiesBox::observedObjectChanged(nullptr);
     else
@@ -157,6 +163,14 @@ QList<const Observable *> PropertiesBox::observedProperties() const
     const IFile *file = m_files.first().data();
     return {file->absoluteFilePathProp(), file->nameProp(), file->designSizeProp(),
             file->stitchCountProp(), file->threadsProp()};
+}
+
+void PropertiesBox::placeFileName()
+{
+    // How many are selected is no file name, and needs the room.
+    const bool isName = m_files.count() == 1;
+    m_fileNameCaption->setVisible(isName);
+    m_grid->addWidget(m_fileNameValue, FileNameRow, isName ? 1 : 0, 1, isName ? 1 : 2);
 }
 
 void PropertiesBox::showSelectionCount()
@@ -218,6 +232,7 @@ void PropertiesBox::updateNameRow()
     const bool visible = !file.name().isEmpty() && file.name() != fileName;
     m_nameCaption->setVisible(visible);
     m_nameValue->setVisible(visible);
+    m_nameRoom->setVisible(!visible);
 }
 
 void PropertiesBox::scrollToBottomDelayed()

@@ -46,6 +46,7 @@ private:
     void handOverNotesAndTags();
     void updateRows(const Observable *observable);
     void updateNameRow();
+    void placeFileName();
 
     QSharedPointer<Project> m_project;
     QList<QSharedPointer<IFile>> m_files;
@@ -53,12 +54,15 @@ private:
     QWidget *m_scrollWidget;
     QVBoxLayout *m_mainLayout;
     QGridLayout *m_grid;
+    int m_rows = 0; ///< of the facts in the grid
     ElidedLabel *m_fileNameValue;
     ElidedLabel *m_nameValue;
     ElidedLabel *m_designSizeValue;
     ElidedLabel *m_stitchCountValue;
     ElidedLabel *m_colorCountValue;
+    QLabel *m_fileNameCaption = nullptr;
     QLabel *m_nameCaption = nullptr;
+    QLabel *m_nameRoom = nullptr; ///< a row that is there while that of the name is not
     TagWidget *m_tagWidget = nullptr;
     PropertyDescriptionString m_notesDescription;
     PropertyStringMultilineEdit *m_notesEdit = nullptr;
