@@ -89,7 +89,7 @@ private:
     void follow(const QUrl &from, const QUrl &target);
     void showProgress();
     void hideProgress();
-    void showFailure(const QString &text);
+    void showFailure(const QString &text, const QString &explanation = QString());
 
     QMap<QString, QVariant> m_additional;
     QStringList m_crashLogs;

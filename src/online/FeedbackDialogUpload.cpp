@@ -2,6 +2,7 @@
 #include "base/GSettings.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/ReplyLimits.h"
+#include "online/NetworkTrouble.h"
 #include "online/services/GUrlProvider.h"
 #include "widgets/controls/FocusReturn.h"
 #include "widgets/controls/GMessageBox.h"
@@ -70,7 +71,7 @@ void FeedbackDialog::replyFinished(QNetworkReply *reply)
     if (m_cancelled)
         return;
     if (reply->error() != QNetworkReply::NoError)
-        return showFailure(reply->errorString());
+        return showFailure(reply->errorString(), NetworkTrouble::explain(*reply));
     const QString answer = QString::fromUtf8(reply->readAll()).trimmed();
     if (answer.isEmpty() || answer == QStringLiteral("OK"))
         QDialog::accept();
@@ -125,9 +126,9 @@ void FeedbackDialog::cancelUpload()
 }
 
 // The text is the server's, so it is shown as it is and nothing in it is loaded.
-void FeedbackDialog::showFailure(const QString &text)
+void FeedbackDialog::showFailure(const QString &text, const QString &explanation)
 {
-    GMessageBox box(GMessageBox::Critical, this, text.left(MaxShownText));
+    GMessageBox box(GMessageBox::Critical, this, text.left(MaxShownText), explanation);
     box.setWindowTitle(tr("Sending message failed"));
     box.exec();
 }

@@ -2,6 +2,8 @@
 
 #include "base/GSettings.h"
 #include "online/metrics/ReplyLimits.h"
+#include "online/NetworkTrouble.h"
+#include "online/services/GUrlProvider.h"
 #include "online/UpdateDialog.h"
 #include "widgets/controls/GMessageBox.h"
 
@@ -78,8 +80,12 @@ void WindowsUpdater::queryOnly()
 void WindowsUpdater::startNetworkRequest(bool queryOnly, bool interactive, bool ignoreSkipped)
 {
     const QUrl url = getUpdateUrl();
-    if (queryOnly && url == m_lastUrl)
+    if ((queryOnly && url == m_lastUrl) || (interactive && m_awaited))
         return;
+    if (interactive && GUrlProvider::leadsNowhere(url)) {
+        tellThereIsNoServer();
+        return;
+    }
     m_lastUrl = url;
     QNetworkRequest request(url);
     request.setAttribute(QueryOnly, queryOnly);
@@ -87,7 +93,10 @@ void WindowsUpdater::startNetworkRequest(bool queryOnly, bool interactive, bool 
     request.setAttribute(IgnoreSkipped, ignoreSkipped);
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("text/xml"));
     ReplyLimits::prepare(request);
-    ReplyLimits::apply(m_manager->post(request, QByteArray()));
+    QNetworkReply *reply = m_manager->post(request, QByteArray());
+    ReplyLimits::apply(reply);
+    if (interactive)
+        m_awaited = reply;
 }
 
 void WindowsUpdater::replyFinished(QNetworkReply *reply)
@@ -97,10 +106,11 @@ void WindowsUpdater::replyFinished(QNetworkReply *reply)
         return;
     const bool failed = reply->error() != QNetworkReply::NoError;
     parseXML(failed ? QByteArray() : reply->readAll(), attribute(reply, IgnoreSkipped),
-             attribute(reply, Interactive));
+             attribute(reply, Interactive), NetworkTrouble::explain(*reply));
 }
 
-void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool interactive)
+void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool interactive,
+                              const QString &explanation)
 {
     auto *watcher = new QFutureWatcher<UpdateFeed>(m_manager);
     connect(watcher, &QFutureWatcher<UpdateFeed>::finished, this, [=] {
@@ -108,18 +118,20 @@ void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool i
         const UpdateFeed feed = watcher->result();
         if (feed.problem == UpdateFeed::NoXml)
             qWarning("Update feed: %s", data.left(MaxLoggedBody).constData());
-        report(feed, ignoreSkipped, interactive);
+        report(feed, ignoreSkipped, interactive, explanation);
     });
     // A feed may take its time, which is not to be the window's.
     watcher->setFuture(
         QtConcurrent::run(&UpdateFeed::read, data, QCoreApplication::applicationVersion()));
 }
 
-void WindowsUpdater::report(const UpdateFeed &feed, bool ignoreSkipped, bool interactive)
+void WindowsUpdater::report(const UpdateFeed &feed, bool ignoreSkipped, bool interactive,
+                            const QString &explanation)
 {
     if (feed.problem != UpdateFeed::NoProblem) {
         if (interactive)
-            GMessageBox::critical(tr("Update check failed"), textOf(feed.problem));
+            GMessageBox::critical(tr("Update check failed"), textOf(feed.problem), nullptr,
+                                  explanation);
         return;
     }
     const AvailableUpdate &best = feed.newest;
@@ -133,6 +145,13 @@ void WindowsUpdater::report(const UpdateFeed &feed, bool ignoreSkipped, bool int
     }
     if (!skipped || ignoreSkipped)
         offer(best);
+}
+
+void WindowsUpdater::tellThereIsNoServer()
+{
+    GMessageBox::information(tr("This copy cannot look for updates"),
+                             tr("It was made without an address to ask. New versions come from "
+                                "where you got this one."));
 }
 
 QString WindowsUpdater::textOf(UpdateFeed::Problem problem)

@@ -34,12 +34,16 @@ private slots:
 
 private:
     void startNetworkRequest(bool queryOnly, bool interactive, bool ignoreSkipped);
-    void parseXML(const QByteArray &data, bool ignoreSkipped, bool interactive);
-    void report(const UpdateFeed &feed, bool ignoreSkipped, bool interactive);
+    void parseXML(const QByteArray &data, bool ignoreSkipped, bool interactive,
+                  const QString &explanation);
+    void report(const UpdateFeed &feed, bool ignoreSkipped, bool interactive,
+                const QString &explanation);
+    static void tellThereIsNoServer();
     static QString textOf(UpdateFeed::Problem problem);
     void offer(const AvailableUpdate &update);
 
     QNetworkAccessManager *m_manager;
     QUrl m_lastUrl;
+    QPointer<QNetworkReply> m_awaited; ///< by a user; one answer is enough for several clicks
     QPointer<UpdateDialog> m_dialog;
 };

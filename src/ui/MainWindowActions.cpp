@@ -88,6 +88,8 @@ void MainWindow::createHelpMenu()
     const auto helpActions = HooplineApplication::instance()->applicationLevelHelpActions();
     for (GAction *action : helpActions)
         m_helpMenu->addAction(action);
+    connect(m_helpMenu, &QMenu::aboutToShow, HooplineApplication::instance(),
+            &HooplineApplication::updateHelpActions);
 }
 
 void MainWindow::installApplicationMenuItems(QMenu *fileMenu, QMenu *helpMenu)

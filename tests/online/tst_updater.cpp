@@ -2,6 +2,7 @@
 #include "online/UpdateDialog.h"
 #include "online/WindowsUpdater.h"
 #include "support/MessageBoxes.h"
+#include "widgets/controls/GMessageBox.h"
 
 #include <memory>
 #include <QApplication>
@@ -75,6 +76,9 @@ private slots:
     void request();
     void answers_data();
     void answers();
+    void troubleIsExplained_data();
+    void troubleIsExplained();
+    void severalClicksHaveOneAnswer();
     void badCertificate();
     void lateAnswerDoesNotHoldUpTheEnd();
     void install();
@@ -199,6 +203,52 @@ void tst_Updater::answers()
     QVERIFY2(boxes.allTexts().contains(title), qPrintable(boxes.allTexts()));
     QVERIFY2(boxes.allTexts().endsWith(told), qPrintable(boxes.allTexts()));
     QVERIFY(!offered());
+}
+
+void tst_Updater::troubleIsExplained_data()
+{
+    QTest::addColumn<HttpServer::Response>("response");
+    QTest::addColumn<QString>("explanation");
+    const auto add = [](const char *name, const HttpServer::Response &response,
+                        const QString &explanation) {
+        QTest::newRow(name) << response << explanation;
+    };
+    add("moved", HttpServer::redirect("https://moved.example/feed?v=1"),
+        QStringLiteral("The address has moved:\nhttps://moved.example/feed"));
+    HttpServer::Response failed = HttpServer::text("oops");
+    failed.status = 500;
+    add("error", failed, QStringLiteral("The server reports an error."));
+    add("no feed", HttpServer::text("hello"), QStringLiteral("The answer cannot be used."));
+}
+
+// In the user's words, with an address to copy that holds nothing about him.
+void tst_Updater::troubleIsExplained()
+{
+    QFETCH(HttpServer::Response, response);
+    QFETCH(QString, explanation);
+    QString told;
+    QTimer hand;
+    connect(&hand, &QTimer::timeout, this, [&told] {
+        if (auto *box = qobject_cast<GMessageBox *>(QApplication::activeModalWidget())) {
+            told = box->explanation();
+            box->close();
+        }
+    });
+    hand.start(0);
+    answer(response, true);
+    QTRY_VERIFY2(told.startsWith(explanation), qPrintable(told));
+    QVERIFY(!told.contains('?'));
+    QVERIFY(told.section('\n', 1).startsWith(QLatin1String("http")));
+}
+
+void tst_Updater::severalClicksHaveOneAnswer()
+{
+    const MessageBoxes boxes;
+    m_maker->answer(HttpServer::text("hello"));
+    m_updater->checkForUpdatesMenuItem();
+    check(true);
+    QTRY_COMPARE(boxes.count(), 1);
+    QCOMPARE(m_maker->server().requests().size(), 1);
 }
 
 void tst_Updater::badCertificate()

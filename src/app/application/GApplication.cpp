@@ -12,6 +12,7 @@
 #include "online/BreakpadCrashHandler.h"
 #include "online/FeedbackDialog.h"
 #include "online/services/GUrlProvider.h"
+#include "widgets/controls/UrlOpener.h"
 #include "widgets/style/TnwMacStyle.h"
 
 #include <cstdlib>
@@ -35,6 +36,7 @@ GApplication::GApplication(int &argc, char **argv, const QString &applicationNam
     theFileTypeRegistry().setFileAssociationHandler(fileAssociationHandler());
     GTranslationLoader::instance()->setTranslations(this);
     installNativeEventFilter(this);
+    new UrlOpener(this);
     setStyle(new TnwMacStyle);
     connect(this, &GApplication::criticalError, this, &GApplication::displayCriticalError);
     if (arguments().contains(QStringLiteral("--report-crash"))) {

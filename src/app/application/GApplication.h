@@ -115,6 +115,8 @@ public slots:
     virtual void showFeedbackDialog() = 0;
     virtual void showPreferences() = 0;
     virtual void updateCheck() = 0;
+    /** What cannot work in this build is not offered. */
+    void updateHelpActions();
     virtual void showAbout();
     virtual void showDocumentation();
     virtual void showTutorials();

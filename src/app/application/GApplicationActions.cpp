@@ -180,10 +180,15 @@ void GApplication::showAbout()
 
 void GApplication::openHelp(const QUrl &page)
 {
-    // Names under this domain are reserved and lead nowhere: the build has no server of a maker.
-    const bool hasServer = !page.host().endsWith(QLatin1String(".example"));
     const QUrl manual = urlProvider()->manualUrl();
-    QDesktopServices::openUrl(hasServer || manual.isEmpty() ? page : manual);
+    const bool useManual = GUrlProvider::leadsNowhere(page) && !manual.isEmpty();
+    QDesktopServices::openUrl(useManual ? manual : page);
+}
+
+void GApplication::updateHelpActions()
+{
+    const QUrl url = urlProvider()->updateCheckUrl(false);
+    m_updateCheckAction->setEnabled(!GUrlProvider::leadsNowhere(url));
 }
 
 void GApplication::showDocumentation()

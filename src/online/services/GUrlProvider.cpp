@@ -131,6 +131,12 @@ QString GUrlProvider::baseUrlString() const
                                                               : BuildConfig::BaseUrl);
 }
 
+bool GUrlProvider::leadsNowhere(const QUrl &url)
+{
+    // Names under this domain are reserved and never given to anybody.
+    return url.host().endsWith(QLatin1String(".example"));
+}
+
 void GUrlProvider::setDataFormatSource(std::function<QString()> source)
 {
     dataFormatSource = std::move(source);

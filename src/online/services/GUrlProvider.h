@@ -37,6 +37,9 @@ public:
     /** The production or the staging server, without a trailing slash. */
     virtual QString baseUrlString() const;
 
+    /** Whether \a url is one of a build without a server of the maker's. */
+    static bool leadsNowhere(const QUrl &url);
+
     /** Tells the data format of the current window, from which addresses take their exporter. */
     static void setDataFormatSource(std::function<QString()> source);
     /** Tells where the program's resources lie. */

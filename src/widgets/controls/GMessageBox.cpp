@@ -60,9 +60,10 @@ GMessageBox::GMessageBox(Type type, QWidget *parent, const QString &text,
 }
 
 QMessageBox::StandardButton GMessageBox::critical(const QString &text,
-                                                  const QString &informativeText, QWidget *parent)
+                                                  const QString &informativeText, QWidget *parent,
+                                                  const QString &explanation)
 {
-    return run(Critical, text, informativeText, parent);
+    return run(Critical, text, informativeText, parent, explanation);
 }
 
 QMessageBox::StandardButton GMessageBox::warning(const QString &text,
@@ -116,11 +117,13 @@ void GMessageBox::replaceLabel(const QString &name, const QString &text)
 }
 
 QMessageBox::StandardButton GMessageBox::run(Type type, const QString &text,
-                                             const QString &informativeText, QWidget *parent)
+                                             const QString &informativeText, QWidget *parent,
+                                             const QString &explanation)
 {
     // Several clicks in a row have one answer.
     if (type != Question && isOpen(text, informativeText))
         return Ok;
     GMessageBox box(type, parent ? parent : QApplication::activeWindow(), text, informativeText);
+    box.setExplanation(explanation);
     return static_cast<StandardButton>(box.exec());
 }

@@ -35,7 +35,8 @@ public:
      * being told already is not told twice.
      */
     static StandardButton critical(const QString &text, const QString &informativeText = QString(),
-                                   QWidget *parent = nullptr);
+                                   QWidget *parent = nullptr,
+                                   const QString &explanation = QString());
     static StandardButton warning(const QString &text, const QString &informativeText = QString(),
                                   QWidget *parent = nullptr);
     static StandardButton information(const QString &text,
@@ -50,7 +51,7 @@ protected:
 private:
     void replaceLabel(const QString &name, const QString &text);
     static StandardButton run(Type type, const QString &text, const QString &informativeText,
-                              QWidget *parent);
+                              QWidget *parent, const QString &explanation = QString());
 
     QString m_explanation;
 };
