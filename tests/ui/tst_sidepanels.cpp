@@ -49,7 +49,6 @@ private slots:
     void notesOfAll();
     void recordsOutliveTheirEditors();
     void colors();
-    void longNamesDontWidenThePanel();
 
 private:
     QTemporaryDir m_dir;
@@ -358,20 +357,6 @@ void tst_sidepanels::colors()
     QCOMPARE(image.pixelColor(15, cell.center().y()), QColor(Qt::red));
     box.setFiles({file(0), file(1)});
     QCOMPARE(tree->topLevelItemCount(), 0);
-}
-
-void tst_sidepanels::longNamesDontWidenThePanel()
-{
-    PropertiesBox box(nullptr, m_project);
-    const int before = box.minimumSizeHint().width();
-    file(0)->setAbsoluteFilePath(QStringLiteral("/a/") + QString(500, QLatin1Char('W')));
-    file(0)->setName(QStringLiteral("<b>") + QString(500, QLatin1Char('M')));
-    file(0)->setTags({QString(500, QLatin1Char('T'))});
-    box.setFiles({file(0)});
-    QVERIFY(box.minimumSizeHint().width() <= before + 40);
-    box.resize(260, 600);
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
 }
 
 QTEST_MAIN(tst_sidepanels)
