@@ -1,9 +1,7 @@
 #include "PanelFixture.h"
 
 #include "catalogue/models/FilterSelectionModel.h"
-#include "catalogue/models/IFilterModel.h"
 #include "ui/CenterView.h"
-#include "ui/SheetCount.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -18,7 +16,6 @@ class tst_centerview : public QObject
 private slots:
     void takesFolders_data();
     void takesFolders();
-    void countsTheDesigns();
 };
 
 void tst_centerview::takesFolders_data()
@@ -53,21 +50,6 @@ void tst_centerview::takesFolders()
     QApplication::sendEvent(&center, &drop);
     QVERIFY(dropped.count() == 1 || dropped.wait());
     QCOMPARE(dropped.first().first().toStringList(), QStringList(folder.path()));
-}
-
-void tst_centerview::countsTheDesigns()
-{
-    const QSharedPointer<Project> project = projectOfSize(0);
-    FilterSelectionModel models(project);
-    CenterView center(nullptr, project, &models);
-    const auto *count = center.findChild<SheetCount *>();
-    QCOMPARE(count->text(), QStringLiteral("0 designs"));
-    project->setFiles(projectOfSize(2)->files());
-    QCOMPARE(count->text(), QStringLiteral("2 designs"));
-    project->files().first()->setFavorite(true);
-    models.filter()->setFavoritesOnly(true);
-    center.selectAll();
-    QCOMPARE(count->text(), QStringLiteral("1 of 2 designs \u00b7 1 selected"));
 }
 
 QTEST_MAIN(tst_centerview)

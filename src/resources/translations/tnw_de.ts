@@ -388,6 +388,40 @@ Erstellt am %2</translation>
     </message>
 </context>
 <context>
+    <name>MessageText</name>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkTrouble</name>
+    <message>
+        <source>The answer cannot be used. In some networks a page to sign in on answers in the place of the server.</source>
+        <translation>Die Antwort ist nicht brauchbar. In manchen Netzen antwortet an der Stelle des Servers eine Seite zum Anmelden.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Please check that the computer is connected to the internet.</source>
+        <translation>Der Server wurde nicht gefunden. Bitte prüfen Sie, ob der Computer mit dem Internet verbunden ist.</translation>
+    </message>
+    <message>
+        <source>The server does not answer. Please try again later.</source>
+        <translation>Der Server antwortet nicht. Bitte versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The connection to the server is not secure. Please check the date of the computer.</source>
+        <translation>Die Verbindung zum Server ist nicht sicher. Bitte prüfen Sie das Datum des Computers.</translation>
+    </message>
+    <message>
+        <source>The server reports an error. Please try again later.</source>
+        <translation>Der Server meldet einen Fehler. Bitte versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The address has moved:</source>
+        <translation>Die Adresse ist umgezogen:</translation>
+    </message>
+</context>
+<context>
     <name>PropertyDescription</name>
     <message>
         <source>property &apos;%1&apos; already exists in preset &apos;%2&apos;</source>
@@ -522,6 +556,21 @@ Erstellt am %2</translation>
     </message>
 </context>
 <context>
+    <name>UrlOpener</name>
+    <message>
+        <source>There is no program that opens this file or folder.</source>
+        <translation>Es gibt kein Programm, das diese Datei oder diesen Ordner öffnet.</translation>
+    </message>
+    <message>
+        <source>There is no program for mail.</source>
+        <translation>Es gibt kein Programm für E-Mails.</translation>
+    </message>
+    <message>
+        <source>There is no web browser that opens this address.</source>
+        <translation>Es gibt keinen Browser, der diese Adresse öffnet.</translation>
+    </message>
+</context>
+<context>
     <name>WindowsUpdater</name>
     <message>
         <source>Update check failed</source>
@@ -558,6 +607,14 @@ Erstellt am %2</translation>
     <message>
         <source>Password:</source>
         <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>This copy cannot look for updates</source>
+        <translation>Diese Ausgabe kann nicht nach Aktualisierungen suchen</translation>
+    </message>
+    <message>
+        <source>It was made without an address to ask. New versions come from where you got this one.</source>
+        <translation>Sie wurde ohne Adresse für die Suche erstellt. Neue Versionen gibt es dort, woher Sie diese haben.</translation>
     </message>
 </context>
 </TS>

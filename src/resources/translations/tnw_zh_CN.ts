@@ -388,6 +388,40 @@ Built on %2</source>
     </message>
 </context>
 <context>
+    <name>MessageText</name>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkTrouble</name>
+    <message>
+        <source>The answer cannot be used. In some networks a page to sign in on answers in the place of the server.</source>
+        <translation>无法使用该应答。在某些网络中，应答的不是服务器，而是登录页面。</translation>
+    </message>
+    <message>
+        <source>The server was not found. Please check that the computer is connected to the internet.</source>
+        <translation>找不到服务器。请检查计算机是否已连接到互联网。</translation>
+    </message>
+    <message>
+        <source>The server does not answer. Please try again later.</source>
+        <translation>服务器没有应答。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The connection to the server is not secure. Please check the date of the computer.</source>
+        <translation>与服务器的连接不安全。请检查计算机的日期。</translation>
+    </message>
+    <message>
+        <source>The server reports an error. Please try again later.</source>
+        <translation>服务器报告了错误。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The address has moved:</source>
+        <translation>地址已更改：</translation>
+    </message>
+</context>
+<context>
     <name>PropertyDescription</name>
     <message>
         <source>property &apos;%1&apos; already exists in preset &apos;%2&apos;</source>
@@ -522,6 +556,21 @@ Built on %2</source>
     </message>
 </context>
 <context>
+    <name>UrlOpener</name>
+    <message>
+        <source>There is no program that opens this file or folder.</source>
+        <translation>没有可以打开此文件或文件夹的程序。</translation>
+    </message>
+    <message>
+        <source>There is no program for mail.</source>
+        <translation>没有电子邮件程序。</translation>
+    </message>
+    <message>
+        <source>There is no web browser that opens this address.</source>
+        <translation>没有可以打开此地址的浏览器。</translation>
+    </message>
+</context>
+<context>
     <name>WindowsUpdater</name>
     <message>
         <source>Update check failed</source>
@@ -558,6 +607,14 @@ Built on %2</source>
     <message>
         <source>Password:</source>
         <translation>密码：</translation>
+    </message>
+    <message>
+        <source>This copy cannot look for updates</source>
+        <translation>此版本无法检查更新</translation>
+    </message>
+    <message>
+        <source>It was made without an address to ask. New versions come from where you got this one.</source>
+        <translation>它在构建时没有设置更新地址。请从获取此版本的地方获取新版本。</translation>
     </message>
 </context>
 </TS>
