@@ -83,9 +83,12 @@ void ColorsBox::fitColumns()
 {
     m_tree->resizeColumnToContents(NameColumn);
     m_tree->resizeColumnToContents(ChartColumn);
-    // A long name makes room for the chart.
+    // A long name makes room for the chart, whose column takes what is left.
+    const QAbstractItemView *view = m_tree;
+    const int chart =
+        qMax(view->sizeHintForColumn(ChartColumn), m_tree->header()->sectionSizeHint(ChartColumn));
     const int room = m_tree->viewport()->width() - ColorColumnWidth;
-    const int name = qMax(room - m_tree->columnWidth(ChartColumn), LeastNameWidth);
+    const int name = qMax(room - chart, LeastNameWidth);
     if (m_tree->columnWidth(NameColumn) > name)
         m_tree->setColumnWidth(NameColumn, name);
 }
