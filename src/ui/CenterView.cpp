@@ -38,6 +38,8 @@ CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
     connect(m_dropHelper, &DragDropHelper::dragActiveChanged, frame, &DropFrame::setVisible);
 }
 
+CenterView::~CenterView() = default;
+
 void CenterView::dragEnterEvent(QDragEnterEvent *event)
 {
     m_dropHelper->dragEnterEvent(event);
@@ -57,8 +59,6 @@ void CenterView::dropEvent(QDropEvent *event)
 {
     m_dropHelper->dropEvent(event);
 }
-
-CenterView::~CenterView() = default;
 
 void CenterView::setScanning(bool scanning)
 {

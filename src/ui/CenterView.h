@@ -15,8 +15,7 @@ class PreviewBrowser;
 class Project;
 
 /**
- * The grid of designs between the strip that narrows it and the line that counts them. Takes
- * folders that are dropped on it.
+ * The grid of designs below the strip that narrows it. Takes folders that are dropped on it.
  */
 class CenterView : public QWidget
 {

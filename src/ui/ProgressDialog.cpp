@@ -82,24 +82,30 @@ void ProgressDialog::proceed(const QString &text)
     if (!text.isNull())
         m_label->setText(text);
     m_progressBar->setValue(qMin(m_progressBar->value() + 1, m_progressBar->maximum()));
-    if (isWaiting() && m_begun.hasExpired(Patience)) {
-        m_begun.invalidate();
-        QDialog::show();
-    }
-    pumpEvents();
-}
-
-void ProgressDialog::stayResponsive()
-{
-    QCoreApplication::processEvents();
-}
-
-void ProgressDialog::pumpEvents()
-{
+    showWhenDue();
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     if (qAbs(now - m_lastEventProcessing) <= PumpInterval)
         return;
     m_lastEventProcessing = now;
+    deliverEvents();
+}
+
+void ProgressDialog::stayResponsive()
+{
+    showWhenDue();
+    deliverEvents();
+}
+
+void ProgressDialog::showWhenDue()
+{
+    if (isWaiting() && m_begun.hasExpired(Patience)) {
+        m_begun.invalidate();
+        QDialog::show();
+    }
+}
+
+void ProgressDialog::deliverEvents()
+{
     // Nothing bars the way to the window below as long as there is no dialog.
     QCoreApplication::processEvents(isWaiting() ? QEventLoop::ExcludeUserInputEvents
                                                 : QEventLoop::AllEvents);

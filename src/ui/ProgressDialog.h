@@ -62,7 +62,8 @@ signals:
 
 private:
     bool isWaiting() const { return m_begun.isValid(); }
-    void pumpEvents();
+    void showWhenDue();
+    void deliverEvents();
 
     QLabel *m_label;
     QProgressBar *m_progressBar;

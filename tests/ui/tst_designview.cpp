@@ -2,7 +2,7 @@
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
 #include "ui/design/DesignLoader.h"
-#include "ui/design/DesignPainter.h"
+#include "ui/design/ScenePainter.h"
 #include "ui/design/DesignViewport.h"
 #include "ui/design/Playback.h"
 #include "ui/design/ScreenScale.h"
@@ -49,11 +49,11 @@ DesignScene scene(const QSharedPointer<const SewingOrder> &order, int endPoint, 
 }
 
 /** What a painter makes of a scene; null where it passes it over. */
-QImage painted(DesignPainter &painter, const DesignScene &scene)
+QImage painted(ScenePainter &painter, const DesignScene &scene)
 {
     QImage image;
     const auto connection =
-        QObject::connect(&painter, &DesignPainter::painted, &painter,
+        QObject::connect(&painter, &ScenePainter::painted, &painter,
                          [&image](const DesignPicture &picture) { image = picture.image; });
     painter.paint(scene, painter.nextNumber());
     QObject::disconnect(connection);
@@ -248,12 +248,12 @@ void tst_DesignView::stepsByPoints()
 void tst_DesignView::playedPictureIsAsDrawnAnew()
 {
     const auto order = squareOrder();
-    DesignPainter player;
+    ScenePainter player;
     // Forwards only what is new is drawn; back, and at another scale, everything.
     const QVector<QPair<int, double>> way{{2, 3.0}, {4, 3.0}, {8, 3.0}, {8, 2.0}, {3, 2.0}};
     QImage first;
     for (const auto &step : way) {
-        DesignPainter anew;
+        ScenePainter anew;
         const DesignScene wanted = scene(order, step.first, step.second);
         const QImage image = painted(player, wanted);
         QCOMPARE(image, painted(anew, wanted));
@@ -261,15 +261,15 @@ void tst_DesignView::playedPictureIsAsDrawnAnew()
             first = image;
     }
     // The picture that was handed out is nobody's canvas any more.
-    DesignPainter anew;
+    ScenePainter anew;
     QCOMPARE(first, painted(anew, scene(order, 2)));
 }
 
 void tst_DesignView::passesOldScenesOver()
 {
     const auto order = squareOrder();
-    DesignPainter painter;
-    QSignalSpy pictures(&painter, &DesignPainter::painted);
+    ScenePainter painter;
+    QSignalSpy pictures(&painter, &ScenePainter::painted);
     const int old = painter.nextNumber();
     painter.nextNumber();
     painter.paint(scene(order, 2), old);
@@ -278,7 +278,7 @@ void tst_DesignView::passesOldScenesOver()
     QVERIFY(painted(painter, scene(order, 2)).isNull());
     DesignScene tooLarge = scene(order, 2);
     tooLarge.size = QSize(1 << 20, 1 << 20);
-    DesignPainter other;
+    ScenePainter other;
     QVERIFY(painted(other, tooLarge).isNull());
     QVERIFY(!painted(other, scene(order, 2)).isNull());
 }

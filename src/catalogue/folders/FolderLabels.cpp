@@ -8,7 +8,8 @@ namespace {
 
 QString nameOf(const QString &folder)
 {
-    return folder.section(QLatin1Char('/'), -1);
+    const QString name = folder.section(QLatin1Char('/'), -1);
+    return name.isEmpty() ? folder : name;
 }
 
 /** The @p count folders above @p folder, or as many as there are. */

@@ -98,30 +98,15 @@ bool GridGraphicsView::isOnStar(const QPoint &pos) const
     return item != nullptr && item->parentItem() != nullptr;
 }
 
-void GridGraphicsView::mouseMoveEvent(QMouseEvent *event)
-{
-    EditorGraphicsView::mouseMoveEvent(event);
-    m_dragPos = event->pos();
-    if (!rubberBandRect().isNull()) {
-        m_edgeScroller->dragTo(m_dragPos);
-    }
-}
-
 void GridGraphicsView::continueRubberBand()
 {
     if (rubberBandRect().isNull()) {
         m_edgeScroller->stop();
         return;
     }
-    QMouseEvent move(QEvent::MouseMove, m_dragPos, viewport()->mapToGlobal(m_dragPos), Qt::NoButton,
+    QMouseEvent move(QEvent::MouseMove, m_pointer, viewport()->mapToGlobal(m_pointer), Qt::NoButton,
                      Qt::LeftButton, QGuiApplication::keyboardModifiers());
     EditorGraphicsView::mouseMoveEvent(&move);
-}
-
-void GridGraphicsView::mouseReleaseEvent(QMouseEvent *event)
-{
-    m_edgeScroller->stop();
-    EditorGraphicsView::mouseReleaseEvent(event);
 }
 
 void GridGraphicsView::keyPressEvent(QKeyEvent *event)
@@ -286,14 +271,19 @@ void GridGraphicsView::mouseMoveEvent(QMouseEvent *event)
     if (m_drag.isDue(event)) {
         m_drag.forget();
         dragDesigns();
-    } else {
-        EditorGraphicsView::mouseMoveEvent(event);
+        return;
+    }
+    EditorGraphicsView::mouseMoveEvent(event);
+    m_pointer = event->pos();
+    if (!rubberBandRect().isNull()) {
+        m_edgeScroller->dragTo(m_pointer);
     }
 }
 
 void GridGraphicsView::mouseReleaseEvent(QMouseEvent *event)
 {
     m_drag.forget();
+    m_edgeScroller->stop();
     EditorGraphicsView::mouseReleaseEvent(event);
 }
 

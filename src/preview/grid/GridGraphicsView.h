@@ -66,7 +66,7 @@ private:
 
     GridPreviewScene *m_gridScene = nullptr;
     EdgeScroller *m_edgeScroller;
-    QPoint m_dragPos;
+    QPoint m_pointer; ///< in pixels of the viewport, as of the last move
     // Rather than by the mouse, as of the last press.
     bool m_usedByKeys = false;
     DesignDrag m_drag;

@@ -50,7 +50,6 @@ public slots:
      * another one; the selection of several stays as it is.
      */
     void showDesign(const QSharedPointer<IFile> &file);
-
     /** Another folder is shown from its top. */
     void directoryChanged();
     /** Marks the selected designs as favourites; takes the mark off when all of them have it. */

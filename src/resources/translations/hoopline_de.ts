@@ -1647,30 +1647,6 @@ Optionen:
     </message>
 </context>
 <context>
-    <name>SheetCount</name>
-    <message numerus="yes">
-        <source>%Ln selected</source>
-        <translation>
-            <numerusform>%Ln ausgewählt</numerusform>
-            <numerusform>%Ln ausgewählt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln designs</source>
-        <translation>
-            <numerusform>%Ln Stickmuster</numerusform>
-            <numerusform>%Ln Stickmuster</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %Ln designs</source>
-        <translation>
-            <numerusform>%1 von %Ln Stickmuster</numerusform>
-            <numerusform>%1 von %Ln Stickmustern</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>

@@ -145,30 +145,6 @@
     </message>
 </context>
 <context>
-    <name>SheetCount</name>
-    <message numerus="yes">
-        <source>%Ln selected</source>
-        <translation>
-            <numerusform>%Ln selected</numerusform>
-            <numerusform>%Ln selected</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln designs</source>
-        <translation>
-            <numerusform>%Ln design</numerusform>
-            <numerusform>%Ln designs</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %Ln designs</source>
-        <translation>
-            <numerusform>%1 of %Ln design</numerusform>
-            <numerusform>%1 of %Ln designs</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>SmartFolderCheck</name>
     <message numerus="yes">
         <source>holds none of its %n design(s) any more</source>

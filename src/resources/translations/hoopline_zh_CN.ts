@@ -1630,27 +1630,6 @@ Options:
     </message>
 </context>
 <context>
-    <name>SheetCount</name>
-    <message numerus="yes">
-        <source>%Ln selected</source>
-        <translation>
-            <numerusform>已选择 %Ln 个</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln designs</source>
-        <translation>
-            <numerusform>%Ln 个花样</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %Ln designs</source>
-        <translation>
-            <numerusform>%1 / %Ln 个花样</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>

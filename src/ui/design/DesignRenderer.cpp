@@ -1,14 +1,14 @@
 #include "ui/design/DesignRenderer.h"
 
-#include "ui/design/DesignPainter.h"
+#include "ui/design/ScenePainter.h"
 
-DesignRenderer::DesignRenderer(QObject *parent) : QObject(parent), m_painter(new DesignPainter)
+DesignRenderer::DesignRenderer(QObject *parent) : QObject(parent), m_painter(new ScenePainter)
 {
     qRegisterMetaType<DesignScene>();
     qRegisterMetaType<DesignPicture>();
     m_painter->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_painter, &QObject::deleteLater);
-    connect(m_painter, &DesignPainter::painted, this, &DesignRenderer::rendered);
+    connect(m_painter, &ScenePainter::painted, this, &DesignRenderer::rendered);
     m_thread.start(QThread::LowPriority);
 }
 

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QThread>
 
-class DesignPainter;
+class ScenePainter;
 
 /**
  * Draws designs in a thread of its own. Only the latest scene that was asked for is
@@ -29,5 +29,5 @@ signals:
 
 private:
     QThread m_thread;
-    DesignPainter *m_painter;
+    ScenePainter *m_painter;
 };

@@ -6,10 +6,10 @@
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/records/Project.h"
 #include "embroidery/EmbroideryIO.h"
+#include "embroidery/HoopSizes.h"
 #include "ui/panels/SearchCompleter.h"
 #include "ui/panels/SearchHelpMenu.h"
 #include "ui/panels/SearchMessage.h"
-#include "embroidery/HoopSizes.h"
 #include "ui_FilterBarUI.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
@@ -31,12 +31,11 @@ std::optional<double> number(const QString &text)
 {
     bool ok = false;
     double value = text.toDouble(&ok);
-    const QLocale language(GTranslationLoader::instance()->languageCode());
-    for (QLocale locale : {language, QLocale::system()}) {
+    if (!ok) {
+        QLocale locale = GTranslationLoader::instance()->locale();
         // A comma between thousands would be taken for one before a fraction.
         locale.setNumberOptions(QLocale::RejectGroupSeparator);
-        if (!ok)
-            value = locale.toDouble(text, &ok);
+        value = locale.toDouble(text, &ok);
     }
     return ok ? std::optional(value) : std::nullopt;
 }

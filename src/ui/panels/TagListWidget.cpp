@@ -2,7 +2,6 @@
 
 #include "ui/panels/ElidingDelegate.h"
 #include "widgets/controls/ElisionToolTip.h"
-#include "widgets/style/WidgetHelper.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

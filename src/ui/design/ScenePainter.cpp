@@ -1,13 +1,13 @@
-#include "ui/design/DesignPainter.h"
+#include "ui/design/ScenePainter.h"
 
-void DesignPainter::paint(const DesignScene &scene, int number)
+void ScenePainter::paint(const DesignScene &scene, int number)
 {
     if (number != m_latest || m_cancelled || !draw(scene))
         return;
     emit painted(m_last);
 }
 
-bool DesignPainter::draw(const DesignScene &scene)
+bool ScenePainter::draw(const DesignScene &scene)
 {
     const bool goesOn = !m_last.image.isNull() && m_last.scene.hasSameView(scene) &&
                         m_last.scene.endPoint <= scene.endPoint;

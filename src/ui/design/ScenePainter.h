@@ -6,7 +6,7 @@
 #include <QObject>
 
 /** What DesignRenderer has in its thread: draws scenes, one after the other. */
-class DesignPainter : public QObject
+class ScenePainter : public QObject
 {
     Q_OBJECT
 
