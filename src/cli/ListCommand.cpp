@@ -49,10 +49,9 @@ void expectRightQuery(const QString &query)
         Console::reportError(remark->message);
         return;
     }
-    throw UsageError(
-        ListCommand::tr("The search is wrong at character %1, '%2': %3")
-            .arg(QString::number(remark->position + 1),
-                 query.mid(remark->position, remark->length), remark->message));
+    throw UsageError(ListCommand::tr("The search is wrong at character %1, '%2': %3")
+                         .arg(QString::number(remark->position + 1),
+                              query.mid(remark->position, remark->length), remark->message));
 }
 
 /** @throws UsageError when there is no such order */

@@ -2,9 +2,9 @@
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
 #include "ui/design/DesignLoader.h"
-#include "ui/design/ScenePainter.h"
 #include "ui/design/DesignViewport.h"
 #include "ui/design/Playback.h"
+#include "ui/design/ScenePainter.h"
 #include "ui/design/ScreenScale.h"
 
 #include <QtTest>
