@@ -24,7 +24,7 @@ QString GlobalSettings::applicationDataPath()
     const QVariant stored = value(ApplicationDataPath);
     if (stored.isValid())
         return stored.toString();
-    const QString path = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QString path = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     setApplicationDataPath(path);
     return path;
 }

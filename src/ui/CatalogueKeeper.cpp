@@ -65,7 +65,7 @@ QString CatalogueKeeper::trySave()
         return {};
     QElapsedTimer timer;
     timer.start();
-    const QString reason = failureOf([this] { m_controller->saveProjectIfModified(); });
+    QString reason = failureOf([this] { m_controller->saveProjectIfModified(); });
     if (reason.isNull())
         withdrawWhatIsRight();
     else

@@ -70,7 +70,7 @@ QString FolderChangeNotice::text(const QStringList &folders) const
     if (folders.size() > MostNames)
         return tr("%n folders have changed.", nullptr, folders.size());
     const QString separator = tr(", ", "between the names of folders");
-    const QString last = names.last();
+    const QString &last = names.last();
     return tr("The folders %1 and %2 have changed.")
         .arg(names.mid(0, names.size() - 1).join(separator), last);
 }

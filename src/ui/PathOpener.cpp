@@ -104,7 +104,7 @@ PathOpener::Request PathOpener::sort(const QStringList &paths) const
 /** @p given as the catalogue would have it: below the smart folder that leads there. */
 QString PathOpener::asCatalogued(const QString &given) const
 {
-    const QString path = QDir::cleanPath(given).normalized(QString::NormalizationForm_C);
+    QString path = QDir::cleanPath(given).normalized(QString::NormalizationForm_C);
     if (isSearched(path))
         return path;
     const QString real = QFileInfo(given).canonicalFilePath();

@@ -26,7 +26,7 @@ void SortMenu::addKeys()
     const SortOrder::Key chosen = m_filter->sortOrder().key;
     const auto add = [&](SortOrder::Key key, const QString &text, Qt::Key digit) {
         QAction *action = addChoice(m_keys, text, key);
-        action->setShortcut(QKeySequence(Qt::CTRL | digit));
+        action->setShortcut(QKeySequence(int(Qt::CTRL) | int(digit)));
         action->setChecked(key == chosen);
     };
     add(SortOrder::Name, tr("&Name"), Qt::Key_1);

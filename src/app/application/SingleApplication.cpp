@@ -36,7 +36,7 @@ QStringList &pathsToOpen()
 
 QString lockFilePath()
 {
-    const QString path = GlobalSettings().lockFilePath();
+    QString path = GlobalSettings().lockFilePath();
     const QString folder = QFileInfo(path).path();
     // A folder elsewhere that is missing may lie on a drive that will come back.
     if (folder == QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
@@ -222,7 +222,7 @@ QString SingleApplication::primaryUser() const
 {
     m_private->lockBlock();
     const InstanceBlock *block = m_private->block();
-    const QString user =
+    QString user =
         block ? QString::fromUtf8(block->primaryUser,
                                   int(qstrnlen(block->primaryUser, sizeof(block->primaryUser))))
               : currentUser();

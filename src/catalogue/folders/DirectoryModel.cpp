@@ -21,7 +21,7 @@ static QStringList takeInside(const QString &folder, QStringList &paths)
         return path != folder && !path.startsWith(inside);
     };
     const auto firstInside = std::stable_partition(paths.begin(), paths.end(), isOutside);
-    const QStringList taken(firstInside, paths.end());
+    QStringList taken(firstInside, paths.end());
     paths.erase(firstInside, paths.end());
     return taken;
 }

@@ -4,6 +4,12 @@
 #include <QColor>
 #include <QPointF>
 
+/** The nearest whole number; @p value is not negative. A call of lround would cost more. */
+inline int roundedPositive(float value)
+{
+    return int(value + 0.5f); // NOLINT(bugprone-incorrect-roundings)
+}
+
 /**
  * The colour along a line: even from one end to the other, beyond the ends that of the
  * end. The place of a pixel along the line is linear in its row and column, so a pixel
@@ -32,7 +38,7 @@ public:
         QRgb at(int x) const
         {
             const float place = m_first + float(x) * m_ramp.m_perColumn;
-            const int step = int(std::min(std::max(place, 0.0f), float(Steps)) + 0.5f);
+            const int step = roundedPositive(std::min(std::max(place, 0.0f), float(Steps)));
             return joined((m_ramp.m_start + quint64(step) * m_ramp.m_difference) >> 8 & Lanes);
         }
 

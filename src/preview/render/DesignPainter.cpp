@@ -19,7 +19,7 @@ constexpr int StitchesBetweenChecks = 1024;
 constexpr qint64 OrdinaryPerPixel = 600;
 constexpr qint64 ExtraordinaryPerPixel = 1600;
 /** Of a small picture the stitches themselves cost more than the pixels. */
-constexpr qint64 FewestPixels = 400 * 400;
+constexpr qint64 FewestPixels = qint64(400) * 400;
 
 bool isFinite(const QPointF &point)
 {

@@ -10,9 +10,8 @@ namespace {
 constexpr int BytesPerPixel = 4;
 constexpr char SubFilter = 1;
 constexpr int FastestCompression = 1;
-/** Of a chunk, around its data: the length and the type; the checksum. */
+/** Of a chunk, ahead of its data: the length and the type. */
 constexpr int ChunkHead = 8;
-constexpr int ChunkTail = 4;
 
 struct CompressorDeleter
 {
@@ -34,7 +33,7 @@ void finishChunk(QByteArray &bytes, int start)
     const int dataSize = bytes.size() - start - ChunkHead;
     qToBigEndian(quint32(dataSize), bytes.data() + start);
     const char *type = bytes.constData() + start + ChunkHead / 2;
-    appendNumber(bytes, libdeflate_crc32(0, type, std::size_t(dataSize + ChunkHead / 2)));
+    appendNumber(bytes, libdeflate_crc32(0, type, std::size_t(dataSize) + ChunkHead / 2));
 }
 
 int beginChunk(QByteArray &bytes, const char *type)

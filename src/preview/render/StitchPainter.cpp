@@ -211,8 +211,8 @@ void StitchPainter::traceBand(Line line, Put put) const
             const float hRight = y - right * dy;
             const float from = ax + left * dx - std::sqrt(std::max(r * r - hLeft * hLeft, 0.0f));
             const float to = ax + right * dx + std::sqrt(std::max(r * r - hRight * hRight, 0.0f));
-            begins[i] = int(std::min(std::max(from, 0.0f), width) + 0.5f);
-            ends[i] = int(std::min(std::max(to, 0.0f), width) + 0.5f);
+            begins[i] = roundedPositive(std::min(std::max(from, 0.0f), width));
+            ends[i] = roundedPositive(std::min(std::max(to, 0.0f), width));
         }
         for (int i = 0; i < count; ++i)
             put(row + i, begins[i], ends[i]);

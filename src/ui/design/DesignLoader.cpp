@@ -26,7 +26,7 @@ DesignLoader::~DesignLoader()
     m_thread->quit();
     // A thread must not be destroyed while it runs: this one ends with the process.
     if (!m_thread->wait(PatienceMilliseconds))
-        m_thread.release();
+        static_cast<void>(m_thread.release());
 }
 
 void DesignLoader::load(const QString &path)
