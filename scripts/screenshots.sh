@@ -3,7 +3,7 @@
 # Drives the program under a virtual display over samples/ and saves a picture of
 # every window and state there. The README's and the manual's pictures come from
 # here. Profiles are throw-away; nothing of whoever runs this is touched.
-# The sections, all when none is named: main transfer light dark de zh-CN scales progress crash.
+# The sections, all when none is named: main transfer duplicates light dark de zh-CN scales progress crash.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
@@ -519,6 +519,28 @@ dark_shots() {
     use_light
 }
 
+# duplicates_shots SUFFIX ARGUMENT...: designs that are there more than once.
+duplicates_shots() {
+    local again=$work/Again
+    use_profile "duplicates$1"
+    ${colours:-true}
+    mkdir -p "$again/Old stick"
+    cp "$root"/samples/Flowers/{rose,tulip,fern}.dst "$root"/samples/Flowers/rose.jef \
+        "$work"/Designs/Animals/* "$again/Old stick/"
+    "$bin/hoopline-cli" scan "$work/Designs" "$again" >/dev/null
+    start "${@:2}"
+    resize 1280 820
+    key ctrl+shift+d
+    sleep 1.5
+    shot_top "duplicates-content$1"
+    key End
+    shot_top "duplicates$1"
+    key Tab Tab space
+    shot_over "duplicates-question$1"
+    key Escape Escape
+    stop
+}
+
 # wants SECTION: whether it was asked for.
 wants() { [ -z "$sections" ] || [[ " $sections " == *" $1 "* ]]; }
 
@@ -528,6 +550,7 @@ use_light
 
 ! wants main || main_window_shots
 ! wants transfer || transfer_shots
+! wants duplicates || duplicates_shots ""
 ! wants light || window_shots ""
 ! wants dark || dark_shots
 for language in de zh-CN; do

@@ -19,6 +19,7 @@
 #include "ui/CatalogueKeeper.h"
 #include "ui/CatalogueQuestions.h"
 #include "ui/CenterView.h"
+#include "ui/duplicates/DuplicatesDialog.h"
 #include "ui/ExportDialog.h"
 #include "ui/FolderChangeNotice.h"
 #include "ui/LeftSidebar.h"
@@ -377,6 +378,12 @@ void MainWindow::exportSelectedFiles()
     ExportDialog dialog(this, files);
     if (dialog.exec() == QDialog::Accepted)
         m_transferNotice->tell(dialog.transferResult(), dialog.drive());
+}
+
+void MainWindow::findDuplicates()
+{
+    finishEdit();
+    DuplicatesDialog(this, m_project, [this] { return m_keeper->saveAnyway(); }).exec();
 }
 
 void MainWindow::updateUI()

@@ -62,6 +62,7 @@ public slots:
     void addDirectory();
     void rescanDirectories();
     void exportSelectedFiles();
+    void findDuplicates();
 
 protected:
     void writeSettings(GSettings &settings) override;
@@ -95,6 +96,7 @@ private:
     GAction *m_openDesignAction = nullptr;
     GAction *m_selectAllAction = nullptr;
     GAction *m_saveSearchAction = nullptr;
+    GAction *m_duplicatesAction = nullptr;
     GAction *m_zoomInAction = nullptr;
     GAction *m_zoomOutAction = nullptr;
     GAction *m_transferAction = nullptr;

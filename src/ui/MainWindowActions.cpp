@@ -35,6 +35,8 @@ void MainWindow::createActions()
     m_selectAllAction = new GAction(tr("Select all"), this);
     m_selectAllAction->setShortcuts(QKeySequence::SelectAll);
     connect(m_selectAllAction, &QAction::triggered, m_center, &CenterView::selectAll);
+    m_duplicatesAction = new GAction(tr("Find &duplicates..."), this, SLOT(findDuplicates()));
+    m_duplicatesAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D));
     m_zoomInAction = new GAction(icon("zoomIn"), tr("&Zoom in"), this);
     connect(m_zoomInAction, &QAction::triggered, m_center, &CenterView::zoomIn);
     m_zoomOutAction = new GAction(icon("zoomOut"), tr("&Zoom out"), this);
@@ -74,6 +76,8 @@ void MainWindow::createEditMenu()
 {
     editMenu()->addAction(m_selectAllAction);
     editMenu()->addAction(m_saveSearchAction);
+    editMenu()->addSeparator();
+    editMenu()->addAction(m_duplicatesAction);
 }
 
 void MainWindow::createViewMenu()

@@ -194,7 +194,8 @@ void tst_mainwindow::offersItsCommands()
     QCOMPARE(menus,
              (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|&Open design|-|"
                                          "Preferences...|Quit"),
-                          QStringLiteral("Select all|Save search"), QStringLiteral("&Sort by"),
+                          QStringLiteral("Select all|Save search|-|Find &duplicates..."),
+                          QStringLiteral("&Sort by"),
                           QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
                                          "&About Hoopline Organizer")}));
     QCOMPARE(action(QStringLiteral("Quit"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
