@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/DuplicatesCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/ScanCommand.h"
@@ -15,5 +16,6 @@ Commands allCommands()
     commands.push_back(std::make_unique<ScanCommand>());
     commands.push_back(std::make_unique<InspectCommand>());
     commands.push_back(std::make_unique<ListCommand>());
+    commands.push_back(std::make_unique<DuplicatesCommand>());
     return commands;
 }
