@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>BackgroundWork</name>
+    <message>
+        <source>The system has no thread left for this.</source>
+        <translation>Das System hat dafür keinen Thread mehr frei.</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueFile</name>
     <message>
         <source>Failed to write %1: %2</source>
@@ -216,6 +223,21 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>The folder of the catalogue, &apos;%1&apos;, is not there. Is its drive plugged in?</source>
         <translation>Der Ordner des Katalogs, „%1“, ist nicht da. Ist sein Laufwerk angeschlossen?</translation>
+    </message>
+</context>
+<context>
+    <name>DesignBytes</name>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>Die Datei ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file has changed since the last scan.</source>
+        <translation>Die Datei hat sich seit dem letzten Einlesen geändert.</translation>
     </message>
 </context>
 <context>
@@ -438,6 +460,258 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Directories</source>
         <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateCardDelegate</name>
+    <message>
+        <source>no tags</source>
+        <translation>keine Schlagwörter</translation>
+    </message>
+    <message>
+        <source>is kept</source>
+        <translation>wird behalten</translation>
+    </message>
+    <message>
+        <source>to the trash</source>
+        <translation>in den Papierkorb</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateCleaner</name>
+    <message>
+        <source>The design to keep is not as it should be. %1</source>
+        <translation>Mit dem Stickmuster, das bleiben soll, stimmt etwas nicht. %1</translation>
+    </message>
+    <message>
+        <source>This is the design to keep itself, by way of a link.</source>
+        <translation>Das ist das zu behaltende Stickmuster selbst, über eine Verknüpfung.</translation>
+    </message>
+    <message>
+        <source>It cannot be moved to the trash: %1</source>
+        <translation>Sie kann nicht in den Papierkorb gelegt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateGroupsModel</name>
+    <message numerus="yes">
+        <source>%n file(s), %1</source>
+        <translation>
+            <numerusform>%n Datei, %1</numerusform>
+            <numerusform>%n Dateien, %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateTexts</name>
+    <message>
+        <source>same content</source>
+        <translation>gleicher Inhalt</translation>
+    </message>
+    <message>
+        <source>same stitches</source>
+        <translation>gleiche Stiche</translation>
+    </message>
+    <message>
+        <source>nearly the same stitches</source>
+        <translation>fast gleiche Stiche</translation>
+    </message>
+    <message>
+        <source>Certain: these files are the same, byte by byte.</source>
+        <translation>Gewiss: Diese Dateien sind Byte für Byte gleich.</translation>
+    </message>
+    <message>
+        <source>Sure: other files, but every stitch is the same, as when a design was saved in another format. The colors may differ.</source>
+        <translation>Sicher: andere Dateien, aber jeder Stich ist gleich, wie wenn ein Stickmuster in einem anderen Format gespeichert wurde. Die Farben können sich unterscheiden.</translation>
+    </message>
+    <message>
+        <source>Very likely: no stitch differs by more than 0.2 mm, as when formats round differently. The colors and their changes may differ.</source>
+        <translation>Sehr wahrscheinlich: Kein Stich weicht um mehr als 0,2 mm ab, wie wenn Formate verschieden runden. Die Farben und ihre Wechsel können sich unterscheiden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 Stich</numerusform>
+            <numerusform>%1 Stiche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n color(s)</source>
+        <translation>
+            <numerusform>%n Farbe</numerusform>
+            <numerusform>%n Farben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>favorite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Tags: %1</source>
+        <translation>Schlagwörter: %1</translation>
+    </message>
+    <message>
+        <source>Notes: %1</source>
+        <translation>Notizen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateWords</name>
+    <message>
+        <source>join duplicates</source>
+        <translation>Duplikate zusammenführen</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesCommand</name>
+    <message>
+        <source>The same content:</source>
+        <translation>Gleicher Inhalt:</translation>
+    </message>
+    <message>
+        <source>The same stitches in other files:</source>
+        <translation>Gleiche Stiche in anderen Dateien:</translation>
+    </message>
+    <message>
+        <source>Very likely the same design, stitches within 0.2 mm:</source>
+        <translation>Sehr wahrscheinlich dasselbe Stickmuster, Stiche auf 0,2 mm gleich:</translation>
+    </message>
+    <message>
+        <source>Print the designs that are there more than once.</source>
+        <translation>Mehrfach vorhandene Stickmuster ausgeben.</translation>
+    </message>
+    <message>
+        <source>Prints the designs of the catalogue that are there more than once: files of the same content, and files with the same stitches, such as a design in two formats. Changes nothing.</source>
+        <translation>Gibt die Stickmuster des Katalogs aus, die mehrfach vorhanden sind: Dateien gleichen Inhalts und Dateien mit gleichen Stichen, etwa ein Stickmuster in zwei Formaten. Ändert nichts.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object per group, a line each.</source>
+        <translation>Je Gruppe ein JSON-Objekt ausgeben, jedes in einer Zeile.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
+        <translation>
+            <numerusform>%n Stickmuster konnte nicht verglichen werden; es fehlt, ist beschädigt, leer oder hat sich seit dem letzten Einlesen geändert.</numerusform>
+            <numerusform>%n Stickmuster konnten nicht verglichen werden; sie fehlen, sind beschädigt, leer oder haben sich seit dem letzten Einlesen geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Comparing designs</source>
+        <translation>Stickmuster werden verglichen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n Gruppe</numerusform>
+            <numerusform>%n Gruppen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesDialog</name>
+    <message numerus="yes">
+        <source>… and %n more</source>
+        <translation>
+            <numerusform>… und %n weitere</numerusform>
+            <numerusform>… und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>Duplikate</translation>
+    </message>
+    <message>
+        <source>The designs could not be compared.</source>
+        <translation>Die Stickmuster konnten nicht verglichen werden.</translation>
+    </message>
+    <message>
+        <source>The catalogue has changed in the meantime.</source>
+        <translation>Der Katalog hat sich inzwischen geändert.</translation>
+    </message>
+    <message>
+        <source>Close this window and find the duplicates again.</source>
+        <translation>Bitte dieses Fenster schließen und die Duplikate erneut suchen.</translation>
+    </message>
+    <message>
+        <source>No file was moved.</source>
+        <translation>Es wurde keine Datei verschoben.</translation>
+    </message>
+    <message>
+        <source>The catalogue could not be saved, and with it what was said about these designs.</source>
+        <translation>Der Katalog konnte nicht gespeichert werden und mit ihm, was zu diesen Stickmustern vermerkt ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n file(s) to the trash?</source>
+        <translation>
+            <numerusform>%n Datei in den Papierkorb legen?</numerusform>
+            <numerusform>%n Dateien in den Papierkorb legen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kept, with the tags, the notes and the star of all:
+%1</source>
+        <translation>Behalten, mit den Schlagwörtern, den Notizen und dem Stern von allen:
+%1</translation>
+    </message>
+    <message>
+        <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan, without tags and notes.</source>
+        <translation>Dateien lassen sich aus dem Papierkorb zurückholen; der Katalog findet sie dann beim nächsten Einlesen, ohne Schlagwörter und Notizen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) stayed where they were.</source>
+        <translation>
+            <numerusform>%n Datei blieb, wo sie war.</numerusform>
+            <numerusform>%n Dateien blieben, wo sie waren.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesPage</name>
+    <message>
+        <source>&amp;Keep the chosen one, the others to the trash…</source>
+        <translation>Gewähltes &amp;behalten, die anderen in den Papierkorb…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Groups of duplicates</source>
+        <translation>Gruppen von Duplikaten</translation>
+    </message>
+    <message>
+        <source>Designs of the group; the chosen one is kept</source>
+        <translation>Stickmuster der Gruppe; das gewählte wird behalten</translation>
+    </message>
+    <message>
+        <source>Moving to the trash…</source>
+        <translation>Wird in den Papierkorb gelegt…</translation>
+    </message>
+    <message>
+        <source>There are no duplicates.</source>
+        <translation>Es gibt keine Duplikate.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n Gruppe</numerusform>
+            <numerusform>%n Gruppen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) could not be compared.</source>
+        <translation>
+            <numerusform>%n Stickmuster konnte nicht verglichen werden.</numerusform>
+            <numerusform>%n Stickmuster konnten nicht verglichen werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are missing, damaged, empty or have changed since the last scan.</source>
+        <translation>Sie fehlen, sind beschädigt, leer oder haben sich seit dem letzten Einlesen geändert.</translation>
     </message>
 </context>
 <context>
@@ -917,6 +1191,10 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Removing the folder...</source>
         <translation>Der Ordner wird entfernt …</translation>
+    </message>
+    <message>
+        <source>Find &amp;duplicates...</source>
+        <translation>&amp;Duplikate suchen...</translation>
     </message>
 </context>
 <context>
@@ -1633,6 +1911,25 @@ Optionen:
     <message>
         <source>completes fields and tags while you type</source>
         <translation>vervollständigt Felder und Schlagwörter</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Comparing the designs…</source>
+        <translation>Die Stickmuster werden verglichen…</translation>
+    </message>
+    <message>
+        <source>Comparing the designs: %1 of %2</source>
+        <translation>Die Stickmuster werden verglichen: %1 von %2</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,91 @@
     </message>
 </context>
 <context>
+    <name>DuplicateGroupsModel</name>
+    <message numerus="yes">
+        <source>%n file(s), %1</source>
+        <translation>
+            <numerusform>%n file, %1</numerusform>
+            <numerusform>%n files, %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateTexts</name>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 stitch</numerusform>
+            <numerusform>%1 stitches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n color(s)</source>
+        <translation>
+            <numerusform>%n color</numerusform>
+            <numerusform>%n colors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesCommand</name>
+    <message numerus="yes">
+        <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
+        <translation>
+            <numerusform>%n design could not be compared; it is missing, damaged, empty or has changed since the last scan.</numerusform>
+            <numerusform>%n designs could not be compared; they are missing, damaged, empty or have changed since the last scan.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n group</numerusform>
+            <numerusform>%n groups</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesDialog</name>
+    <message numerus="yes">
+        <source>… and %n more</source>
+        <translation>
+            <numerusform>… and %n more</numerusform>
+            <numerusform>… and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n file(s) to the trash?</source>
+        <translation>
+            <numerusform>Move %n file to the trash?</numerusform>
+            <numerusform>Move %n files to the trash?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) stayed where they were.</source>
+        <translation>
+            <numerusform>%n file stayed where it was.</numerusform>
+            <numerusform>%n files stayed where they were.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesPage</name>
+    <message numerus="yes">
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n group</numerusform>
+            <numerusform>%n groups</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) could not be compared.</source>
+        <translation>
+            <numerusform>%n design could not be compared.</numerusform>
+            <numerusform>%n designs could not be compared.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>

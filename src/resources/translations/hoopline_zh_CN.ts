@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>BackgroundWork</name>
+    <message>
+        <source>The system has no thread left for this.</source>
+        <translation>系统已没有可用的线程来执行此操作。</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueFile</name>
     <message>
         <source>Failed to write %1: %2</source>
@@ -214,6 +221,21 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>The folder of the catalogue, &apos;%1&apos;, is not there. Is its drive plugged in?</source>
         <translation>目录所在的文件夹“%1”不存在。它所在的驱动器是否已连接？</translation>
+    </message>
+</context>
+<context>
+    <name>DesignBytes</name>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>文件已不存在。</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>这不是文件。</translation>
+    </message>
+    <message>
+        <source>The file has changed since the last scan.</source>
+        <translation>文件自上次扫描后已更改。</translation>
     </message>
 </context>
 <context>
@@ -436,6 +458,248 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Directories</source>
         <translation>文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateCardDelegate</name>
+    <message>
+        <source>no tags</source>
+        <translation>无标签</translation>
+    </message>
+    <message>
+        <source>is kept</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>to the trash</source>
+        <translation>移到回收站</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateCleaner</name>
+    <message>
+        <source>The design to keep is not as it should be. %1</source>
+        <translation>要保留的花样有问题。%1</translation>
+    </message>
+    <message>
+        <source>This is the design to keep itself, by way of a link.</source>
+        <translation>这是通过链接指向的、要保留的花样本身。</translation>
+    </message>
+    <message>
+        <source>It cannot be moved to the trash: %1</source>
+        <translation>无法移到回收站：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateGroupsModel</name>
+    <message numerus="yes">
+        <source>%n file(s), %1</source>
+        <translation>
+            <numerusform>%n 个文件，%1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateTexts</name>
+    <message>
+        <source>same content</source>
+        <translation>内容相同</translation>
+    </message>
+    <message>
+        <source>same stitches</source>
+        <translation>针迹相同</translation>
+    </message>
+    <message>
+        <source>nearly the same stitches</source>
+        <translation>针迹几乎相同</translation>
+    </message>
+    <message>
+        <source>Certain: these files are the same, byte by byte.</source>
+        <translation>确定：这些文件逐字节相同。</translation>
+    </message>
+    <message>
+        <source>Sure: other files, but every stitch is the same, as when a design was saved in another format. The colors may differ.</source>
+        <translation>肯定：文件不同，但每一针都相同，例如同一花样另存为其他格式。颜色可能不同。</translation>
+    </message>
+    <message>
+        <source>Very likely: no stitch differs by more than 0.2 mm, as when formats round differently. The colors and their changes may differ.</source>
+        <translation>很可能：每一针相差不超过 0.2 毫米，例如各格式取整方式不同。颜色和换色可能不同。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 针</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n color(s)</source>
+        <translation>
+            <numerusform>%n 种颜色</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>favorite</source>
+        <translation>已收藏</translation>
+    </message>
+    <message>
+        <source>Tags: %1</source>
+        <translation>标签：%1</translation>
+    </message>
+    <message>
+        <source>Notes: %1</source>
+        <translation>备注：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicateWords</name>
+    <message>
+        <source>join duplicates</source>
+        <translation>合并重复花样</translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesCommand</name>
+    <message>
+        <source>The same content:</source>
+        <translation>内容相同：</translation>
+    </message>
+    <message>
+        <source>The same stitches in other files:</source>
+        <translation>不同文件中针迹相同：</translation>
+    </message>
+    <message>
+        <source>Very likely the same design, stitches within 0.2 mm:</source>
+        <translation>很可能是同一花样，针迹相差不超过 0.2 毫米：</translation>
+    </message>
+    <message>
+        <source>Print the designs that are there more than once.</source>
+        <translation>输出重复的花样。</translation>
+    </message>
+    <message>
+        <source>Prints the designs of the catalogue that are there more than once: files of the same content, and files with the same stitches, such as a design in two formats. Changes nothing.</source>
+        <translation>输出目录中重复的花样：内容相同的文件，以及针迹相同的文件（例如同一花样的两种格式）。不作任何更改。</translation>
+    </message>
+    <message>
+        <source>Print one JSON object per group, a line each.</source>
+        <translation>每组输出一个 JSON 对象，各占一行。</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
+        <translation>
+            <numerusform>%n 个花样无法比较：文件缺失、损坏、为空或自上次扫描后已更改。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Comparing designs</source>
+        <translation>正在比较花样</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n 组</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesDialog</name>
+    <message numerus="yes">
+        <source>… and %n more</source>
+        <translation>
+            <numerusform>……以及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>重复花样</translation>
+    </message>
+    <message>
+        <source>The designs could not be compared.</source>
+        <translation>无法比较花样。</translation>
+    </message>
+    <message>
+        <source>The catalogue has changed in the meantime.</source>
+        <translation>目录在此期间已更改。</translation>
+    </message>
+    <message>
+        <source>Close this window and find the duplicates again.</source>
+        <translation>请关闭此窗口，然后重新查找重复花样。</translation>
+    </message>
+    <message>
+        <source>No file was moved.</source>
+        <translation>未移动任何文件。</translation>
+    </message>
+    <message>
+        <source>The catalogue could not be saved, and with it what was said about these designs.</source>
+        <translation>无法保存目录，因此这些花样的标签和备注也无法保存。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n file(s) to the trash?</source>
+        <translation>
+            <numerusform>将 %n 个文件移到回收站？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kept, with the tags, the notes and the star of all:
+%1</source>
+        <translation>保留以下文件，并合并全部的标签、备注和星标：
+%1</translation>
+    </message>
+    <message>
+        <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan, without tags and notes.</source>
+        <translation>文件可以从回收站还原；下次重新扫描时目录会再次找到它们，但不再带有标签和备注。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) stayed where they were.</source>
+        <translation>
+            <numerusform>%n 个文件仍留在原处。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DuplicatesPage</name>
+    <message>
+        <source>&amp;Keep the chosen one, the others to the trash…</source>
+        <translation>保留所选，其余移到回收站(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Groups of duplicates</source>
+        <translation>重复花样分组</translation>
+    </message>
+    <message>
+        <source>Designs of the group; the chosen one is kept</source>
+        <translation>组内花样；所选的将保留</translation>
+    </message>
+    <message>
+        <source>Moving to the trash…</source>
+        <translation>正在移到回收站…</translation>
+    </message>
+    <message>
+        <source>There are no duplicates.</source>
+        <translation>没有重复的花样。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s)</source>
+        <translation>
+            <numerusform>%n 组</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) could not be compared.</source>
+        <translation>
+            <numerusform>%n 个花样无法比较。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They are missing, damaged, empty or have changed since the last scan.</source>
+        <translation>文件缺失、损坏、为空或自上次扫描后已更改。</translation>
     </message>
 </context>
 <context>
@@ -913,6 +1177,10 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Removing the folder...</source>
         <translation>正在移除文件夹…</translation>
+    </message>
+    <message>
+        <source>Find &amp;duplicates...</source>
+        <translation>查找重复花样(&amp;D)...</translation>
     </message>
 </context>
 <context>
@@ -1616,6 +1884,25 @@ Options:
     <message>
         <source>completes fields and tags while you type</source>
         <translation>输入时补全字段和标签</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Comparing the designs…</source>
+        <translation>正在比较花样…</translation>
+    </message>
+    <message>
+        <source>Comparing the designs: %1 of %2</source>
+        <translation>正在比较花样：%1/%2</translation>
     </message>
 </context>
 <context>
