@@ -19,8 +19,6 @@
 #include "ui/CatalogueKeeper.h"
 #include "ui/CatalogueQuestions.h"
 #include "ui/CenterView.h"
-#include "ui/duplicates/DuplicatesDialog.h"
-#include "ui/ExportDialog.h"
 #include "ui/FolderChangeNotice.h"
 #include "ui/LeftSidebar.h"
 #include "ui/NoticeBar.h"
@@ -30,7 +28,6 @@
 #include "ui/SortMenu.h"
 #include "ui/StatusLine.h"
 #include "ui/TransferNotice.h"
-#include "widgets/controls/GMessageBox.h"
 #include "widgets/style/GWidgetStyles.h"
 
 #include <QApplication>
@@ -345,45 +342,6 @@ void MainWindow::filesDropped(const QStringList &paths)
     }
     if (!folders.isEmpty())
         addDirectories(folders);
-}
-
-void MainWindow::removeSelectedDirectory()
-{
-    const QString folder = filter()->directoryFilter();
-    if (folder.isEmpty() || m_operationRunning)
-        return;
-    GMessageBox question(GMessageBox::Question, this, tr("Remove selected folder from list?"),
-                         folder);
-    if (question.exec() == QMessageBox::No)
-        return;
-    runWithProgress(tr("Removing the folder..."),
-                    [this] { m_controller->removeSelectedDirectory(); });
-    filter()->setDirectory(m_project->smartFolders().value(0));
-}
-
-void MainWindow::rescanDirectories()
-{
-    runWithProgress(tr("Scanning..."), [this] { m_controller->scanSmartFolders(); });
-}
-
-void MainWindow::exportSelectedFiles()
-{
-    const auto files = m_controller->selectionModel()->selection()->selectedFiles();
-    if (files.isEmpty()) {
-        GMessageBox(GMessageBox::Information, this, tr("No embroidery files selected!"),
-                    tr("Please select the files you want to transfer to your embroidery machine."))
-            .exec();
-        return;
-    }
-    ExportDialog dialog(this, files);
-    if (dialog.exec() == QDialog::Accepted)
-        m_transferNotice->tell(dialog.transferResult(), dialog.drive());
-}
-
-void MainWindow::findDuplicates()
-{
-    finishEdit();
-    DuplicatesDialog(this, m_project, [this] { return m_keeper->saveAnyway(); }).exec();
 }
 
 void MainWindow::updateUI()
