@@ -51,7 +51,7 @@ check_desktop() {
     appstreamcli validate "$(appstreamcli validate --help | grep -oE -m1 -e '--no-?net')" \
         $id.metainfo.xml
     TMPDIR=$work cmake -DPROGRAM="$(command -v update-mime-database)" \
-        -DSOURCE="$root/packaging/hoopline-organizer-mime.xml" \
+        -DSOURCE="$root/packaging/hoopline-organizer-mime.xml" -DENTRY="$root/$id.desktop" \
         -P tests/packaging/check_mime_types.cmake
 }
 
