@@ -16,7 +16,9 @@ install_missing "${build_packages[@]}" xvfb xdotool x11-utils imagemagick openbo
     fonts-noto-core fonts-noto-cjk dbus dosfstools fusefat
 # The machine's drive is mounted where nobody else sees it.
 if [ -z "${own_mounts:-}" ]; then
-    own_mounts=1 exec unshare --mount $([ "$(id -u)" -eq 0 ] || echo --map-root-user) "$0" "$@"
+    unshare=(unshare --mount)
+    [ "$(id -u)" -eq 0 ] || unshare+=(--map-root-user)
+    own_mounts=1 exec "${unshare[@]}" "$0" "$@"
 fi
 # A build of its own, whose maker's server is the one that this script runs.
 feed_port=18765
