@@ -9,6 +9,25 @@ function(hoopline_library name)
     target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE hoopline_options)
 endfunction()
 
+# hoopline_resource_collection(sources collection qrc)
+# Compiles a .qrc file and appends the outcome to the list of sources. rcc names the
+# function that registers the collection after it, for Q_INIT_RESOURCE in main().
+# Done here as CMake's own rule hands the path unquoted to a shell, which a checkout in
+# "hoopline (1)" makes stumble.
+function(hoopline_resource_collection sources collection qrc)
+    get_filename_component(qrc "${qrc}" ABSOLUTE)
+    get_filename_component(folder "${qrc}" DIRECTORY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${qrc}")
+    file(STRINGS "${qrc}" entries REGEX "<file")
+    list(TRANSFORM entries REPLACE ".*<file[^>]*>(.*)</file>.*" "${folder}/\\1")
+    set(registered "${CMAKE_CURRENT_BINARY_DIR}/qrc_${collection}.cpp")
+    add_custom_command(OUTPUT "${registered}"
+        COMMAND Qt5::rcc --name ${collection} "${qrc}" -o "${registered}"
+        DEPENDS "${qrc}" ${entries} VERBATIM)
+    set_source_files_properties("${registered}" PROPERTIES SKIP_AUTOMOC ON)
+    set(${sources} ${${sources}} "${registered}" PARENT_SCOPE)
+endfunction()
+
 # hoopline_hermetic_test(name COMMAND ... [TIMEOUT seconds])
 # A test that runs without a display in a folder of its own, which is its home and
 # takes its temporary files: it neither sees nor leaves anything elsewhere. It ends

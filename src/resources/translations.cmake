@@ -14,14 +14,12 @@ function(hoopline_translations collection source_prefix with_qt)
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/${collection}")
     file(MAKE_DIRECTORY "${folder}")
     set(entries "")
-    set(compiled "")
     foreach(language IN ITEMS de en zh_CN)
         set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/${source_prefix}_${language}.ts")
         set(output "${folder}/${language}.qm")
         add_custom_command(OUTPUT "${output}"
             COMMAND Qt5::lrelease -silent "${source}" -qm "${output}"
             DEPENDS "${source}" VERBATIM)
-        list(APPEND compiled "${output}")
         string(APPEND entries "    <file>${language}.qm</file>\n")
         # qt_<language>.qm itself only names the files of Qt's modules.
         set(qt_source "${qt_translations}/qtbase_${language}.qm")
@@ -40,10 +38,7 @@ function(hoopline_translations collection source_prefix with_qt)
 ${entries}</qresource>
 </RCC>
 " @ONLY)
-    set(registered "${folder}/qrc_${collection}.cpp")
-    add_custom_command(OUTPUT "${registered}"
-        COMMAND Qt5::rcc --name ${collection} "${folder}/${collection}.qrc" -o "${registered}"
-        DEPENDS ${compiled} "${folder}/${collection}.qrc" VERBATIM)
-    set_source_files_properties("${registered}" PROPERTIES SKIP_AUTOMOC ON)
-    set(${collection}_sources "${registered}" PARENT_SCOPE)
+    hoopline_resource_collection(${collection}_sources ${collection}
+        "${folder}/${collection}.qrc")
+    set(${collection}_sources ${${collection}_sources} PARENT_SCOPE)
 endfunction()
