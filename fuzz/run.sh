@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
+# run.sh [SECONDS [TARGET...]]
 # Builds the fuzz targets and runs each for a number of seconds on its seeds.
-# Usage: fuzz/run.sh [SECONDS [TARGET...]]     (5 seconds and all targets)
-# A target is a format, for its reader, or "query", for the search language.
+# By default 5 seconds and all targets. A target is a format, for its reader, or "query",
+# for the search language.
 #
 # What a run learns stays in build/fuzz/corpus, so that the next one goes on from
 # there. A crash ends with status 1; its input lies in build/fuzz/crashes and
 # belongs into tests/data/damaged, or into the table of tst_query, once the fault is mended.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/../scripts/lib-setup.sh"
 
-root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+case ${1:-} in --help | -h) usage; exit ;; esac
 seconds="${1:-5}"
 shift || true
 targets=("$@")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
+# check.sh [--quick] [--no-install] [CHECK...]
 # Looks over the sources: what the compiler and the tests don't see.
 #
-# check.sh [--quick] [CHECK...]
 #   format         the C++ sources stand as .clang-format would put them
 #   floors         who includes and links what, against docs/architecture.md
 #   shell          shellcheck of every script
@@ -10,11 +10,10 @@
 #   tidy           clang-tidy of src/; some minutes. Other files: check.sh tidy FILE...
 #
 # Runs them all, or those that are named; --quick leaves out tidy. Installs what is
-# missing. The status is 0 when all is well, 1 when something was found.
+# missing, unless --no-install says that all is there. The status is 0 when all is well,
+# 1 when something was found.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
-
-usage() { sed -n '2,/^set /{s/^# \{0,1\}//;/^set /!p}' "${BASH_SOURCE[0]}"; }
 
 # sources PATTERN...: the files of the project, new ones too, without those of a build.
 sources() { git ls-files --cached --others --exclude-standard --deduplicate -- "$@" | existing; }
@@ -94,6 +93,7 @@ checks=() files=() failed=()
 for argument in "$@"; do
     case $argument in
     --help | -h) usage; exit 0 ;;
+    --no-install) no_install=1 ;;
     --quick) checks+=(format floors shell translations desktop) ;;
     format | floors | shell | translations | desktop | tidy) checks+=("$argument") ;;
     *)

@@ -3,7 +3,15 @@
 # Opens the program on a virtual display, waits until its window has stopped
 # changing, which is when the previews are painted, and saves a picture of it.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
+
+case ${1:-} in --help | -h) usage; exit ;; esac
+[ $# -eq 2 ] || fail "a program and the name of a picture are wanted; --help tells more." 2
 program=$1 picture=$2
+command -v "$program" >/dev/null || fail "no such program: $program" 2
+for tool in Xvfb openbox xprop xwininfo import; do
+    command -v $tool >/dev/null || fail "$tool is not installed."
+done
 
 work=$(mktemp -d)
 pids=()

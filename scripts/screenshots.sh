@@ -7,6 +7,7 @@
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
+case ${1:-} in --help | -h) usage; exit ;; esac
 out=${1:?usage: screenshots.sh OUTDIR [SECTION...]}
 sections=${*:2}
 mkdir -p "$out"

@@ -1,8 +1,16 @@
 #!/usr/bin/env bash
+# test.sh [--no-install] [ARGUMENT...]
 # Installs what is missing, builds the project for development and runs every test.
 # Arguments go to ctest, for instance: scripts/test.sh -R tst_dstreader
+#
+#   --no-install   install no packages; what is needed is there
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
+
+case ${1:-} in
+--help | -h) usage; exit ;;
+--no-install) no_install=1; shift ;;
+esac
 
 # The last ten are what the tests themselves call upon: a FAT file system for the
 # transfer, also where the kernel has none, certificates, the validators of the

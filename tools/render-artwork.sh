@@ -1,8 +1,12 @@
 #!/usr/bin/env bash
+# render-artwork.sh
 # Draws the PNG pictures in src/resources anew from their SVG sources. Run it
 # after changing a file in src/resources/artwork, and commit what it changed.
 set -euo pipefail
-cd "$(dirname "$0")/.."
+. "$(dirname "${BASH_SOURCE[0]}")/../scripts/lib-setup.sh"
+
+case ${1:-} in --help | -h) usage; exit ;; esac
+cd "$root"
 
 cmake --preset dev >/dev/null
 cmake --build build/dev --target render-artwork

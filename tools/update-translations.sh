@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
+# update-translations.sh [FOLDER]
 # Brings the translation sources into line with the texts in the program; run
 # it after adding or changing a text, then translate what is marked unfinished.
-#   tools/update-translations.sh [FOLDER]
 # FOLDER holds the .ts files; by default src/resources/translations.
 set -euo pipefail
-cd "$(dirname "$0")/.."
+. "$(dirname "${BASH_SOURCE[0]}")/../scripts/lib-setup.sh"
+
+case ${1:-} in --help | -h) usage; exit ;; esac
+cd "$root"
 
 folder=${1:-src/resources/translations}
 lupdate=${LUPDATE:-$(command -v lupdate || echo /usr/lib/qt5/bin/lupdate)}
