@@ -12,4 +12,6 @@ cmake --preset dev >/dev/null
 cmake --build build/dev --target render-artwork
 cp src/resources/artwork/application.svg \
     src/resources/hicolor/scalable/apps/hoopline-organizer.svg
+cp src/resources/artwork/design-file.svg \
+    src/resources/hicolor/scalable/mimetypes/application-x-embroidery.svg
 QT_QPA_PLATFORM=offscreen build/dev/bin/render-artwork src/resources

@@ -33,6 +33,11 @@ QVector<Picture> pictures()
     for (int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})
         list.append({size < 48 ? smallApplication : application,
                      QStringLiteral("hicolor/%1x%1/apps/hoopline-organizer.png").arg(size), size});
+    for (int size : {16, 22, 24, 32, 48, 64, 128, 256})
+        list.append(
+            {QStringLiteral("artwork/design-file.svg"),
+             QStringLiteral("hicolor/%1x%1/mimetypes/application-x-embroidery.png").arg(size),
+             size});
     return list;
 }
 
