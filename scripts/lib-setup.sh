@@ -4,15 +4,12 @@
 # The folder of the checkout, whatever the caller's working folder.
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# The last two are what cpack calls upon.
 # shellcheck disable=SC2034 # for those who source this
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
-    libdeflate-dev lowdown)
-
-# What cpack and dpkg call upon to make a package of the build.
-# shellcheck disable=SC2034
-package_packages=(file dpkg-dev)
+    libdeflate-dev lowdown file dpkg-dev)
 
 # A home that holds no compiler cache yet gets none from here: it lies in the build folder.
 if [ -z "${CCACHE_DIR:-}" ] && [ ! -d "${XDG_CACHE_HOME:-${HOME:-/}/.cache}/ccache" ] &&

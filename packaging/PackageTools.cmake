@@ -1,0 +1,15 @@
+# Read by cpack before it packs: without these programs it stops with a riddle, or makes a
+# package that does not know what it depends on.
+set(missing "")
+foreach(tool IN ITEMS file:file dpkg-shlibdeps:dpkg-dev objcopy:binutils)
+    string(REGEX REPLACE ":.*" "" name "${tool}")
+    string(REGEX REPLACE ".*:" "" package "${tool}")
+    find_program(tool_${name} ${name})
+    if(NOT tool_${name})
+        list(APPEND missing ${package})
+    endif()
+endforeach()
+if(missing)
+    list(JOIN missing " " missing)
+    message(FATAL_ERROR "A package cannot be made without: apt-get install ${missing}")
+endif()

@@ -1,0 +1,26 @@
+# cmake -DMANIFEST=install_manifest.txt -P Uninstall.cmake
+# Takes back what the last installation put on the disk, and the folders that are ours.
+if(NOT EXISTS "${MANIFEST}")
+    message(FATAL_ERROR "Nothing was installed from here: there is no ${MANIFEST}")
+endif()
+file(STRINGS "${MANIFEST}" files ENCODING UTF-8)
+# That of the installation, which --prefix may have told.
+string(REGEX MATCH "[^;]*/share/applications/" CMAKE_INSTALL_PREFIX "${files}")
+string(REPLACE "/share/applications/" "" CMAKE_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}")
+foreach(file IN LISTS files)
+    if(EXISTS "$ENV{DESTDIR}${file}" OR IS_SYMLINK "$ENV{DESTDIR}${file}")
+        message(STATUS "Removing: $ENV{DESTDIR}${file}")
+        file(REMOVE "$ENV{DESTDIR}${file}")
+    endif()
+    # Its folders, as long as they are the program's alone.
+    get_filename_component(folder "${file}" DIRECTORY)
+    while(folder MATCHES "/hoopline-organizer(/|$)")
+        file(GLOB left "$ENV{DESTDIR}${folder}/*")
+        if(left)
+            break()
+        endif()
+        file(REMOVE_RECURSE "$ENV{DESTDIR}${folder}")
+        get_filename_component(folder "${folder}" DIRECTORY)
+    endwhile()
+endforeach()
+include("${CMAKE_CURRENT_LIST_DIR}/DesktopCaches.cmake")
