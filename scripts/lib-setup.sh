@@ -91,6 +91,18 @@ make_build_folder() {
     [ -w "$root/build" ] || fail "nothing can be written into $root/build"
 }
 
+# gather_designs FOLDER: one file of each sample, the formats taking turns, as a collection looks.
+gather_designs() {
+    local formats=(pes jef hus pes xxx pes dst) i=0 path file format
+    for path in "$root"/samples/*/*.dst; do
+        format=${formats[i++ % ${#formats[@]}]}
+        file=${path%.dst}.$format
+        [ -f "$file" ] || file=$path
+        mkdir -p "$1/$(basename "$(dirname "$path")")"
+        cp "$file" "$1/$(basename "$(dirname "$path")")/"
+    done
+}
+
 # build PRESET [TARGET...]
 build() {
     local preset=$1 tool log

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# run-headless.sh PROGRAM PICTURE
+# run-headless.sh PROGRAM PICTURE [ARGUMENT...]
 # Opens the program on a virtual display, waits until its window has stopped
 # changing, which is when the previews are painted, and saves a picture of it.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
 case ${1:-} in --help | -h) usage; exit ;; esac
-[ $# -eq 2 ] || fail "a program and the name of a picture are wanted; --help tells more." 2
+[ $# -ge 2 ] || fail "a program and the name of a picture are wanted; --help tells more." 2
 program=$1 picture=$2
 command -v "$program" >/dev/null || fail "no such program: $program" 2
 for tool in Xvfb openbox xprop xwininfo import; do
@@ -34,7 +34,7 @@ unset WAYLAND_DISPLAY
 
 openbox >/dev/null 2>&1 &
 pids+=($!)
-"$program" 2>"$work/log" &
+"$program" "${@:3}" 2>"$work/log" &
 pids+=($!)
 app=$!
 

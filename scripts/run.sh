@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # run.sh [--fresh] [--no-install] [FOLDER...]
 # Installs what is missing, builds the program and opens it on the folders, by default
-# on samples/. It ends when the window is closed.
+# on a small collection of samples. It ends when the window is closed.
 #
 # Your own catalogue is never touched: the program runs in a profile of its own in
 # build/demo, which keeps folders, tags and notes from one run to the next. What they
@@ -28,10 +28,9 @@ for argument in "$@"; do
         ;;
     esac
 done
-[ ${#folders[@]} -gt 0 ] || folders=("$root/samples")
 
 install_missing "${build_packages[@]}"
-build release hoopline-organizer hoopline-cli
+build release hoopline-organizer hoopline-cli demo-notes
 
 demo=$root/build/demo
 exec {lock}>"$demo.lock"
@@ -47,18 +46,30 @@ export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 
 bin=$root/build/release/bin
+catalogue="$XDG_DATA_HOME/hoopline.example/Hoopline Organizer/hoopline-organizer.xml"
+
+# Without a folder of the user's: a collection as somebody uses it, with one design selected.
+notes='' shown=()
+if [ ${#folders[@]} -eq 0 ] && [ ! -e "$catalogue" ]; then
+    gather_designs "$demo/Designs"
+    folders=("$demo/Designs")
+    shown=("$demo"/Designs/Animals/butterfly.*)
+    notes=1
+fi
 
 "$bin/hoopline-cli" scan "${folders[@]}" {lock}>&- ||
     echo "The scan did not do all it should; the window shows what there is." >&2
+[ -z "$notes" ] || "$bin/demo-notes" "$catalogue"
 echo "The demo's profile, with its folders, tags and notes, is $demo"
 echo "The next run finds it again; scripts/run.sh --fresh begins anew."
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "Close the window to come back."
-    "$bin/hoopline-organizer" {lock}>&-
+    "$bin/hoopline-organizer" "${shown[@]}" {lock}>&-
     exit
 fi
 
 echo "There is no display: the window opens on a virtual one."
 install_missing xvfb x11-utils imagemagick openbox fonts-dejavu-core
-"$root/scripts/run-headless.sh" "$bin/hoopline-organizer" "$demo/screenshot.png" {lock}>&-
+"$root/scripts/run-headless.sh" "$bin/hoopline-organizer" "$demo/screenshot.png" \
+    "${shown[@]}" {lock}>&-

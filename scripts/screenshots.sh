@@ -118,18 +118,6 @@ stop_feed() { kill "$feed"; wait "$feed" 2>/dev/null || true; }
 
 use_light() { unset XDG_CURRENT_DESKTOP KDE_FULL_SESSION KDE_SESSION_VERSION; }
 
-# One file of each sample, the formats taking turns, as a collection looks.
-gather_designs() {
-    local formats=(dst pes jef pes dst pes jef) i=0 path file format
-    for path in "$root"/samples/*/*.dst; do
-        format=${formats[i++ % ${#formats[@]}]}
-        file=${path%.dst}.$format
-        [ -f "$file" ] || file=$path
-        mkdir -p "$work/Designs/$(basename "$(dirname "$path")")"
-        cp "$file" "$work/Designs/$(basename "$(dirname "$path")")/"
-    done
-}
-
 fill_profile() { "$bin/hoopline-cli" scan "$work/Designs" >/dev/null; }
 
 # client_windows: the windows of the program that the window manager knows, oldest first.
@@ -548,7 +536,7 @@ duplicates_shots() {
 wants() { [ -z "$sections" ] || [[ " $sections " == *" $1 "* ]]; }
 
 start_display
-gather_designs
+gather_designs "$work/Designs"
 use_light
 
 ! wants main || main_window_shots
