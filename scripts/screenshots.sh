@@ -25,7 +25,8 @@ fi
 feed_port=18765
 cmake -S "$root" -B "$root/build/pictures" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DHOOPLINE_TESTS=OFF -DHOOPLINE_BASE_URL=http://127.0.0.1:$feed_port >/dev/null
-cmake --build "$root/build/pictures" --target hoopline-organizer hoopline-cli feedback-form drive-service
+cmake --build "$root/build/pictures" --target hoopline-organizer hoopline-cli demo-notes \
+    feedback-form drive-service
 bin=$root/build/pictures/bin
 
 # Short, as sockets are named below it.
@@ -119,6 +120,9 @@ stop_feed() { kill "$feed"; wait "$feed" 2>/dev/null || true; }
 use_light() { unset XDG_CURRENT_DESKTOP KDE_FULL_SESSION KDE_SESSION_VERSION; }
 
 fill_profile() { "$bin/hoopline-cli" scan "$work/Designs" >/dev/null; }
+
+# use_designs: what their owner has noted about them.
+use_designs() { "$bin/demo-notes" "$XDG_DATA_HOME/hoopline.example/Hoopline Organizer/hoopline-organizer.xml"; }
 
 # client_windows: the windows of the program that the window manager knows, oldest first.
 client_windows() {
@@ -256,11 +260,20 @@ main_window_shots() {
     key Escape
     stop
 
+    use_profile used
+    fill_profile
+    use_designs
+    start "$work"/Designs/Animals/butterfly.*
+    resize 1280 820
+    away
+    shot main-filled
+    stop
+
+    use_profile main
     fill_profile
     start
     resize 1280 820
     away
-    shot main-filled
     for percent in 75 50 33; do click 142 41; away; shot "zoom-$percent"; done
     for _ in 1 2 3; do click 176 41; done
     shot zoom-100
