@@ -1,32 +1,11 @@
 #include "catalogue/query/QueryFields.h"
 
+#include "base/Spelling.h"
 #include "catalogue/query/ColorNames.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
-
-constexpr int ShortestMisspelling = 3;
-constexpr int LongestMisspelling = 12;
-constexpr int MostWrongLetters = 2;
-
-/** How many letters have to be added, left out or replaced to make one text of the other. */
-int editDistance(const QString &from, const QString &to)
-{
-    QVector<int> row(to.length() + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (int i = 0; i < from.length(); ++i) {
-        int diagonal = row.at(0);
-        row[0] = i + 1;
-        for (int k = 0; k < to.length(); ++k) {
-            const int replaced = diagonal + (from.at(i) == to.at(k) ? 0 : 1);
-            diagonal = row.at(k + 1);
-            row[k + 1] = std::min({replaced, row.at(k) + 1, diagonal + 1});
-        }
-    }
-    return row.constLast();
-}
 
 QStringList spellings(const QueryField &field)
 {
@@ -149,17 +128,8 @@ const QueryField *QueryFields::named(const QString &name)
 
 const QueryField *QueryFields::like(const QString &name)
 {
-    if (name.length() < ShortestMisspelling || name.length() > LongestMisspelling)
-        return nullptr;
-    const QueryField *nearest = nullptr;
-    // Of a short name one letter may be wrong, of a long one two.
-    int bound = std::min(MostWrongLetters, name.length() / 3);
-    for (const QueryField &field : all()) {
-        const int distance = editDistance(name.toLower(), field.name);
-        if (distance <= bound) {
-            nearest = &field;
-            bound = distance - 1;
-        }
-    }
-    return nearest;
+    QStringList names;
+    for (const QueryField &field : all())
+        names.append(field.name);
+    return named(Spelling::nearest(name, names));
 }
