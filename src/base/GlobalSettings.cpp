@@ -1,5 +1,6 @@
 #include "base/GlobalSettings.h"
 
+#include <QFileInfo>
 #include <QLocale>
 #include <QStandardPaths>
 
@@ -19,8 +20,12 @@ const QString ImperialUnits = QStringLiteral("imperialUnits");
 
 } // namespace
 
+QString GlobalSettings::otherCatalogue;
+
 QString GlobalSettings::applicationDataPath()
 {
+    if (usesOtherCatalogue())
+        return QFileInfo(otherCatalogue).path();
     const QVariant stored = value(ApplicationDataPath);
     if (stored.isValid())
         return stored.toString();
@@ -32,6 +37,29 @@ QString GlobalSettings::applicationDataPath()
 void GlobalSettings::setApplicationDataPath(const QString &path)
 {
     setValue(ApplicationDataPath, path);
+}
+
+QString GlobalSettings::catalogueFilePath()
+{
+    if (usesOtherCatalogue())
+        return otherCatalogue;
+    return applicationDataPath() + QStringLiteral("/hoopline-organizer.xml");
+}
+
+void GlobalSettings::useCatalogue(const QString &path)
+{
+    const QFileInfo own(GlobalSettings().catalogueFilePath());
+    const QFileInfo wanted(path);
+    const bool isOwn = own.exists() && wanted.exists()
+                           ? own.canonicalFilePath() == wanted.canonicalFilePath()
+                           : own.absoluteFilePath() == wanted.absoluteFilePath();
+    if (!isOwn)
+        otherCatalogue = path;
+}
+
+bool GlobalSettings::usesOtherCatalogue()
+{
+    return !otherCatalogue.isEmpty();
 }
 
 QString GlobalSettings::previewImagePath(const QByteArray &hash)

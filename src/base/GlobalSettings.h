@@ -16,6 +16,18 @@ public:
     QString applicationDataPath();
     void setApplicationDataPath(const QString &path);
 
+    /** The catalogue, below the data path. */
+    QString catalogueFilePath();
+
+    /**
+     * For the rest of the process @p path, which is absolute, is the catalogue and its folder
+     * the data path. Nothing of that is stored, and nothing happens when it is the catalogue
+     * anyhow, be it by another name.
+     */
+    static void useCatalogue(const QString &path);
+    /** Whether useCatalogue() has chosen another one than the organiser's own. */
+    static bool usesOtherCatalogue();
+
     /**
      * The preview file of a design with the raw MD5 digest @p hash; with a null
      * array the preview directory, with its trailing slash.
@@ -54,4 +66,7 @@ public:
     /** Inches rather than millimetres. Decided by the system's locale on the first call. */
     bool imperialUnits();
     void setImperialUnits(bool imperial);
+
+private:
+    static QString otherCatalogue;
 };

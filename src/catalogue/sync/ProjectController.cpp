@@ -20,8 +20,7 @@
 #include <utility>
 
 ProjectController::ProjectController()
-    : m_listener(&emptyProgressListener),
-      m_file(GlobalSettings().applicationDataPath() + QStringLiteral("/hoopline-organizer.xml"))
+    : m_listener(&emptyProgressListener), m_file(GlobalSettings().catalogueFilePath())
 {
 }
 
