@@ -3,6 +3,7 @@
 #include "base/GlobalSettings.h"
 #include "catalogue/records/IThread.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
+#include "cli/Csv.h"
 #include "cli/JsonWriter.h"
 #include "cli/TextWidth.h"
 #include <algorithm>
@@ -11,12 +12,6 @@
 #include <QVector>
 
 namespace {
-
-/** Empty when the extent is not known. */
-QByteArray extent(double millimetres)
-{
-    return millimetres < 0 ? QByteArray() : JsonWriter::number(millimetres);
-}
 
 void writeExtent(JsonWriter &json, const char *name, double millimetres)
 {
@@ -39,27 +34,6 @@ void writeThreads(JsonWriter &json, const QList<QSharedPointer<IThread>> &thread
         json.endObject();
     }
     json.endArray();
-}
-
-QString csvField(const QString &text, QLatin1Char separator)
-{
-    const bool plain = std::none_of(text.begin(), text.end(), [separator](QChar c) {
-        return c == QLatin1Char('"') || c == separator || c == QLatin1Char('\n') ||
-               c == QLatin1Char('\r');
-    });
-    if (plain)
-        return text;
-    QString quoted = text;
-    quoted.replace(QLatin1Char('"'), QStringLiteral("\"\""));
-    return QLatin1Char('"') + quoted + QLatin1Char('"');
-}
-
-QString csvLine(const QStringList &fields, QLatin1Char separator)
-{
-    QStringList line;
-    for (const QString &field : fields)
-        line.append(csvField(field, separator));
-    return line.join(separator);
 }
 
 QString tableLine(const QStringList &row, const QVector<int> &widths)
@@ -104,29 +78,22 @@ void CatalogueReport::writeJson(const Files &files)
 
 void CatalogueReport::writeCsv(const Files &files)
 {
-    constexpr QLatin1Char comma(',');
-    constexpr QLatin1Char semicolon(';');
-    m_output.writeLine(QStringLiteral("file,name,md5,file_size,modification_date,stitch_count,"
-                                      "width_mm,height_mm,thread_count,notes,tags,favorite"));
+    const QStringList columns = DesignFormat::columns();
+    m_output.writeLine(Csv::line(columns));
     for (const auto &file : files) {
-        const QStringList fields{
-            file->absoluteFilePath(),
-            file->name(),
-            QString::fromLatin1(file->contentHash().toHex()),
-            QString::number(file->fileSize()),
-            QString::number(file->modificationDate()),
-            QString::number(file->stitchCount()),
-            QString::fromLatin1(extent(file->designSize().width())),
-            QString::fromLatin1(extent(file->designSize().height())),
-            QString::number(file->threads().size()),
-            file->notes(),
-            csvLine(file->tags(), semicolon),
-            file->isFavorite() ? QStringLiteral("true") : QStringLiteral("false"),
-        };
-        const QString line = csvLine(fields, comma);
+        QStringList fields;
+        for (const QString &column : columns)
+            fields.append(DesignFormat::value(*file, column));
+        const QString line = Csv::line(fields);
         // Programs get the text as it is.
         m_output.writeLine(m_output.isTerminal() ? Console::printable(line) : line);
     }
+}
+
+void CatalogueReport::writeLines(const Files &files, const DesignFormat &format, bool nullSeparated)
+{
+    for (const auto &file : files)
+        m_output.writeEntry(format.line(*file), nullSeparated);
 }
 
 void CatalogueReport::writeTable(const Files &files)

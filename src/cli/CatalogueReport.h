@@ -2,6 +2,7 @@
 
 #include "catalogue/records/IFile.h"
 #include "cli/Console.h"
+#include "cli/DesignFormat.h"
 #include <QCoreApplication>
 #include <QList>
 #include <QSharedPointer>
@@ -23,6 +24,8 @@ public:
      * such a line in itself, with semicolons.
      */
     void writeCsv(const Files &files);
+    /** A line of @p format per record, with a NUL behind it rather than a line's end if asked. */
+    void writeLines(const Files &files, const DesignFormat &format, bool nullSeparated);
     /** Aligned columns below their heads, and a closing line with the number of designs. */
     void writeTable(const Files &files);
 

@@ -1,5 +1,8 @@
 #include "cli/Command.h"
 
+#include "base/Spelling.h"
+#include "cli/CatalogueChoice.h"
+#include "cli/CommandError.h"
 #include "cli/DuplicatesCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
@@ -10,6 +13,23 @@ QString Command::usage() const
     return QStringLiteral("hoopline-cli %1 %2").arg(name(), arguments());
 }
 
+QList<QCommandLineOption> Command::allOptions() const
+{
+    QList<QCommandLineOption> all = options();
+    if (usesCatalogue())
+        all.append(CatalogueChoice::option());
+    return all;
+}
+
+void Command::expectVerb(const QString &verb) const
+{
+    if (verbs().contains(verb))
+        return;
+    const QString message =
+        tr("What to do must be one of: %1.").arg(verbs().join(QStringLiteral(", ")));
+    throw UsageError(withSuggestion(message, verb, verbs()));
+}
+
 Commands allCommands()
 {
     Commands commands;
@@ -18,4 +38,12 @@ Commands allCommands()
     commands.push_back(std::make_unique<ListCommand>());
     commands.push_back(std::make_unique<DuplicatesCommand>());
     return commands;
+}
+
+QString withSuggestion(const QString &message, const QString &word, const QStringList &words)
+{
+    const QString nearest = Spelling::nearest(word, words);
+    return nearest.isEmpty()
+               ? message
+               : message + QLatin1Char(' ') + Command::tr("Did you mean '%1'?").arg(nearest);
 }

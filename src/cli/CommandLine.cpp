@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "cli/Command.h"
 #include "cli/CommandError.h"
 #include "cli/Console.h"
 
@@ -18,9 +19,20 @@ CommandLine::CommandLine(const QString &usage, const QString &description,
 void CommandLine::parse(const QStringList &arguments)
 {
     if (!m_parser.parse(QStringList(QStringLiteral("hoopline-cli")) + arguments))
-        throw UsageError(m_parser.errorText());
+        throw UsageError(parsingError());
     if (!isAnswer())
         refuseRepetition();
+}
+
+QString CommandLine::parsingError() const
+{
+    const QStringList unknown = m_parser.unknownOptionNames();
+    if (unknown.isEmpty())
+        return m_parser.errorText();
+    QStringList names{QStringLiteral("help"), QStringLiteral("version")};
+    for (const QCommandLineOption &option : m_options)
+        names += option.names();
+    return withSuggestion(m_parser.errorText(), unknown.constFirst(), names);
 }
 
 void CommandLine::refuseRepetition() const
@@ -33,11 +45,11 @@ void CommandLine::refuseRepetition() const
     }
 }
 
-void CommandLine::expectNoArguments() const
+void CommandLine::expectAtMost(int count) const
 {
     const QStringList arguments = positionalArguments();
-    if (!arguments.isEmpty())
-        throw UsageError(tr("Unexpected argument '%1'.").arg(arguments.constFirst()));
+    if (arguments.size() > count)
+        throw UsageError(tr("Unexpected argument '%1'.").arg(arguments.at(count)));
 }
 
 int CommandLine::answer() const

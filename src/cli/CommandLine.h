@@ -29,12 +29,13 @@ public:
     QString value(const char *option) const { return m_parser.value(QLatin1String(option)); }
     QStringList positionalArguments() const { return m_parser.positionalArguments(); }
 
-    /** @throws UsageError when there is any positional argument */
-    void expectNoArguments() const;
+    /** @throws UsageError when there are more than @p count positional arguments */
+    void expectAtMost(int count) const;
 
     static QString usageLine(const QString &usage);
 
 private:
+    QString parsingError() const;
     void refuseRepetition() const;
     QString helpText() const;
 

@@ -1,6 +1,7 @@
 #include "cli/Companion.h"
 
 #include "base/GSettings.h"
+#include "cli/CatalogueChoice.h"
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
@@ -49,9 +50,13 @@ int Companion::runCommand(const Command &command, const QStringList &arguments)
 {
     m_usage = command.usage();
     GSettings::setReadOnly(!command.writes());
-    CommandLine line(m_usage, command.description(), command.options());
+    CommandLine line(m_usage, command.description(), command.allOptions());
     line.parse(arguments);
-    return line.isAnswer() ? line.answer() : command.run(line);
+    if (line.isAnswer())
+        return line.answer();
+    if (command.usesCatalogue())
+        CatalogueChoice::use(line);
+    return command.run(line);
 }
 
 int Companion::runWithoutCommand(const QStringList &arguments)
@@ -78,9 +83,12 @@ const Command &Companion::find(const QString &name) const
 {
     const auto found = std::find_if(m_commands.begin(), m_commands.end(),
                                     [&](const auto &command) { return command->name() == name; });
-    if (found == m_commands.end())
-        throw UsageError(tr("Unknown command '%1'.").arg(name));
-    return **found;
+    if (found != m_commands.end())
+        return **found;
+    QStringList names{QLatin1String(HelpName)};
+    for (const auto &command : m_commands)
+        names.append(command->name());
+    throw UsageError(withSuggestion(tr("Unknown command '%1'.").arg(name), name, names));
 }
 
 QString Companion::listOfCommands() const

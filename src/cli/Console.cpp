@@ -51,6 +51,12 @@ void StandardOutput::writeLine(const QString &line)
     write(line.toUtf8() + '\n');
 }
 
+void StandardOutput::writeEntry(const QString &text, bool nullSeparated)
+{
+    const QString shown = m_isTerminal ? Console::printable(text) : text;
+    write(shown.toUtf8() + (nullSeparated ? '\0' : '\n'));
+}
+
 void StandardOutput::writeRemark(const QString &line)
 {
     if (m_isTerminal)

@@ -5,20 +5,42 @@
 #include <QFile>
 #include <QString>
 
+/** What takes bytes as they come. */
+class ByteSink
+{
+public:
+    virtual ~ByteSink() = default;
+    virtual void write(const QByteArray &bytes) = 0;
+};
+
+/** Keeps all bytes in memory. */
+class ByteBuffer : public ByteSink
+{
+public:
+    void write(const QByteArray &bytes) override { m_bytes += bytes; }
+    const QByteArray &bytes() const { return m_bytes; }
+
+private:
+    QByteArray m_bytes;
+};
+
 /**
  * The process's standard output. Collects what is written and passes it on in
  * large pieces. All text goes out as UTF-8.
  */
-class StandardOutput
+class StandardOutput : public ByteSink
 {
     Q_DECLARE_TR_FUNCTIONS(StandardOutput)
 
 public:
     StandardOutput();
-    ~StandardOutput() { flush(); }
+    ~StandardOutput() override { flush(); }
 
-    void write(const QByteArray &bytes);
+    void write(const QByteArray &bytes) override;
     void writeLine(const QString &line);
+
+    /** A text for programs with a NUL or a line's end behind it; printable on a terminal. */
+    void writeEntry(const QString &text, bool nullSeparated);
 
     /**
      * A line for people around what other programs read, such as the heads of columns:

@@ -1,8 +1,8 @@
 #include "cli/DuplicatesCommand.h"
 
-#include "base/Error.h"
 #include "catalogue/duplicates/DuplicateFinder.h"
 #include "catalogue/sync/ProjectController.h"
+#include "cli/CatalogueChoice.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/ConsoleProgress.h"
@@ -11,7 +11,6 @@
 #include "cli/JsonWriter.h"
 #include <chrono>
 #include <future>
-#include <QFileInfo>
 
 namespace {
 
@@ -74,10 +73,9 @@ QList<QCommandLineOption> DuplicatesCommand::options() const
 
 int DuplicatesCommand::run(const CommandLine &line) const
 {
-    line.expectNoArguments();
+    line.expectAtMost(0);
+    CatalogueChoice::expectCatalogue();
     ProjectController controller;
-    if (!QFileInfo::exists(controller.projectFilePath()))
-        throw Error(tr("There is no catalogue yet; 'hoopline-cli scan FOLDER' makes one."));
     controller.loadProject();
     const Files files = controller.project()->files();
     const DuplicateResult result = find(files);

@@ -18,6 +18,7 @@ public:
     QString arguments() const override { return QStringLiteral("[options]"); }
     QString description() const override;
     QList<QCommandLineOption> options() const override;
+    bool usesCatalogue() const override { return true; }
     int run(const CommandLine &line) const override;
 
 private:

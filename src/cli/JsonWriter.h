@@ -11,7 +11,7 @@
 class JsonWriter
 {
 public:
-    explicit JsonWriter(StandardOutput &output) : m_output(output) {}
+    explicit JsonWriter(ByteSink &output) : m_output(output) {}
 
     void beginObject() { open('{'); }
     void endObject() { close('}'); }
@@ -46,6 +46,6 @@ private:
     void close(char bracket);
     void put(const QByteArray &text);
 
-    StandardOutput &m_output;
+    ByteSink &m_output;
     bool m_needsComma = false;
 };

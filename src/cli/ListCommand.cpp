@@ -3,16 +3,17 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/SortOrder.h"
-#include "catalogue/query/Query.h"
 #include "catalogue/sync/ProjectController.h"
+#include "cli/CatalogueChoice.h"
 #include "cli/CatalogueReport.h"
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
+#include "cli/DesignFormat.h"
+#include "cli/DesignSelection.h"
 #include "cli/LocalPath.h"
 #include "embroidery/EmbroideryIO.h"
 #include <algorithm>
-#include <optional>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -39,21 +40,6 @@ void expectKnownType(const QString &type)
                              .arg(type, types.join(QStringLiteral(", "))));
 }
 
-/** Tells what is odd about the search. @throws UsageError when it is wrong */
-void expectRightQuery(const QString &query)
-{
-    const std::optional<QueryRemark> remark = Query::parse(query).remark();
-    if (!remark)
-        return;
-    if (remark->kind == QueryRemark::Hint) {
-        Console::reportError(remark->message);
-        return;
-    }
-    throw UsageError(ListCommand::tr("The search is wrong at character %1, '%2': %3")
-                         .arg(QString::number(remark->position + 1),
-                              query.mid(remark->position, remark->length), remark->message));
-}
-
 /** @throws UsageError when there is no such order */
 SortOrder parseOrder(const QString &text)
 {
@@ -65,10 +51,19 @@ SortOrder parseOrder(const QString &text)
     return *order;
 }
 
-bool liesIn(const QString &path, const QString &folder)
+/** @throws UsageError when the output is asked for in more than one form */
+void expectOneForm(const CommandLine &line)
 {
-    return path == folder || folder == QLatin1String("/") ||
-           path.startsWith(folder + QLatin1Char('/'));
+    QStringList forms;
+    for (const char *form : {"json", "csv", "format", "count"}) {
+        if (line.isSet(form))
+            forms.append(QStringLiteral("--") + QLatin1String(form));
+    }
+    if (line.isSet("null") && !line.isSet("format"))
+        forms.append(QStringLiteral("--null"));
+    if (forms.size() > 1)
+        throw UsageError(
+            ListCommand::tr("Choose one of %1.").arg(forms.join(QStringLiteral(", "))));
 }
 
 /** @throws Error when the catalogue knows neither the folder nor any design in it */
@@ -76,11 +71,12 @@ void expectKnownFolder(const QString &folder, const Project &project)
 {
     const QStringList roots = project.smartFolders();
     const bool isSearched = QFileInfo(folder).isDir() &&
-                            std::any_of(roots.begin(), roots.end(),
-                                        [&](const QString &root) { return liesIn(folder, root); });
+                            std::any_of(roots.begin(), roots.end(), [&](const QString &root) {
+                                return LocalPath::liesIn(folder, root);
+                            });
     const auto files = project.files();
     const bool holdsDesigns = std::any_of(files.begin(), files.end(), [&](const auto &file) {
-        return liesIn(file->absoluteFilePath(), folder);
+        return LocalPath::liesIn(file->absoluteFilePath(), folder);
     });
     if (!isSearched && !holdsDesigns)
         throw Error(ListCommand::tr("The folder '%1' is not in the catalogue.").arg(folder));
@@ -119,25 +115,32 @@ QList<QCommandLineOption> ListCommand::options() const
          QStringLiteral("KEY[:desc]")},
         {QStringLiteral("json"), tr("Print one JSON object per design, a line each.")},
         {QStringLiteral("csv"), tr("Print comma-separated values.")},
+        {QStringLiteral("format"),
+         tr("Print a line of this form per design, for instance %1.")
+             .arg(QStringLiteral("'{file}\\t{stitch_count}'")),
+         QStringLiteral("TEXT")},
+        {QStringLiteral("count"), tr("Print only how many designs there are.")},
+        {{QStringLiteral("0"), QStringLiteral("null")},
+         tr("Print the files, or lines of --format, each with a NUL behind it.")},
     };
 }
 
 int ListCommand::run(const CommandLine &line) const
 {
-    line.expectNoArguments();
-    if (line.isSet("json") && line.isSet("csv"))
-        throw UsageError(tr("Choose one of --json and --csv."));
+    line.expectAtMost(0);
+    expectOneForm(line);
+    const DesignFormat format(line.isSet("format") ? line.value("format")
+                                                   : QStringLiteral("{file}"));
     if (line.isSet("folder") && line.value("folder").isEmpty())
         throw UsageError(tr("The folder must not be empty."));
     if (line.isSet("type"))
         expectKnownType(line.value("type"));
     const QSizeF maxSize = line.isSet("max-size") ? parseSize(line.value("max-size")) : QSizeF();
     const SortOrder order = line.isSet("sort") ? parseOrder(line.value("sort")) : SortOrder();
-    expectRightQuery(line.value("search"));
+    DesignSelection::expectRightQuery(line.value("search"));
 
     ProjectController controller;
-    if (!QFileInfo::exists(controller.projectFilePath()))
-        throw Error(tr("There is no catalogue yet; 'hoopline-cli scan FOLDER' makes one."));
+    CatalogueChoice::expectCatalogue();
     controller.loadProject();
     const QString folder =
         line.isSet("folder") ? LocalPath::absolute(line.value("folder")) : QString();
@@ -153,10 +156,11 @@ int ListCommand::run(const CommandLine &line) const
     filter.setSearchSubstring(line.value("search"));
     filter.setFavoritesOnly(line.isSet("favorites"));
     filter.setSortOrder(order);
-    return print(line, filter.filteredFiles());
+    return print(line, format, filter.filteredFiles());
 }
 
-int ListCommand::print(const CommandLine &line, const QList<QSharedPointer<IFile>> &files)
+int ListCommand::print(const CommandLine &line, const DesignFormat &format,
+                       const QList<QSharedPointer<IFile>> &files)
 {
     StandardOutput output;
     CatalogueReport report(output);
@@ -164,6 +168,10 @@ int ListCommand::print(const CommandLine &line, const QList<QSharedPointer<IFile
         report.writeJson(files);
     else if (line.isSet("csv"))
         report.writeCsv(files);
+    else if (line.isSet("count"))
+        output.writeLine(QString::number(files.size()));
+    else if (line.isSet("format") || line.isSet("null"))
+        report.writeLines(files, format, line.isSet("null"));
     else
         report.writeTable(files);
     return output.flush() ? Success : Failure;

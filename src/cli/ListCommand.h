@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QSharedPointer>
 
+class DesignFormat;
 class IFile;
 
 /** Prints the catalogue, narrowed as in the organiser. */
@@ -17,8 +18,10 @@ public:
     QString arguments() const override { return QStringLiteral("[options]"); }
     QString description() const override;
     QList<QCommandLineOption> options() const override;
+    bool usesCatalogue() const override { return true; }
     int run(const CommandLine &line) const override;
 
 private:
-    static int print(const CommandLine &line, const QList<QSharedPointer<IFile>> &files);
+    static int print(const CommandLine &line, const DesignFormat &format,
+                     const QList<QSharedPointer<IFile>> &files);
 };

@@ -19,4 +19,11 @@ inline QString absolute(const QString &name)
     return QDir::cleanPath(QFileInfo(of(name)).absoluteFilePath());
 }
 
+/** Whether @p path is @p folder or something below it; both absolute. */
+inline bool liesIn(const QString &path, const QString &folder)
+{
+    return path == folder || folder == QLatin1String("/") ||
+           path.startsWith(folder + QLatin1Char('/'));
+}
+
 } // namespace LocalPath

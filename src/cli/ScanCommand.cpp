@@ -2,13 +2,14 @@
 
 #include "base/Error.h"
 #include "base/GSettings.h"
+#include "cli/CatalogueChoice.h"
 #include "cli/CommandLine.h"
-#include "cli/Console.h"
 #include "cli/ConsoleProgress.h"
 #include "cli/ExitStatus.h"
 #include "cli/Interrupt.h"
 #include "cli/LocalPath.h"
 #include "cli/ScanController.h"
+#include "cli/ScanOutput.h"
 #include "cli/ScanRehearsal.h"
 #include <algorithm>
 #include <QFileInfo>
@@ -31,6 +32,7 @@ QList<QCommandLineOption> ScanCommand::options() const
         {QStringLiteral("prune"),
          tr("Go on while a folder is missing or suddenly empty; its designs leave the catalogue.")},
         {QStringLiteral("dry-run"), tr("Only tell what would happen.")},
+        {QStringLiteral("json"), tr("Tell it as JSON objects, a line each.")},
     };
 }
 
@@ -38,20 +40,24 @@ int ScanCommand::run(const CommandLine &line) const
 {
     const QStringList folders = parseFolders(line.positionalArguments());
     const bool prune = line.isSet("prune");
+    const bool json = line.isSet("json");
+    CatalogueChoice::expectRoomForPictures();
     GSettings::setReadOnly(line.isSet("dry-run"));
     if (line.isSet("dry-run"))
-        return ScanRehearsal(folders).run(prune);
+        return ScanRehearsal(folders, json).run(prune);
 
     ScanController controller(prune);
     controller.open();
+    ScanOutput output(json);
     {
-        const auto named = qScopeGuard([&controller] {
-            nameUnreadable(controller);
-            nameSkipped(controller);
+        const auto named = qScopeGuard([&] {
+            output.tellUnreadable(controller.unreadableFiles());
+            output.tellSkipped(controller.lastReport().skipped);
         });
         synchronise(controller, folders);
     }
-    return report(controller);
+    output.tellCounts(controller.lastScan());
+    return finish(controller, output);
 }
 
 QStringList ScanCommand::parseFolders(const QStringList &names)
@@ -77,39 +83,8 @@ void ScanCommand::synchronise(ScanController &controller, const QStringList &fol
     controller.setProgressAbortListener(nullptr);
 }
 
-void ScanCommand::nameUnreadable(const ScanController &controller)
+int ScanCommand::finish(const ScanController &controller, ScanOutput &output)
 {
-    const QList<UnreadableFile> unreadable = controller.unreadableFiles();
-    for (const UnreadableFile &file : unreadable)
-        Console::reportError(file.reason.contains(file.path)
-                                 ? file.reason
-                                 : QStringLiteral("%1: %2").arg(file.path, file.reason));
-}
-
-void ScanCommand::nameSkipped(const ScanController &controller)
-{
-    const QVector<SkippedEntry> skipped = controller.lastReport().skipped;
-    for (const SkippedEntry &entry : skipped)
-        Console::reportError(
-            QStringLiteral("%1: %2").arg(entry.path, entry.kind == SkippedEntry::UndecodableName
-                                                         ? tr("left out, the name is no valid text")
-                                                         : entry.reason));
-}
-
-int ScanCommand::report(const ScanController &controller)
-{
-    const SyncCounts done = controller.lastScan();
-    if (done.unreached > 0)
-        Console::reportError(
-            tr("Stopped; %n new design(s) are still to be read.", nullptr, done.unreached));
-
-    StandardOutput output;
-    output.writeLine(QStringLiteral("added %1, updated %2, moved %3, removed %4, unreadable %5")
-                         .arg(done.added - done.unreached)
-                         .arg(done.updated)
-                         .arg(done.reconnected)
-                         .arg(done.removed)
-                         .arg(done.unreadable));
     const bool written = output.flush();
     if (Interrupt::received() != 0)
         return SignalReceived + Interrupt::received();

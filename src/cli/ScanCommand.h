@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class ScanController;
+class ScanOutput;
 
 /** Adds folders to the catalogue and brings it into line with the disk. */
 class ScanCommand : public Command
@@ -17,13 +18,12 @@ public:
     QString arguments() const override { return QStringLiteral("[options] [FOLDER...]"); }
     QString description() const override;
     QList<QCommandLineOption> options() const override;
+    bool usesCatalogue() const override { return true; }
     bool writes() const override { return true; }
     int run(const CommandLine &line) const override;
 
 private:
     static QStringList parseFolders(const QStringList &names);
     static void synchronise(ScanController &controller, const QStringList &folders);
-    static void nameUnreadable(const ScanController &controller);
-    static void nameSkipped(const ScanController &controller);
-    static int report(const ScanController &controller);
+    static int finish(const ScanController &controller, ScanOutput &output);
 };

@@ -12,7 +12,10 @@
 #include <QDir>
 #include <QFileInfo>
 
-ScanRehearsal::ScanRehearsal(const QStringList &folders) : m_folders(folders) {}
+ScanRehearsal::ScanRehearsal(const QStringList &folders, bool asJson)
+    : m_folders(folders), m_output(asJson)
+{
+}
 
 int ScanRehearsal::run(bool prune)
 {
@@ -41,17 +44,13 @@ int ScanRehearsal::run(bool prune)
             continue;
         }
         m_vanished.remove(twin->absoluteFilePath());
-        tell("move", twin->absoluteFilePath() + QStringLiteral(" -> ") + path);
+        m_output.tellFile("move", twin->absoluteFilePath(), path);
         ++m_counts.reconnected;
     }
     for (const File &file : qAsConst(m_vanished))
-        tell("remove", file->absoluteFilePath());
-    m_output.writeLine(QStringLiteral("would add %1, update %2, move %3, remove %4, unreadable %5")
-                           .arg(m_counts.added)
-                           .arg(m_counts.updated)
-                           .arg(m_counts.reconnected)
-                           .arg(m_vanished.size())
-                           .arg(m_counts.unreadable));
+        m_output.tellFile("remove", file->absoluteFilePath());
+    m_counts.removed = m_vanished.size();
+    m_output.tellPlan(m_counts);
     return m_output.flush() ? Success : Failure;
 }
 
@@ -84,7 +83,7 @@ QStringList ScanRehearsal::designsOnDisk() const
 void ScanRehearsal::judge(const QString &path, const char *what, int &count)
 {
     const bool readable = QFileInfo(path).isReadable();
-    tell(readable ? what : "unreadable", path);
+    m_output.tellFile(readable ? what : "unreadable", path);
     ++(readable ? count : m_counts.unreadable);
 }
 
@@ -116,9 +115,4 @@ ScanRehearsal::File ScanRehearsal::takeVanishedTwin(const QString &path)
         }
     }
     return {};
-}
-
-void ScanRehearsal::tell(const char *what, const QString &path)
-{
-    m_output.writeLine(QLatin1String(what) + QLatin1Char(' ') + Console::printable(path));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/sync/ProjectController.h"
-#include "cli/Console.h"
+#include "cli/ScanOutput.h"
 #include <QCoreApplication>
 #include <QMap>
 #include <QMultiHash>
@@ -13,8 +13,11 @@ class ScanRehearsal
     Q_DECLARE_TR_FUNCTIONS(ScanRehearsal)
 
 public:
-    /** @param folders that the scan would add, by absolute path */
-    explicit ScanRehearsal(const QStringList &folders);
+    /**
+     * @param folders that the scan would add, by absolute path
+     * @param asJson whether programs are told rather than people
+     */
+    ScanRehearsal(const QStringList &folders, bool asJson);
 
     /**
      * @param prune whether folders that are missing would be no obstacle
@@ -31,12 +34,11 @@ private:
     void judge(const QString &path, const char *what, int &count);
     bool isUnchanged(const IFile &file) const;
     File takeVanishedTwin(const QString &path);
-    void tell(const char *what, const QString &path);
 
     const QStringList m_folders;
     ProjectController m_controller;
     QMap<QString, File> m_vanished; ///< by path; all that are known, until they are met
     QMultiHash<int, File> m_vanishedBySize;
     SyncCounts m_counts;
-    StandardOutput m_output;
+    ScanOutput m_output;
 };
