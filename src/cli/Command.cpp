@@ -4,9 +4,13 @@
 #include "cli/CatalogueChoice.h"
 #include "cli/CommandError.h"
 #include "cli/DuplicatesCommand.h"
+#include "cli/FavoriteCommand.h"
+#include "cli/FoldersCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
+#include "cli/NoteCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/TagCommand.h"
 
 QString Command::usage() const
 {
@@ -34,9 +38,13 @@ Commands allCommands()
 {
     Commands commands;
     commands.push_back(std::make_unique<ScanCommand>());
+    commands.push_back(std::make_unique<FoldersCommand>());
     commands.push_back(std::make_unique<InspectCommand>());
     commands.push_back(std::make_unique<ListCommand>());
     commands.push_back(std::make_unique<DuplicatesCommand>());
+    commands.push_back(std::make_unique<TagCommand>());
+    commands.push_back(std::make_unique<NoteCommand>());
+    commands.push_back(std::make_unique<FavoriteCommand>());
     return commands;
 }
 
