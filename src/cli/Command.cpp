@@ -4,8 +4,10 @@
 #include "cli/CatalogueChoice.h"
 #include "cli/CommandError.h"
 #include "cli/DuplicatesCommand.h"
+#include "cli/ExportCommand.h"
 #include "cli/FavoriteCommand.h"
 #include "cli/FoldersCommand.h"
+#include "cli/ImportCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/NoteCommand.h"
@@ -45,6 +47,8 @@ Commands allCommands()
     commands.push_back(std::make_unique<TagCommand>());
     commands.push_back(std::make_unique<NoteCommand>());
     commands.push_back(std::make_unique<FavoriteCommand>());
+    commands.push_back(std::make_unique<ExportCommand>());
+    commands.push_back(std::make_unique<ImportCommand>());
     return commands;
 }
 

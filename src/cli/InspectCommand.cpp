@@ -5,7 +5,7 @@
 #include "cli/Console.h"
 #include "cli/DesignFile.h"
 #include "cli/DesignReport.h"
-#include "cli/RenderTarget.h"
+#include "cli/OutputFile.h"
 #include "preview/render/PngEncoder.h"
 #include "preview/render/PreviewRenderer.h"
 #include <QImage>
@@ -49,7 +49,7 @@ int InspectCommand::run(const CommandLine &line) const
     const int size = parseSize(line.value("size"));
     const bool renders = line.isSet("render");
     if (renders)
-        RenderTarget::check(line.value("render"), names, line.isSet("force"));
+        OutputFile::check(line.value("render"), names, line.isSet("force"));
     if (renders && names.size() != 1)
         throw UsageError(tr("Only one file can be rendered at a time."));
 
@@ -90,6 +90,6 @@ bool InspectCommand::render(const DesignFile &file, const CommandLine &line, int
         Console::reportError(tr("%1: The design has no extent to show.").arg(file.name()));
         return false;
     }
-    RenderTarget::write(line.value("render"), PngEncoder::encode(image));
+    OutputFile::write(line.value("render"), PngEncoder::encode(image));
     return true;
 }

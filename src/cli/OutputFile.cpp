@@ -1,6 +1,7 @@
-#include "cli/RenderTarget.h"
+#include "cli/OutputFile.h"
 
 #include "base/files/FileTools.h"
+#include "base/GlobalSettings.h"
 #include "cli/CommandError.h"
 #include "cli/LocalPath.h"
 #include "embroidery/EmbroideryIO.h"
@@ -28,27 +29,28 @@ bool isSameFile(const QString &one, const QString &other)
 
 } // namespace
 
-void RenderTarget::check(const QString &name, const QStringList &designs, bool replace)
+void OutputFile::check(const QString &name, const QStringList &sources, bool replace)
 {
     const QString path = LocalPath::of(name);
     const QFileInfo info(path);
     if (hasDesignExtension(path) || (info.exists() && hasDesignExtension(info.canonicalFilePath())))
-        throw UsageError(tr("The picture must not bear the name of a design: %1").arg(name));
-    if (std::any_of(designs.begin(), designs.end(),
-                    [&](const QString &design) { return isSameFile(path, LocalPath::of(design)); }))
-        throw UsageError(tr("The picture must not replace a design: %1").arg(name));
+        throw UsageError(tr("The output must not bear the name of a design: %1").arg(name));
+    const QStringList kept = sources + QStringList(GlobalSettings().catalogueFilePath());
+    if (std::any_of(kept.begin(), kept.end(),
+                    [&](const QString &source) { return isSameFile(path, LocalPath::of(source)); }))
+        throw UsageError(tr("The output must not replace what is read: %1").arg(name));
     if (info.isDir())
         throw Error(tr("'%1' is a folder").arg(name));
     if (info.exists() && !replace)
         throw Error(tr("'%1' exists; --force replaces it").arg(name));
 }
 
-void RenderTarget::write(const QString &name, const QByteArray &picture)
+void OutputFile::write(const QString &name, const QByteArray &bytes)
 {
     const QString path = LocalPath::of(name);
     const QString folder = QFileInfo(path).path();
     // A folder that is made by mistake would be harder to find than an error.
     if (!QFileInfo::exists(folder))
         throw Error(tr("Failed to write %1: the folder '%2' is not there").arg(name, folder));
-    FileTools::writeAll(path, picture, FileTools::Binary, FileReplacement::UntilRestart);
+    FileTools::writeAll(path, bytes, FileTools::Binary, FileReplacement::UntilRestart);
 }
