@@ -13,6 +13,7 @@
 #include "cli/NoteCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/TagCommand.h"
+#include "cli/ThumbnailsCommand.h"
 
 QString Command::usage() const
 {
@@ -44,6 +45,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<InspectCommand>());
     commands.push_back(std::make_unique<ListCommand>());
     commands.push_back(std::make_unique<DuplicatesCommand>());
+    commands.push_back(std::make_unique<ThumbnailsCommand>());
     commands.push_back(std::make_unique<TagCommand>());
     commands.push_back(std::make_unique<NoteCommand>());
     commands.push_back(std::make_unique<FavoriteCommand>());

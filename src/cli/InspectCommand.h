@@ -2,9 +2,6 @@
 
 #include "cli/Command.h"
 #include <QCoreApplication>
-#include <QStringList>
-
-class DesignFile;
 
 /** Reads designs and tells about them. */
 class InspectCommand : public Command
@@ -18,8 +15,4 @@ public:
     QString description() const override;
     QList<QCommandLineOption> options() const override;
     int run(const CommandLine &line) const override;
-
-private:
-    static int parseSize(const QString &text);
-    static bool render(const DesignFile &file, const CommandLine &line, int size);
 };
