@@ -3,6 +3,7 @@
 #include "base/Spelling.h"
 #include "cli/CatalogueChoice.h"
 #include "cli/CommandError.h"
+#include "cli/CompletionsCommand.h"
 #include "cli/DuplicatesCommand.h"
 #include "cli/ExportCommand.h"
 #include "cli/FavoriteCommand.h"
@@ -51,6 +52,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<FavoriteCommand>());
     commands.push_back(std::make_unique<ExportCommand>());
     commands.push_back(std::make_unique<ImportCommand>());
+    commands.push_back(std::make_unique<CompletionsCommand>());
     return commands;
 }
 
