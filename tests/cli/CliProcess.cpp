@@ -51,8 +51,12 @@ CliProcess::Result CliProcess::finish(QProcess &process)
     return result;
 }
 
-CliProcess::Result CliProcess::run(const QStringList &arguments) const
+CliProcess::Result CliProcess::run(const QStringList &arguments, const QByteArray &input) const
 {
     QProcess process;
-    return start(process, arguments) ? finish(process) : Result();
+    if (!start(process, arguments))
+        return {};
+    process.write(input);
+    process.closeWriteChannel();
+    return finish(process);
 }

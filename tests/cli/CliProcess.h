@@ -25,7 +25,8 @@ public:
 
     CliProcess();
 
-    Result run(const QStringList &arguments) const;
+    /** @param input what comes from standard input */
+    Result run(const QStringList &arguments, const QByteArray &input = {}) const;
     /** Gives @p process its environment and starts it. */
     bool start(QProcess &process, const QStringList &arguments,
                const QString &program = QStringLiteral(CLI_PATH)) const;

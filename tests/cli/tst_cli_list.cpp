@@ -25,6 +25,8 @@ private slots:
     void tellsAllAboutRecords();
     void tellsWhereTheSearchIsWrong();
     void quotesCsv();
+    void printsOwnForms_data();
+    void printsOwnForms();
     void printsTable();
     void showsAllToPeople_data();
     void showsAllToPeople();
@@ -133,6 +135,34 @@ void CliListTest::quotesCsv()
     QVERIFY2(result.out.contains(
                  ",\"two\nlines\",\"flowers;red;\"\"a;b,\"\"\"\"c\"\"\"\"\"\"\",false\n"),
              result.out);
+}
+
+void CliListTest::printsOwnForms_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("output");
+    const QByteArray rose = m_cli.workPath("designs/flowers/a,\"b\".dst").toUtf8();
+    const QByteArray two = m_cli.workPath("designs/Item2.DST").toUtf8();
+    QTest::newRow("count") << QStringList{"--count"} << QByteArray("3\n");
+    QTest::newRow("count of none") << QStringList{"--count", "--tag", "no"} << QByteArray("0\n");
+    QTest::newRow("files") << QStringList{"-0", "--search", "-name:10"} << rose + '\0' + two + '\0';
+    QTest::newRow("fields") << QStringList{"--format", "{name}\\t{width_mm}x{height_mm} {{{tags}}",
+                                           "--favorites"}
+                            << QByteArray("Ten\t6x6 {}\n");
+    QTest::newRow("fields with NUL") << QStringList{"--null", "--format", "{stitch_count}\\\\n\\n"}
+                                     << QByteArray("8\\n\n\0"
+                                                   "8\\n\n\0"
+                                                   "8\\n\n\0",
+                                                   15);
+}
+
+void CliListTest::printsOwnForms()
+{
+    QFETCH(QStringList, options);
+    const auto result = m_cli.run(QStringList{"list"} + options);
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.error, QByteArray());
+    QTEST(result.out, "output");
 }
 
 void CliListTest::printsTable()

@@ -34,6 +34,7 @@ private slots:
     void refusesWhileAFolderIsMissing_data();
     void refusesWhileAFolderIsMissing();
     void rehearsesWhatItDoes();
+    void tellsPrograms();
     void namesWhatTheDiskDoesNotGive();
     void fullDiskLeavesTheCatalogue();
     void windsDownOnInterrupt();
@@ -137,7 +138,7 @@ void CliScanTest::refusesWhileTheLockIsHeld_data()
 {
     QTest::addColumn<QString>("holder");
     QTest::addColumn<QByteArray>("message");
-    QTest::newRow("scan") << "hoopline-cli" << QByteArray("Another scan is running");
+    QTest::newRow("command") << "hoopline-cli" << QByteArray("Another hoopline-cli is working");
     QTest::newRow("organiser elsewhere")
         << "hoopline-organizer" << QByteArray("Hoopline Organizer is running");
 }
@@ -242,6 +243,29 @@ void CliScanTest::rehearsesWhatItDoes()
     QCOMPARE(catalogue(), before);
     QCOMPARE(m_cli->run({"scan", "more"}).lastLine(),
              QByteArray("added 1, updated 1, moved 1, removed 1, unreadable 0"));
+}
+
+void CliScanTest::tellsPrograms()
+{
+    makeDesigns(1);
+    QVERIFY(CatalogueFolder::write(m_cli->workPath("designs/bad.hus"), "junk"));
+    const auto plan = m_cli->run({"scan", "--json", "--dry-run", "designs"});
+    const QByteArrayList planned = plan.out.trimmed().split('\n');
+    QCOMPARE(planned.size(), 3);
+    QVERIFY2(plan.out.contains("{\"action\": \"add\", \"file\": \"" +
+                               m_cli->workPath("designs/0.dst").toUtf8() + "\"}\n"),
+             plan.out);
+    QVERIFY2(plan.lastLine().startsWith("{\"added\": 2, "), plan.out);
+
+    const auto result = m_cli->run({"scan", "--json", "designs"});
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY2(result.out.startsWith("{\"action\": \"unreadable\", \"file\": "), result.out);
+    QCOMPARE(result.lastLine(), QByteArray("{\"added\": 2, \"updated\": 0, \"moved\": 0, "
+                                           "\"removed\": 0, \"unreadable\": 1, "
+                                           "\"unreached\": 0}"));
+    QVERIFY(QFile::rename(m_cli->workPath("designs/0.dst"), m_cli->workPath("designs/n.dst")));
+    const auto move = m_cli->run({"scan", "--json", "--dry-run"});
+    QVERIFY2(move.out.contains("0.dst\", \"to\": \""), move.out);
 }
 
 void CliScanTest::namesWhatTheDiskDoesNotGive()

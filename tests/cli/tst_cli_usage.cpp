@@ -11,10 +11,16 @@ private slots:
     void answersHelp();
     void refusesWrongUsage_data();
     void refusesWrongUsage();
+    void suggestsWhatWasMeant_data();
+    void suggestsWhatWasMeant();
     void tellsItsVersion();
     void failsWhenOutputIsLost_data();
     void failsWhenOutputIsLost();
     void manualPageTellsAllOptions();
+    void shellsCanReadTheirCompletions_data();
+    void shellsCanReadTheirCompletions();
+    void bashCompletes_data();
+    void bashCompletes();
     void hasNoWayToTheNetwork();
     void speaksTheLanguageOfTheSystem();
 };
@@ -48,7 +54,7 @@ void CliUsageTest::refusesWrongUsage_data()
     QTest::newRow("unknown command") << QStringList{"sing"};
     QTest::newRow("help for nothing known") << QStringList{"help", "sing"};
     QTest::newRow("unknown option") << QStringList{"--json"};
-    QTest::newRow("unknown to scan") << QStringList{"scan", "--json"};
+    QTest::newRow("unknown to scan") << QStringList{"scan", "--csv"};
     QTest::newRow("unknown to inspect") << QStringList{"inspect", "--loud", "a.dst"};
     QTest::newRow("unknown short") << QStringList{"list", "-x"};
     QTest::newRow("inspect nothing") << QStringList{"inspect"};
@@ -67,6 +73,24 @@ void CliUsageTest::refusesWrongUsage_data()
     QTest::newRow("unfinished search") << QStringList{"list", "--search", "tag:"};
     QTest::newRow("unknown order") << QStringList{"list", "--sort", "beauty"};
     QTest::newRow("empty folder") << QStringList{"list", "--folder", ""};
+    QTest::newRow("count and files") << QStringList{"list", "--count", "-0"};
+    QTest::newRow("unknown field") << QStringList{"list", "--format", "{nmae}"};
+    QTest::newRow("open field") << QStringList{"list", "--format", "{name"};
+    QTest::newRow("catalogue that is a folder") << QStringList{"list", "--catalogue", "."};
+    QTest::newRow("picture among JSON") << QStringList{"inspect", "--json", "--render", "-", "a"};
+    QTest::newRow("tag what") << QStringList{"tag"};
+    QTest::newRow("nothing to tag") << QStringList{"tag", "add", "x"};
+    QTest::newRow("dash among names") << QStringList{"favorite", "-", "a.dst"};
+    QTest::newRow("names and a search") << QStringList{"favorite", "a.dst", "--search", "x"};
+    QTest::newRow("NUL without input") << QStringList{"favorite", "-0", "a.dst"};
+    QTest::newRow("note nothing") << QStringList{"note"};
+    QTest::newRow("note both ways") << QStringList{"note", "--append", "--replace", "x", "a.dst"};
+    QTest::newRow("import nothing") << QStringList{"import"};
+    QTest::newRow("import two") << QStringList{"import", "a", "b"};
+    QTest::newRow("export two") << QStringList{"export", "a", "b"};
+    QTest::newRow("thumbnails nowhere") << QStringList{"thumbnails"};
+    QTest::newRow("remove no folder") << QStringList{"folders", "remove"};
+    QTest::newRow("unknown shell") << QStringList{"completions", "csh"};
 }
 
 void CliUsageTest::refusesWrongUsage()
@@ -79,6 +103,30 @@ void CliUsageTest::refusesWrongUsage()
     QCOMPARE(lines.size(), 2);
     QVERIFY2(lines.at(0).startsWith("hoopline-cli: "), result.error);
     QVERIFY2(lines.at(1).startsWith("Usage: hoopline-cli "), result.error);
+}
+
+void CliUsageTest::suggestsWhatWasMeant_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("meant");
+    QTest::newRow("swapped") << QStringList{"lsit"} << QByteArray("'list'");
+    QTest::newRow("left out") << QStringList{"favrite"} << QByteArray("'favorite'");
+    QTest::newRow("help for it") << QStringList{"help", "Scna"} << QByteArray("'scan'");
+    QTest::newRow("option") << QStringList{"list", "--serch=x"} << QByteArray("'search'");
+    QTest::newRow("common option") << QStringList{"list", "--hlep"} << QByteArray("'help'");
+    QTest::newRow("field") << QStringList{"list", "--format", "{stich_count}"}
+                           << QByteArray("'stitch_count'");
+    QTest::newRow("nothing like it") << QStringList{"dance"} << QByteArray();
+}
+
+void CliUsageTest::suggestsWhatWasMeant()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, meant);
+    const auto result = CliProcess().run(arguments);
+    QCOMPARE(result.status, 2);
+    QCOMPARE(result.error.contains("Did you mean"), !meant.isEmpty());
+    QVERIFY2(result.error.contains("Did you mean " + meant) || meant.isEmpty(), result.error);
 }
 
 void CliUsageTest::tellsItsVersion()
@@ -139,6 +187,63 @@ void CliUsageTest::manualPageTellsAllOptions()
     while (options.hasNext())
         written.insert(options.next().captured());
     QCOMPARE(written, told);
+}
+
+void CliUsageTest::shellsCanReadTheirCompletions_data()
+{
+    QTest::addColumn<QString>("shell");
+    for (const char *shell : {"bash", "zsh", "fish"})
+        QTest::newRow(shell) << QString(shell);
+}
+
+void CliUsageTest::shellsCanReadTheirCompletions()
+{
+    QFETCH(QString, shell);
+    const auto result = CliProcess().run({"completions", shell});
+    QCOMPARE(result.status, 0);
+    QVERIFY(result.out.contains("dry-run"));
+    if (QStandardPaths::findExecutable(shell).isEmpty())
+        QSKIP("the shell is not installed");
+    QProcess process;
+    process.start(shell, {"-n"});
+    process.write(result.out);
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void CliUsageTest::bashCompletes_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QByteArray>("completions");
+    QTest::newRow("command") << "th" << QByteArray("thumbnails");
+    QTest::newRow("of help") << "help fo" << QByteArray("folders");
+    QTest::newRow("option") << "list --fo" << QByteArray("--folder --format");
+    QTest::newRow("common option") << "scan --cat" << QByteArray("--catalogue");
+    QTest::newRow("verb") << "tag r" << QByteArray("remove");
+    QTest::newRow("file") << "inspect some" << QByteArray("some design.dst");
+    QTest::newRow("value") << "inspect --render some" << QByteArray("some design.dst");
+}
+
+void CliUsageTest::bashCompletes()
+{
+    QFETCH(QString, words);
+    if (QStandardPaths::findExecutable("bash").isEmpty())
+        QSKIP("the shell is not installed");
+    const CliProcess cli;
+    QFile file(cli.workPath("some design.dst"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QString script = QString::fromUtf8(cli.run({"completions", "bash"}).out) +
+                           QStringLiteral("COMP_WORDS=(hoopline-cli %1)\n"
+                                          "COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
+                                          "_hoopline_cli; echo \"${COMPREPLY[*]}\"\n")
+                               .arg(words);
+    QProcess process;
+    process.setWorkingDirectory(cli.workPath());
+    process.start("bash", {"--norc", "-c", script});
+    QVERIFY(process.waitForFinished());
+    QTEST(process.readAllStandardOutput().trimmed(), "completions");
 }
 
 void CliUsageTest::hasNoWayToTheNetwork()
