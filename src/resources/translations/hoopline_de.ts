@@ -2,10 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AnnotationReader</name>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>Der Text ist nicht in UTF-8.</translation>
+    </message>
+    <message>
+        <source>it is no JSON object</source>
+        <translation>er ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>its &apos;%1&apos; is none</source>
+        <translation>sein „%1“ ist keines</translation>
+    </message>
+    <message>
+        <source>The first line names neither a column &apos;md5&apos; nor a column &apos;file&apos;.</source>
+        <translation>Die erste Zeile nennt weder eine Spalte „md5“ noch eine Spalte „file“.</translation>
+    </message>
+    <message>
+        <source>it has another number of fields than the first line</source>
+        <translation>er hat eine andere Zahl von Feldern als die erste Zeile</translation>
+    </message>
+    <message>
+        <source>it has neither md5 nor file</source>
+        <translation>er hat weder „md5“ noch „file“</translation>
+    </message>
+    <message>
+        <source>Entry %1 is wrong: %2.</source>
+        <translation>Eintrag %1 ist falsch: %2.</translation>
+    </message>
+</context>
+<context>
     <name>BackgroundWork</name>
     <message>
         <source>The system has no thread left for this.</source>
         <translation>Das System hat dafür keinen Thread mehr frei.</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueChoice</name>
+    <message>
+        <source>Work on this catalogue rather than the organizer&apos;s.</source>
+        <translation>Mit diesem Katalog arbeiten statt mit dem des Organizers.</translation>
+    </message>
+    <message>
+        <source>The catalogue must be a file.</source>
+        <translation>Der Katalog muss eine Datei sein.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue &apos;%1&apos;.</source>
+        <translation>Es gibt keinen Katalog „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
+    </message>
+    <message>
+        <source>A catalogue that is scanned must be named &apos;%1&apos;: its pictures lie beside it.</source>
+        <translation>Ein Katalog, in den eingelesen wird, muss „%1“ heißen: Seine Bilder liegen daneben.</translation>
+    </message>
+    <message>
+        <source>A new catalogue needs a new or empty folder: its pictures lie beside it.</source>
+        <translation>Ein neuer Katalog braucht einen neuen oder leeren Ordner: Seine Bilder liegen daneben.</translation>
     </message>
 </context>
 <context>
@@ -169,6 +227,25 @@
     </message>
 </context>
 <context>
+    <name>Command</name>
+    <message>
+        <source>What to do must be one of: %1.</source>
+        <translation>Was zu tun ist, muss eines hiervon sein: %1.</translation>
+    </message>
+    <message>
+        <source>Did you mean &apos;%1&apos;?</source>
+        <translation>War „%1“ gemeint?</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>Die Version ausgeben.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Usage: %1</source>
@@ -216,6 +293,24 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Print the help of a command.</source>
         <translation>Die Hilfe eines Befehls ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>CompletionsCommand</name>
+    <message>
+        <source>Print the completions of a shell.</source>
+        <translation>Die Vervollständigungen einer Shell ausgeben.</translation>
+    </message>
+    <message>
+        <source>Prints a script that lets the shell complete commands, options and files. The packages bring it along.</source>
+        <translation>Gibt ein Skript aus, mit dem die Shell Befehle, Optionen und Dateien vervollständigt. Die Pakete bringen es mit.</translation>
+    </message>
+</context>
+<context>
+    <name>Csv</name>
+    <message>
+        <source>A quotation mark has no partner.</source>
+        <translation>Ein Anführungszeichen hat kein Gegenstück.</translation>
     </message>
 </context>
 <context>
@@ -269,6 +364,28 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>no hoop fits</source>
         <translation>kein Rahmen passt</translation>
+    </message>
+</context>
+<context>
+    <name>DesignFormat</name>
+    <message>
+        <source>Unknown field &apos;{%1}&apos;; there are %2.</source>
+        <translation>Unbekanntes Feld „{%1}“; es gibt %2.</translation>
+    </message>
+</context>
+<context>
+    <name>DesignPicture</name>
+    <message>
+        <source>Longer side of the picture in pixels; 400 if not given.</source>
+        <translation>Längere Seite des Bildes in Pixeln; ohne Angabe 400.</translation>
+    </message>
+    <message>
+        <source>The size must be a number from 1 to %1.</source>
+        <translation>Die Größe muss eine Zahl von 1 bis %1 sein.</translation>
+    </message>
+    <message>
+        <source>%1: The design has no extent to show.</source>
+        <translation>%1: Das Stickmuster hat keine darstellbare Ausdehnung.</translation>
     </message>
 </context>
 <context>
@@ -330,6 +447,45 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Colors</source>
         <translation>Farben</translation>
+    </message>
+</context>
+<context>
+    <name>DesignSelection</name>
+    <message>
+        <source>The designs that match, as with list --search.</source>
+        <translation>Die Stickmuster, auf die das zutrifft, wie bei list --search.</translation>
+    </message>
+    <message>
+        <source>Names on standard input end with a NUL rather than a line.</source>
+        <translation>Namen von der Standardeingabe enden mit NUL statt mit der Zeile.</translation>
+    </message>
+    <message>
+        <source>Choose designs by their names or by --search.</source>
+        <translation>Wählen Sie Stickmuster entweder nach Namen oder mit --search.</translation>
+    </message>
+    <message>
+        <source>No design given.</source>
+        <translation>Kein Stickmuster angegeben.</translation>
+    </message>
+    <message>
+        <source>A dash must be the only name of a design.</source>
+        <translation>Ein Strich muss der einzige Name eines Stickmusters sein.</translation>
+    </message>
+    <message>
+        <source>--null is for names on standard input.</source>
+        <translation>--null gilt für Namen von der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the catalogue</source>
+        <translation>%1 ist nicht im Katalog</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The search is wrong at character %1, &apos;%2&apos;: %3</source>
+        <translation>Die Suche ist falsch bei Zeichen %1, „%2“: %3</translation>
     </message>
 </context>
 <context>
@@ -588,10 +744,6 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Print one JSON object per group, a line each.</source>
         <translation>Je Gruppe ein JSON-Objekt ausgeben, jedes in einer Zeile.</translation>
     </message>
-    <message>
-        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
-        <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
-    </message>
     <message numerus="yes">
         <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
         <translation>
@@ -715,6 +867,16 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>EditCommand</name>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n Stickmuster</numerusform>
+            <numerusform>%n Stickmuster</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>EmptyHint</name>
     <message>
         <source>Add a folder with embroidery designs to begin.</source>
@@ -739,6 +901,55 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Show all designs</source>
         <translation>Alle Stickmuster zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ExclusiveController</name>
+    <message>
+        <source>Another hoopline-cli is working on the catalogue.</source>
+        <translation>Ein anderes hoopline-cli arbeitet am Katalog.</translation>
+    </message>
+    <message>
+        <source>The catalogue was changed meanwhile. Nothing was saved.</source>
+        <translation>Der Katalog wurde inzwischen geändert. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Hoopline Organizer was started meanwhile. Nothing was saved.</source>
+        <translation>Hoopline Organizer wurde inzwischen gestartet. Es wurde nichts gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCommand</name>
+    <message>
+        <source>Write tags, notes and stars, to take them along.</source>
+        <translation>Schlagwörter, Notizen und Sterne ausgeben, um sie mitzunehmen.</translation>
+    </message>
+    <message>
+        <source>Writes the tags, notes and stars of the catalogue to a file, or to standard output: a line for each design that has any, known by its content, its path and its name. &apos;hoopline-cli import&apos; reads it.</source>
+        <translation>Schreibt die Schlagwörter, Notizen und Sterne des Katalogs in eine Datei oder auf die Standardausgabe: eine Zeile für jedes Stickmuster, das welche hat, mit Inhalt, Pfad und Namen als Kennzeichen. „hoopline-cli import“ liest das.</translation>
+    </message>
+    <message>
+        <source>Write JSON, as without it for a FILE that ends in .json.</source>
+        <translation>JSON schreiben, wie ohne die Option bei einer Datei auf .json.</translation>
+    </message>
+    <message>
+        <source>Write comma-separated values, as for all others.</source>
+        <translation>Kommagetrennte Werte schreiben, wie bei allen anderen.</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there.</source>
+        <translation>Eine vorhandene Datei ersetzen.</translation>
+    </message>
+    <message>
+        <source>Choose one of --json and --csv.</source>
+        <translation>Wählen Sie entweder --json oder --csv.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n Stickmuster</numerusform>
+            <numerusform>%n Stickmuster</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -854,6 +1065,21 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>FavoriteCommand</name>
+    <message>
+        <source>Make designs favorites, or no longer.</source>
+        <translation>Stickmuster zu Favoriten machen, oder nicht länger.</translation>
+    </message>
+    <message>
+        <source>Makes the designs favorites. A dash reads their names from standard input.</source>
+        <translation>Macht die Stickmuster zu Favoriten. Ein Strich liest ihre Namen von der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>They are no longer favorites.</source>
+        <translation>Sie sind keine Favoriten mehr.</translation>
+    </message>
+</context>
+<context>
     <name>FilterBar</name>
     <message>
         <source>any</source>
@@ -955,6 +1181,51 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>FoldersCommand</name>
+    <message>
+        <source>&apos;%1&apos; is none of the catalogue&apos;s folders</source>
+        <translation>„%1“ ist keiner der Ordner des Katalogs</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</source>
+        <translation>
+            <numerusform>%n Stickmuster darin hat Schlagwörter, Notizen oder einen Stern; „hoopline-cli export“ bewahrt sie. --force entfernt die Ordner trotzdem. Es wurde nichts geändert.</numerusform>
+            <numerusform>%n Stickmuster darin haben Schlagwörter, Notizen oder einen Stern; „hoopline-cli export“ bewahrt sie. --force entfernt die Ordner trotzdem. Es wurde nichts geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>List the folders of the catalogue, or take some out.</source>
+        <translation>Die Ordner des Katalogs auflisten oder einige herausnehmen.</translation>
+    </message>
+    <message>
+        <source>Lists the folders of the catalogue, or takes some and their designs out of it. On the disk nothing is changed.</source>
+        <translation>Listet die Ordner des Katalogs auf oder nimmt einige und ihre Stickmuster heraus. Auf der Festplatte ändert sich nichts.</translation>
+    </message>
+    <message>
+        <source>End each folder with a NUL rather than a line.</source>
+        <translation>Jeden Ordner mit NUL statt mit der Zeile beenden.</translation>
+    </message>
+    <message>
+        <source>Remove folders though tags, notes or stars go with them.</source>
+        <translation>Ordner entfernen, auch wenn Schlagwörter, Notizen oder Sterne mitgehen.</translation>
+    </message>
+    <message>
+        <source>No folder given.</source>
+        <translation>Kein Ordner angegeben.</translation>
+    </message>
+    <message>
+        <source>remove directory</source>
+        <translation>Ordner entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) left the catalogue</source>
+        <translation>
+            <numerusform>%n Stickmuster hat den Katalog verlassen</numerusform>
+            <numerusform>%n Stickmuster haben den Katalog verlassen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>GridEmbroideryItem</name>
     <message>
         <source>favorite</source>
@@ -977,6 +1248,29 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>ImportCommand</name>
+    <message>
+        <source>%1 is not in the catalogue</source>
+        <translation>%1 ist nicht im Katalog</translation>
+    </message>
+    <message>
+        <source>Bring exported tags, notes and stars into the catalogue.</source>
+        <translation>Ausgegebene Schlagwörter, Notizen und Sterne in den Katalog bringen.</translation>
+    </message>
+    <message>
+        <source>Brings the tags, notes and stars of a file that &apos;hoopline-cli export&apos; has written, or of standard input, to the designs of the same content, or else of the same path. What is there stays: notes are written below those that differ.</source>
+        <translation>Bringt die Schlagwörter, Notizen und Sterne einer Datei, die „hoopline-cli export“ geschrieben hat, oder der Standardeingabe zu den Stickmustern mit gleichem Inhalt, sonst mit gleichem Pfad. Was da ist, bleibt: Notizen werden unter abweichende geschrieben.</translation>
+    </message>
+    <message>
+        <source>Only tell what would happen.</source>
+        <translation>Nur sagen, was geschehen würde.</translation>
+    </message>
+    <message>
+        <source>No file given.</source>
+        <translation>Keine Datei angegeben.</translation>
+    </message>
+</context>
+<context>
     <name>InspectCommand</name>
     <message>
         <source>Reads designs and tells about them.</source>
@@ -991,28 +1285,12 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Mit --json jeden Punkt aufführen.</translation>
     </message>
     <message>
-        <source>Write the preview of the one file as PNG.</source>
-        <translation>Die Vorschau der einen Datei als PNG schreiben.</translation>
-    </message>
-    <message>
         <source>No file given.</source>
         <translation>Keine Datei angegeben.</translation>
     </message>
     <message>
-        <source>The size must be a number from 1 to %1.</source>
-        <translation>Die Größe muss eine Zahl von 1 bis %1 sein.</translation>
-    </message>
-    <message>
         <source>Only one file can be rendered at a time.</source>
         <translation>Es kann nur eine Datei auf einmal gezeichnet werden.</translation>
-    </message>
-    <message>
-        <source>%1: The design has no extent to show.</source>
-        <translation>%1: Das Stickmuster hat keine darstellbare Ausdehnung.</translation>
-    </message>
-    <message>
-        <source>Longer side of the preview in pixels; 400 if not given.</source>
-        <translation>Längere Seite der Vorschau in Pixeln; ohne Angabe 400.</translation>
     </message>
     <message>
         <source>Read designs and tell about them.</source>
@@ -1026,13 +1304,17 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>With --render, paint a square card: on white, with a margin.</source>
         <translation>Mit --render: als quadratische Karte malen, auf Weiß und mit Rand.</translation>
     </message>
+    <message>
+        <source>Write the preview of the one file as PNG; a dash is standard output.</source>
+        <translation>Die Vorschau der einen Datei als PNG schreiben; ein Strich ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Choose one of --json and a picture on standard output.</source>
+        <translation>Wählen Sie entweder --json oder ein Bild auf der Standardausgabe.</translation>
+    </message>
 </context>
 <context>
     <name>ListCommand</name>
-    <message>
-        <source>Choose one of --json and --csv.</source>
-        <translation>Wählen Sie entweder --json oder --csv.</translation>
-    </message>
     <message>
         <source>The folder must not be empty.</source>
         <translation>Der Ordner darf nicht leer sein.</translation>
@@ -1086,16 +1368,8 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Nur Favoriten.</translation>
     </message>
     <message>
-        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
-        <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
-    </message>
-    <message>
         <source>The order must be one of %1, perhaps with :desc behind it.</source>
         <translation>Die Reihenfolge muss %1 sein, vielleicht mit :desc dahinter.</translation>
-    </message>
-    <message>
-        <source>The search is wrong at character %1, &apos;%2&apos;: %3</source>
-        <translation>Die Suche ist falsch bei Zeichen %1, „%2“: %3</translation>
     </message>
     <message>
         <source>Only designs that match, as in the search field: text in the file name or the notes, and fields such as %1. The manual tells them all.</source>
@@ -1104,6 +1378,22 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Order by %1; with :desc behind it downwards.</source>
         <translation>Nach %1 ordnen; mit :desc dahinter absteigend.</translation>
+    </message>
+    <message>
+        <source>Choose one of %1.</source>
+        <translation>Wählen Sie eines von %1.</translation>
+    </message>
+    <message>
+        <source>Print a line of this form per design, for instance %1.</source>
+        <translation>Je Stickmuster eine Zeile dieser Form ausgeben, zum Beispiel %1.</translation>
+    </message>
+    <message>
+        <source>Print only how many designs there are.</source>
+        <translation>Nur ausgeben, wie viele Stickmuster es sind.</translation>
+    </message>
+    <message>
+        <source>Print the files, or lines of --format, each with a NUL behind it.</source>
+        <translation>Die Dateien, oder Zeilen von --format, mit je einem NUL dahinter ausgeben.</translation>
     </message>
 </context>
 <context>
@@ -1198,6 +1488,41 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>NoteCommand</name>
+    <message>
+        <source>Write notes on designs.</source>
+        <translation>Notizen zu Stickmustern schreiben.</translation>
+    </message>
+    <message>
+        <source>Writes notes on the designs. A dash reads the text, or the names of the designs, from standard input. Where there are other notes nothing is changed until you say what is to become of them.</source>
+        <translation>Schreibt Notizen zu den Stickmustern. Ein Strich liest den Text oder die Namen der Stickmuster von der Standardeingabe. Wo andere Notizen sind, wird nichts geändert, bis Sie sagen, was aus ihnen werden soll.</translation>
+    </message>
+    <message>
+        <source>Write below the notes that are there.</source>
+        <translation>Unter die vorhandenen Notizen schreiben.</translation>
+    </message>
+    <message>
+        <source>Replace the notes that are there.</source>
+        <translation>Die vorhandenen Notizen ersetzen.</translation>
+    </message>
+    <message>
+        <source>No text given.</source>
+        <translation>Kein Text angegeben.</translation>
+    </message>
+    <message>
+        <source>Choose one of --append and --replace.</source>
+        <translation>Wählen Sie entweder --append oder --replace.</translation>
+    </message>
+    <message>
+        <source>Only one thing can come from standard input.</source>
+        <translation>Von der Standardeingabe kann nur eines kommen.</translation>
+    </message>
+    <message>
+        <source>%1 has other notes; --append or --replace says what becomes of them. Nothing was changed.</source>
+        <translation>%1 hat andere Notizen; --append oder --replace sagt, was aus ihnen wird. Es wurde nichts geändert.</translation>
+    </message>
+</context>
+<context>
     <name>NoticeRow</name>
     <message>
         <source>Close</source>
@@ -1213,6 +1538,29 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
         <translation>Hoopline Organizer läuft. Schließen Sie es zuerst oder lesen Sie die Ordner in seinem Fenster neu ein.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>The output must not bear the name of a design: %1</source>
+        <translation>Die Ausgabe darf nicht wie ein Stickmuster heißen: %1</translation>
+    </message>
+    <message>
+        <source>The output must not replace what is read: %1</source>
+        <translation>Die Ausgabe darf nicht ersetzen, was gelesen wird: %1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a folder</source>
+        <translation>„%1“ ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists; --force replaces it</source>
+        <translation>„%1“ gibt es schon; --force ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
+        <translation>%1 konnte nicht geschrieben werden: Den Ordner „%2“ gibt es nicht</translation>
     </message>
 </context>
 <context>
@@ -1607,29 +1955,6 @@ Optionen:
     </message>
 </context>
 <context>
-    <name>RenderTarget</name>
-    <message>
-        <source>The picture must not bear the name of a design: %1</source>
-        <translation>Das Bild darf nicht wie ein Stickmuster heißen: %1</translation>
-    </message>
-    <message>
-        <source>The picture must not replace a design: %1</source>
-        <translation>Das Bild darf kein Stickmuster ersetzen: %1</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is a folder</source>
-        <translation>„%1“ ist ein Ordner</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; exists; --force replaces it</source>
-        <translation>„%1“ gibt es schon; --force ersetzt die Datei</translation>
-    </message>
-    <message>
-        <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
-        <translation>%1 konnte nicht geschrieben werden: Den Ordner „%2“ gibt es nicht</translation>
-    </message>
-</context>
-<context>
     <name>SavedSearches</name>
     <message>
         <source>A saved search needs a name.</source>
@@ -1700,31 +2025,13 @@ Optionen:
         <source>Only tell what would happen.</source>
         <translation>Nur sagen, was geschehen würde.</translation>
     </message>
-    <message numerus="yes">
-        <source>Stopped; %n new design(s) are still to be read.</source>
-        <translation>
-            <numerusform>Abgebrochen; %n neues Stickmuster ist noch zu lesen.</numerusform>
-            <numerusform>Abgebrochen; %n neue Stickmuster sind noch zu lesen.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>left out, the name is no valid text</source>
         <translation>ausgelassen, der Name ist kein gültiger Text</translation>
     </message>
-</context>
-<context>
-    <name>ScanController</name>
     <message>
-        <source>Hoopline Organizer was started during the scan. Nothing was saved.</source>
-        <translation>Hoopline Organizer wurde während des Einlesens gestartet. Es wurde nichts gespeichert.</translation>
-    </message>
-    <message>
-        <source>Another scan is running.</source>
-        <translation>Es läuft bereits ein Einlesevorgang.</translation>
-    </message>
-    <message>
-        <source>The catalogue was changed during the scan. Nothing was saved.</source>
-        <translation>Der Katalog wurde während des Einlesens geändert. Es wurde nichts gespeichert.</translation>
+        <source>Tell it as JSON objects, a line each.</source>
+        <translation>Es als JSON-Objekte sagen, je eines pro Zeile.</translation>
     </message>
 </context>
 <context>
@@ -1820,6 +2127,16 @@ Optionen:
         <translation>
             <numerusform>%n Datei konnte nicht gelesen werden.</numerusform>
             <numerusform>%n Dateien konnten nicht gelesen werden.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScanOutput</name>
+    <message numerus="yes">
+        <source>Stopped; %n new design(s) are still to be read.</source>
+        <translation>
+            <numerusform>Abgebrochen; %n neues Stickmuster ist noch zu lesen.</numerusform>
+            <numerusform>Abgebrochen; %n neue Stickmuster sind noch zu lesen.</numerusform>
         </translation>
     </message>
 </context>
@@ -1997,6 +2314,21 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>StandardInput</name>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>%1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+</context>
+<context>
     <name>StandardOutput</name>
     <message>
         <source>The output could not be written: %1</source>
@@ -2044,6 +2376,21 @@ Optionen:
             <numerusform>%1 Farbe</numerusform>
             <numerusform>%1 Farben</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>TagCommand</name>
+    <message>
+        <source>Give designs a tag, or take it from them.</source>
+        <translation>Stickmustern ein Schlagwort geben oder nehmen.</translation>
+    </message>
+    <message>
+        <source>Gives the designs a tag, or takes it from them. A dash reads their names from standard input.</source>
+        <translation>Gibt den Stickmustern ein Schlagwort oder nimmt es ihnen. Ein Strich liest ihre Namen von der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>No tag given.</source>
+        <translation>Kein Schlagwort angegeben.</translation>
     </message>
 </context>
 <context>
@@ -2247,6 +2594,29 @@ Optionen:
     <message>
         <source>Length</source>
         <translation>Länge</translation>
+    </message>
+</context>
+<context>
+    <name>ThumbnailsCommand</name>
+    <message>
+        <source>Paint pictures of many designs into a folder.</source>
+        <translation>Bilder vieler Stickmuster in einen Ordner malen.</translation>
+    </message>
+    <message>
+        <source>Paints a picture of each design of the catalogue, or of those that are chosen, into a folder, which is made if it is missing. A dash reads the names of the designs from standard input. Pictures that are there already are kept, so that the command may be stopped and started again.</source>
+        <translation>Malt ein Bild von jedem Stickmuster des Katalogs, oder von den gewählten, in einen Ordner, der angelegt wird, wenn er fehlt. Ein Strich liest die Namen der Stickmuster von der Standardeingabe. Vorhandene Bilder bleiben, sodass der Befehl angehalten und wieder gestartet werden darf.</translation>
+    </message>
+    <message>
+        <source>Paint pictures anew that are there already.</source>
+        <translation>Auch vorhandene Bilder neu malen.</translation>
+    </message>
+    <message>
+        <source>No folder given.</source>
+        <translation>Kein Ordner angegeben.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be made</source>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden</translation>
     </message>
 </context>
 <context>

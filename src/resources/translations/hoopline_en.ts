@@ -107,6 +107,26 @@
     </message>
 </context>
 <context>
+    <name>EditCommand</name>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n design</numerusform>
+            <numerusform>%n designs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportCommand</name>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n design</numerusform>
+            <numerusform>%n designs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>
@@ -123,6 +143,23 @@
         <translation>
             <numerusform>%n folder has changed.</numerusform>
             <numerusform>%n folders have changed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FoldersCommand</name>
+    <message numerus="yes">
+        <source>%n design(s) in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</source>
+        <translation>
+            <numerusform>%n design in there has tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</numerusform>
+            <numerusform>%n designs in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) left the catalogue</source>
+        <translation>
+            <numerusform>%n design left the catalogue</numerusform>
+            <numerusform>%n designs left the catalogue</numerusform>
         </translation>
     </message>
 </context>
@@ -150,16 +187,6 @@
         <translation>
             <numerusform>%n file selected</numerusform>
             <numerusform>%n files selected</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>ScanCommand</name>
-    <message numerus="yes">
-        <source>Stopped; %n new design(s) are still to be read.</source>
-        <translation>
-            <numerusform>Stopped; %n new design is still to be read.</numerusform>
-            <numerusform>Stopped; %n new designs are still to be read.</numerusform>
         </translation>
     </message>
 </context>
@@ -226,6 +253,16 @@
         <translation>
             <numerusform>%n file could not be read.</numerusform>
             <numerusform>%n files could not be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScanOutput</name>
+    <message numerus="yes">
+        <source>Stopped; %n new design(s) are still to be read.</source>
+        <translation>
+            <numerusform>Stopped; %n new design is still to be read.</numerusform>
+            <numerusform>Stopped; %n new designs are still to be read.</numerusform>
         </translation>
     </message>
 </context>

@@ -2,10 +2,68 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AnnotationReader</name>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>文本不是 UTF-8 编码。</translation>
+    </message>
+    <message>
+        <source>it is no JSON object</source>
+        <translation>它不是 JSON 对象</translation>
+    </message>
+    <message>
+        <source>its &apos;%1&apos; is none</source>
+        <translation>其中的“%1”无效</translation>
+    </message>
+    <message>
+        <source>The first line names neither a column &apos;md5&apos; nor a column &apos;file&apos;.</source>
+        <translation>第一行既没有“md5”列，也没有“file”列。</translation>
+    </message>
+    <message>
+        <source>it has another number of fields than the first line</source>
+        <translation>它的字段数与第一行不同</translation>
+    </message>
+    <message>
+        <source>it has neither md5 nor file</source>
+        <translation>它既没有 md5 也没有 file</translation>
+    </message>
+    <message>
+        <source>Entry %1 is wrong: %2.</source>
+        <translation>第 %1 个条目有误：%2。</translation>
+    </message>
+</context>
+<context>
     <name>BackgroundWork</name>
     <message>
         <source>The system has no thread left for this.</source>
         <translation>系统已没有可用的线程来执行此操作。</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueChoice</name>
+    <message>
+        <source>Work on this catalogue rather than the organizer&apos;s.</source>
+        <translation>使用此花样库，而不是管理器的花样库。</translation>
+    </message>
+    <message>
+        <source>The catalogue must be a file.</source>
+        <translation>花样库必须是文件。</translation>
+    </message>
+    <message>
+        <source>There is no catalogue &apos;%1&apos;.</source>
+        <translation>花样库“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
+    </message>
+    <message>
+        <source>A catalogue that is scanned must be named &apos;%1&apos;: its pictures lie beside it.</source>
+        <translation>要扫描的花样库必须命名为“%1”：其图片保存在旁边。</translation>
+    </message>
+    <message>
+        <source>A new catalogue needs a new or empty folder: its pictures lie beside it.</source>
+        <translation>新花样库需要新建的或空的文件夹：其图片保存在旁边。</translation>
     </message>
 </context>
 <context>
@@ -167,6 +225,25 @@
     </message>
 </context>
 <context>
+    <name>Command</name>
+    <message>
+        <source>What to do must be one of: %1.</source>
+        <translation>要执行的操作必须是以下之一：%1。</translation>
+    </message>
+    <message>
+        <source>Did you mean &apos;%1&apos;?</source>
+        <translation>您是指“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Usage: %1</source>
@@ -214,6 +291,24 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Print the help of a command.</source>
         <translation>输出某个命令的帮助。</translation>
+    </message>
+</context>
+<context>
+    <name>CompletionsCommand</name>
+    <message>
+        <source>Print the completions of a shell.</source>
+        <translation>输出 shell 的补全脚本。</translation>
+    </message>
+    <message>
+        <source>Prints a script that lets the shell complete commands, options and files. The packages bring it along.</source>
+        <translation>输出一个脚本，使 shell 能够补全命令、选项和文件。安装包中已包含。</translation>
+    </message>
+</context>
+<context>
+    <name>Csv</name>
+    <message>
+        <source>A quotation mark has no partner.</source>
+        <translation>有一个引号没有配对。</translation>
     </message>
 </context>
 <context>
@@ -267,6 +362,28 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>no hoop fits</source>
         <translation>没有合适的绣框</translation>
+    </message>
+</context>
+<context>
+    <name>DesignFormat</name>
+    <message>
+        <source>Unknown field &apos;{%1}&apos;; there are %2.</source>
+        <translation>未知字段“{%1}”；可用字段有 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>DesignPicture</name>
+    <message>
+        <source>Longer side of the picture in pixels; 400 if not given.</source>
+        <translation>图片较长边的像素数；未指定时为 400。</translation>
+    </message>
+    <message>
+        <source>The size must be a number from 1 to %1.</source>
+        <translation>尺寸必须是 1 到 %1 之间的数字。</translation>
+    </message>
+    <message>
+        <source>%1: The design has no extent to show.</source>
+        <translation>%1：该花样没有可显示的范围。</translation>
     </message>
 </context>
 <context>
@@ -328,6 +445,45 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Colors</source>
         <translation>颜色数</translation>
+    </message>
+</context>
+<context>
+    <name>DesignSelection</name>
+    <message>
+        <source>The designs that match, as with list --search.</source>
+        <translation>匹配的花样，与 list --search 相同。</translation>
+    </message>
+    <message>
+        <source>Names on standard input end with a NUL rather than a line.</source>
+        <translation>标准输入中的名称以 NUL 而不是换行结尾。</translation>
+    </message>
+    <message>
+        <source>Choose designs by their names or by --search.</source>
+        <translation>请按名称或用 --search 选择花样，二者选一。</translation>
+    </message>
+    <message>
+        <source>No design given.</source>
+        <translation>未指定花样。</translation>
+    </message>
+    <message>
+        <source>A dash must be the only name of a design.</source>
+        <translation>使用短横线时不能再给出其他花样名称。</translation>
+    </message>
+    <message>
+        <source>--null is for names on standard input.</source>
+        <translation>--null 用于标准输入中的名称。</translation>
+    </message>
+    <message>
+        <source>%1 is not in the catalogue</source>
+        <translation>%1 不在花样库中</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>未更改任何内容。</translation>
+    </message>
+    <message>
+        <source>The search is wrong at character %1, &apos;%2&apos;: %3</source>
+        <translation>搜索在第 %1 个字符处有误，“%2”：%3</translation>
     </message>
 </context>
 <context>
@@ -583,10 +739,6 @@ Commands; each has a --help of its own:</source>
         <source>Print one JSON object per group, a line each.</source>
         <translation>每组输出一个 JSON 对象，各占一行。</translation>
     </message>
-    <message>
-        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
-        <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
-    </message>
     <message numerus="yes">
         <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
         <translation>
@@ -703,6 +855,15 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>EditCommand</name>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n 个花样</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>EmptyHint</name>
     <message>
         <source>Add a folder with embroidery designs to begin.</source>
@@ -727,6 +888,54 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Show all designs</source>
         <translation>显示全部花样</translation>
+    </message>
+</context>
+<context>
+    <name>ExclusiveController</name>
+    <message>
+        <source>Another hoopline-cli is working on the catalogue.</source>
+        <translation>另一个 hoopline-cli 正在使用花样库。</translation>
+    </message>
+    <message>
+        <source>The catalogue was changed meanwhile. Nothing was saved.</source>
+        <translation>花样库在此期间被更改。未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>Hoopline Organizer was started meanwhile. Nothing was saved.</source>
+        <translation>在此期间启动了 Hoopline Organizer。未保存任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCommand</name>
+    <message>
+        <source>Write tags, notes and stars, to take them along.</source>
+        <translation>导出标签、备注和收藏，以便带走。</translation>
+    </message>
+    <message>
+        <source>Writes the tags, notes and stars of the catalogue to a file, or to standard output: a line for each design that has any, known by its content, its path and its name. &apos;hoopline-cli import&apos; reads it.</source>
+        <translation>将花样库的标签、备注和收藏写入文件或标准输出：每个带有这些内容的花样占一行，以内容、路径和名称标识。可用“hoopline-cli import”读取。</translation>
+    </message>
+    <message>
+        <source>Write JSON, as without it for a FILE that ends in .json.</source>
+        <translation>写成 JSON；文件名以 .json 结尾时即使不加此选项也是如此。</translation>
+    </message>
+    <message>
+        <source>Write comma-separated values, as for all others.</source>
+        <translation>写成逗号分隔值，其他文件默认如此。</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there.</source>
+        <translation>替换已有的文件。</translation>
+    </message>
+    <message>
+        <source>Choose one of --json and --csv.</source>
+        <translation>请在 --json 和 --csv 中选择一个。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s)</source>
+        <translation>
+            <numerusform>%n 个花样</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -841,6 +1050,21 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>FavoriteCommand</name>
+    <message>
+        <source>Make designs favorites, or no longer.</source>
+        <translation>将花样设为收藏，或取消收藏。</translation>
+    </message>
+    <message>
+        <source>Makes the designs favorites. A dash reads their names from standard input.</source>
+        <translation>将花样设为收藏。短横线表示从标准输入读取花样名称。</translation>
+    </message>
+    <message>
+        <source>They are no longer favorites.</source>
+        <translation>取消收藏。</translation>
+    </message>
+</context>
+<context>
     <name>FilterBar</name>
     <message>
         <source>any</source>
@@ -941,6 +1165,49 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>FoldersCommand</name>
+    <message>
+        <source>&apos;%1&apos; is none of the catalogue&apos;s folders</source>
+        <translation>“%1”不是花样库的文件夹</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</source>
+        <translation>
+            <numerusform>其中 %n 个花样带有标签、备注或收藏，可用“hoopline-cli export”保存。--force 仍会移除这些文件夹。未更改任何内容。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>List the folders of the catalogue, or take some out.</source>
+        <translation>列出花样库的文件夹，或移除其中一些。</translation>
+    </message>
+    <message>
+        <source>Lists the folders of the catalogue, or takes some and their designs out of it. On the disk nothing is changed.</source>
+        <translation>列出花样库的文件夹，或将其中一些连同其花样从花样库移除。磁盘上的内容不变。</translation>
+    </message>
+    <message>
+        <source>End each folder with a NUL rather than a line.</source>
+        <translation>每个文件夹以 NUL 而不是换行结尾。</translation>
+    </message>
+    <message>
+        <source>Remove folders though tags, notes or stars go with them.</source>
+        <translation>即使会一并失去标签、备注或收藏，也移除文件夹。</translation>
+    </message>
+    <message>
+        <source>No folder given.</source>
+        <translation>未指定文件夹。</translation>
+    </message>
+    <message>
+        <source>remove directory</source>
+        <translation>移除文件夹</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n design(s) left the catalogue</source>
+        <translation>
+            <numerusform>%n 个花样已从花样库移除</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>GridEmbroideryItem</name>
     <message>
         <source>favorite</source>
@@ -963,6 +1230,29 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>ImportCommand</name>
+    <message>
+        <source>%1 is not in the catalogue</source>
+        <translation>%1 不在花样库中</translation>
+    </message>
+    <message>
+        <source>Bring exported tags, notes and stars into the catalogue.</source>
+        <translation>将导出的标签、备注和收藏导入花样库。</translation>
+    </message>
+    <message>
+        <source>Brings the tags, notes and stars of a file that &apos;hoopline-cli export&apos; has written, or of standard input, to the designs of the same content, or else of the same path. What is there stays: notes are written below those that differ.</source>
+        <translation>将“hoopline-cli export”所写文件或标准输入中的标签、备注和收藏带给内容相同的花样，否则带给路径相同的花样。已有内容保持不变：不同的备注会写在原有备注下方。</translation>
+    </message>
+    <message>
+        <source>Only tell what would happen.</source>
+        <translation>仅说明将会发生什么。</translation>
+    </message>
+    <message>
+        <source>No file given.</source>
+        <translation>未指定文件。</translation>
+    </message>
+</context>
+<context>
     <name>InspectCommand</name>
     <message>
         <source>Reads designs and tells about them.</source>
@@ -977,28 +1267,12 @@ Commands; each has a --help of its own:</source>
         <translation>与 --json 一起使用，列出每个点。</translation>
     </message>
     <message>
-        <source>Write the preview of the one file as PNG.</source>
-        <translation>将该文件的预览写为 PNG。</translation>
-    </message>
-    <message>
         <source>No file given.</source>
         <translation>未指定文件。</translation>
     </message>
     <message>
-        <source>The size must be a number from 1 to %1.</source>
-        <translation>尺寸必须是 1 到 %1 之间的数字。</translation>
-    </message>
-    <message>
         <source>Only one file can be rendered at a time.</source>
         <translation>一次只能渲染一个文件。</translation>
-    </message>
-    <message>
-        <source>%1: The design has no extent to show.</source>
-        <translation>%1：该花样没有可显示的范围。</translation>
-    </message>
-    <message>
-        <source>Longer side of the preview in pixels; 400 if not given.</source>
-        <translation>预览较长边的像素数；未指定时为 400。</translation>
     </message>
     <message>
         <source>Read designs and tell about them.</source>
@@ -1012,13 +1286,17 @@ Commands; each has a --help of its own:</source>
         <source>With --render, paint a square card: on white, with a margin.</source>
         <translation>与 --render 合用：绘制为白底、带边距的方形卡片。</translation>
     </message>
+    <message>
+        <source>Write the preview of the one file as PNG; a dash is standard output.</source>
+        <translation>将该文件的预览写为 PNG；短横线表示标准输出。</translation>
+    </message>
+    <message>
+        <source>Choose one of --json and a picture on standard output.</source>
+        <translation>请在 --json 和输出到标准输出的图片中选择一个。</translation>
+    </message>
 </context>
 <context>
     <name>ListCommand</name>
-    <message>
-        <source>Choose one of --json and --csv.</source>
-        <translation>请在 --json 和 --csv 中选择一个。</translation>
-    </message>
     <message>
         <source>The folder must not be empty.</source>
         <translation>文件夹不能为空。</translation>
@@ -1072,16 +1350,8 @@ Commands; each has a --help of its own:</source>
         <translation>仅收藏的花样。</translation>
     </message>
     <message>
-        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
-        <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
-    </message>
-    <message>
         <source>The order must be one of %1, perhaps with :desc behind it.</source>
         <translation>排序必须是 %1 之一，后面可以加 :desc。</translation>
-    </message>
-    <message>
-        <source>The search is wrong at character %1, &apos;%2&apos;: %3</source>
-        <translation>搜索在第 %1 个字符处有误，“%2”：%3</translation>
     </message>
     <message>
         <source>Only designs that match, as in the search field: text in the file name or the notes, and fields such as %1. The manual tells them all.</source>
@@ -1090,6 +1360,22 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Order by %1; with :desc behind it downwards.</source>
         <translation>按 %1 排序；后面加 :desc 为降序。</translation>
+    </message>
+    <message>
+        <source>Choose one of %1.</source>
+        <translation>请在 %1 中选择一个。</translation>
+    </message>
+    <message>
+        <source>Print a line of this form per design, for instance %1.</source>
+        <translation>每个花样输出一行此格式的文本，例如 %1。</translation>
+    </message>
+    <message>
+        <source>Print only how many designs there are.</source>
+        <translation>仅输出花样的数量。</translation>
+    </message>
+    <message>
+        <source>Print the files, or lines of --format, each with a NUL behind it.</source>
+        <translation>输出文件或 --format 的行，每项以 NUL 结尾。</translation>
     </message>
 </context>
 <context>
@@ -1184,6 +1470,41 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>NoteCommand</name>
+    <message>
+        <source>Write notes on designs.</source>
+        <translation>为花样写备注。</translation>
+    </message>
+    <message>
+        <source>Writes notes on the designs. A dash reads the text, or the names of the designs, from standard input. Where there are other notes nothing is changed until you say what is to become of them.</source>
+        <translation>为花样写备注。短横线表示从标准输入读取文本或花样名称。如果已有其他备注，在您说明如何处理之前不会更改任何内容。</translation>
+    </message>
+    <message>
+        <source>Write below the notes that are there.</source>
+        <translation>写在已有备注的下方。</translation>
+    </message>
+    <message>
+        <source>Replace the notes that are there.</source>
+        <translation>替换已有的备注。</translation>
+    </message>
+    <message>
+        <source>No text given.</source>
+        <translation>未指定文本。</translation>
+    </message>
+    <message>
+        <source>Choose one of --append and --replace.</source>
+        <translation>请在 --append 和 --replace 中选择一个。</translation>
+    </message>
+    <message>
+        <source>Only one thing can come from standard input.</source>
+        <translation>标准输入只能提供一项内容。</translation>
+    </message>
+    <message>
+        <source>%1 has other notes; --append or --replace says what becomes of them. Nothing was changed.</source>
+        <translation>%1 已有其他备注；请用 --append 或 --replace 说明如何处理。未更改任何内容。</translation>
+    </message>
+</context>
+<context>
     <name>NoticeRow</name>
     <message>
         <source>Close</source>
@@ -1199,6 +1520,29 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
         <translation>Hoopline Organizer 正在运行。请先关闭它，或在其窗口中重新扫描。</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>The output must not bear the name of a design: %1</source>
+        <translation>输出不能使用花样文件的名称：%1</translation>
+    </message>
+    <message>
+        <source>The output must not replace what is read: %1</source>
+        <translation>输出不能替换正在读取的文件：%1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a folder</source>
+        <translation>“%1”是一个文件夹</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists; --force replaces it</source>
+        <translation>“%1”已存在；--force 将替换它</translation>
+    </message>
+    <message>
+        <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
+        <translation>无法写入 %1：文件夹“%2”不存在</translation>
     </message>
 </context>
 <context>
@@ -1590,29 +1934,6 @@ Options:
     </message>
 </context>
 <context>
-    <name>RenderTarget</name>
-    <message>
-        <source>The picture must not bear the name of a design: %1</source>
-        <translation>图片不能使用花样文件的名称：%1</translation>
-    </message>
-    <message>
-        <source>The picture must not replace a design: %1</source>
-        <translation>图片不能替换花样：%1</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is a folder</source>
-        <translation>“%1”是一个文件夹</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; exists; --force replaces it</source>
-        <translation>“%1”已存在；--force 将替换它</translation>
-    </message>
-    <message>
-        <source>Failed to write %1: the folder &apos;%2&apos; is not there</source>
-        <translation>无法写入 %1：文件夹“%2”不存在</translation>
-    </message>
-</context>
-<context>
     <name>SavedSearches</name>
     <message>
         <source>A saved search needs a name.</source>
@@ -1683,30 +2004,13 @@ Options:
         <source>Only tell what would happen.</source>
         <translation>仅说明将会发生什么。</translation>
     </message>
-    <message numerus="yes">
-        <source>Stopped; %n new design(s) are still to be read.</source>
-        <translation>
-            <numerusform>已停止；还有 %n 个新花样待读取。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>left out, the name is no valid text</source>
         <translation>已跳过，名称不是有效的文本</translation>
     </message>
-</context>
-<context>
-    <name>ScanController</name>
     <message>
-        <source>Hoopline Organizer was started during the scan. Nothing was saved.</source>
-        <translation>扫描期间启动了 Hoopline Organizer。未保存任何内容。</translation>
-    </message>
-    <message>
-        <source>Another scan is running.</source>
-        <translation>另一个扫描正在进行。</translation>
-    </message>
-    <message>
-        <source>The catalogue was changed during the scan. Nothing was saved.</source>
-        <translation>扫描期间花样库被更改。未保存任何内容。</translation>
+        <source>Tell it as JSON objects, a line each.</source>
+        <translation>以 JSON 对象输出，每个占一行。</translation>
     </message>
 </context>
 <context>
@@ -1793,6 +2097,15 @@ Options:
         <source>%n file(s) could not be read.</source>
         <translation>
             <numerusform>%n 个文件无法读取。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScanOutput</name>
+    <message numerus="yes">
+        <source>Stopped; %n new design(s) are still to be read.</source>
+        <translation>
+            <numerusform>已停止；还有 %n 个新花样待读取。</numerusform>
         </translation>
     </message>
 </context>
@@ -1969,6 +2282,21 @@ Options:
     </message>
 </context>
 <context>
+    <name>StandardInput</name>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 太大。</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>标准输入</translation>
+    </message>
+</context>
+<context>
     <name>StandardOutput</name>
     <message>
         <source>The output could not be written: %1</source>
@@ -2012,6 +2340,21 @@ Options:
         <translation>
             <numerusform>%1 种颜色</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>TagCommand</name>
+    <message>
+        <source>Give designs a tag, or take it from them.</source>
+        <translation>为花样添加或移除标签。</translation>
+    </message>
+    <message>
+        <source>Gives the designs a tag, or takes it from them. A dash reads their names from standard input.</source>
+        <translation>为花样添加或移除标签。短横线表示从标准输入读取花样名称。</translation>
+    </message>
+    <message>
+        <source>No tag given.</source>
+        <translation>未指定标签。</translation>
     </message>
 </context>
 <context>
@@ -2213,6 +2556,29 @@ Options:
     <message>
         <source>Length</source>
         <translation>长度</translation>
+    </message>
+</context>
+<context>
+    <name>ThumbnailsCommand</name>
+    <message>
+        <source>Paint pictures of many designs into a folder.</source>
+        <translation>将许多花样的图片绘制到一个文件夹。</translation>
+    </message>
+    <message>
+        <source>Paints a picture of each design of the catalogue, or of those that are chosen, into a folder, which is made if it is missing. A dash reads the names of the designs from standard input. Pictures that are there already are kept, so that the command may be stopped and started again.</source>
+        <translation>将花样库中每个花样（或所选花样）的图片绘制到一个文件夹，文件夹不存在时会新建。短横线表示从标准输入读取花样名称。已有的图片会保留，因此可以中途停止后再次运行此命令。</translation>
+    </message>
+    <message>
+        <source>Paint pictures anew that are there already.</source>
+        <translation>重新绘制已有的图片。</translation>
+    </message>
+    <message>
+        <source>No folder given.</source>
+        <translation>未指定文件夹。</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; cannot be made</source>
+        <translation>无法创建文件夹“%1”</translation>
     </message>
 </context>
 <context>
