@@ -36,11 +36,11 @@ DesignPicture::DesignPicture(const CommandLine &line)
 {
 }
 
-QByteArray DesignPicture::paint(const DesignFile &file) const
+QByteArray DesignPicture::paint(const DesignFile &file, const IAbortCheck &abort) const
 {
     PreviewRenderer renderer;
-    const QImage image = m_asCard ? renderer.renderCard(file.pattern(), m_size)
-                                  : renderer.render(file.pattern(), m_size);
+    const QImage image = m_asCard ? renderer.renderCard(file.pattern(), m_size, abort)
+                                  : renderer.render(file.pattern(), m_size, abort);
     if (image.isNull())
         throw Error(tr("%1: The design has no extent to show.").arg(file.name()));
     return PngEncoder::encode(image);

@@ -1,16 +1,24 @@
 #include "cli/ThumbnailRun.h"
 
 #include "base/Error.h"
+#include "base/threads/OrderedWorkers.h"
+#include "base/threads/ResponsiveWait.h"
 #include "cli/Console.h"
 #include "cli/DesignFile.h"
 #include "cli/DesignPicture.h"
 #include "cli/ExitStatus.h"
 #include "cli/Interrupt.h"
 #include "cli/OutputFile.h"
+#include <chrono>
 #include <QCryptographicHash>
 #include <QFileInfo>
+#include <QThread>
 
 namespace {
+
+constexpr qint64 WorkersMemory = qint64(256) * 1024 * 1024;
+constexpr qint64 DesignMemoryPerByte = 32; // of the file: its points and polylines
+constexpr std::chrono::milliseconds LastMoment(40);
 
 QString fileName(const IFile &file)
 {
@@ -27,6 +35,23 @@ QByteArray contentOf(const IFile &file)
 }
 
 } // namespace
+
+struct ThumbnailRun::Job
+{
+    QString design;
+    QString picture;
+    qint64 need;
+
+    qint64 memoryNeed() const { return need; }
+};
+
+struct ThumbnailRun::Painted
+{
+    QByteArray png; ///< empty when there is an error
+    QString error;
+
+    qint64 memoryNeed() const { return png.size(); }
+};
 
 ThumbnailRun::ThumbnailRun(const QString &folder, const DesignPicture &picture, bool replace,
                            const Files &catalogue)
@@ -47,26 +72,65 @@ QString ThumbnailRun::pictureName(const IFile &file) const
 
 void ThumbnailRun::paint(const Files &files, IProgressAbortListener &progress)
 {
-    progress.setSteps(files.size());
-    for (int i = 0; i < files.size() && progress.abortState() == 0; ++i) {
-        const QString name = pictureName(*files.at(i));
-        progress.proceed(name);
-        paintOne(files.at(i)->absoluteFilePath(), m_folder + QLatin1Char('/') + name);
+    const std::vector<Job> todo = jobs(files);
+    if (todo.empty())
+        return;
+    OrderedWorkers<Job, Painted> workers(
+        todo,
+        [picture = m_picture](const Job &job, const IAbortCheck &abort) {
+            return paintOne(picture, job, abort);
+        },
+        {QThread::idealThreadCount(), WorkersMemory});
+    progress.setSteps(int(todo.size()));
+    for (const Job &job : todo) {
+        progress.proceed(QFileInfo(job.picture).fileName());
+        const auto painted = waitResponsively(
+            progress, [&workers](auto patience) { return workers.take(patience); });
+        if (painted)
+            write(job, *painted);
+        if (progress.abortState() != 0)
+            break;
+    }
+    workers.abort(LastMoment);
+}
+
+std::vector<ThumbnailRun::Job> ThumbnailRun::jobs(const Files &files)
+{
+    std::vector<Job> todo;
+    QSet<QString> pictures;
+    for (const auto &file : files) {
+        const QString picture = m_folder + QLatin1Char('/') + pictureName(*file);
+        if (pictures.contains(picture) || (!m_replace && QFileInfo::exists(picture))) {
+            ++m_kept;
+            continue;
+        }
+        pictures.insert(picture);
+        const qint64 need = file->fileSize() * DesignMemoryPerByte + m_picture.memoryNeed();
+        todo.push_back({file->absoluteFilePath(), picture, need});
+    }
+    return todo;
+}
+
+ThumbnailRun::Painted ThumbnailRun::paintOne(const DesignPicture &picture, const Job &job,
+                                             const IAbortCheck &abort)
+{
+    const DesignFile file = DesignFile::read(job.design);
+    if (!file.isReadable())
+        return {{}, QStringLiteral("%1: %2").arg(job.design, file.error())};
+    try {
+        return {picture.paint(file, abort), {}};
+    } catch (const Error &error) {
+        return {{}, error.toString()};
     }
 }
 
-void ThumbnailRun::paintOne(const QString &design, const QString &picture)
+void ThumbnailRun::write(const Job &job, const Painted &painted)
 {
-    if (!m_replace && QFileInfo::exists(picture)) {
-        ++m_kept;
-        return;
-    }
     try {
-        OutputFile::check(picture, {design}, m_replace);
-        const DesignFile file = DesignFile::read(design);
-        if (!file.isReadable())
-            throw Error(QStringLiteral("%1: %2").arg(design, file.error()));
-        OutputFile::write(picture, m_picture.paint(file));
+        if (painted.png.isEmpty())
+            throw Error(painted.error);
+        OutputFile::check(job.picture, {job.design}, m_replace);
+        OutputFile::write(job.picture, painted.png);
         ++m_painted;
     } catch (const Error &error) {
         m_failures.append(error.toString());

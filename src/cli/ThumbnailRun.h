@@ -11,8 +11,9 @@
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
+#include <vector>
 
-/** Paints one picture per design into a folder, and counts. */
+/** Paints one picture per design into a folder, on all cores, and counts. */
 class ThumbnailRun
 {
     Q_DECLARE_TR_FUNCTIONS(ThumbnailRun)
@@ -35,8 +36,14 @@ public:
     int report() const;
 
 private:
+    struct Job;
+    struct Painted;
+
     QString pictureName(const IFile &file) const;
-    void paintOne(const QString &design, const QString &picture);
+    /** Those of pictures that are to be painted; counts the others. */
+    std::vector<Job> jobs(const Files &files);
+    static Painted paintOne(const DesignPicture &picture, const Job &job, const IAbortCheck &abort);
+    void write(const Job &job, const Painted &painted);
 
     const QString m_folder;
     const DesignPicture m_picture;

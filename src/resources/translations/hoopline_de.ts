@@ -387,6 +387,10 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>%1: The design has no extent to show.</source>
         <translation>%1: Das Stickmuster hat keine darstellbare Ausdehnung.</translation>
     </message>
+    <message>
+        <source>Paint a square card: on white, with a margin.</source>
+        <translation>Als quadratische Karte malen: auf Weiß und mit Rand.</translation>
+    </message>
 </context>
 <context>
     <name>DesignPreparation</name>
@@ -1301,10 +1305,6 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Mit --render eine vorhandene Datei ersetzen.</translation>
     </message>
     <message>
-        <source>With --render, paint a square card: on white, with a margin.</source>
-        <translation>Mit --render: als quadratische Karte malen, auf Weiß und mit Rand.</translation>
-    </message>
-    <message>
         <source>Write the preview of the one file as PNG; a dash is standard output.</source>
         <translation>Die Vorschau der einen Datei als PNG schreiben; ein Strich ist die Standardausgabe.</translation>
     </message>
@@ -2026,10 +2026,6 @@ Optionen:
         <translation>Nur sagen, was geschehen würde.</translation>
     </message>
     <message>
-        <source>left out, the name is no valid text</source>
-        <translation>ausgelassen, der Name ist kein gültiger Text</translation>
-    </message>
-    <message>
         <source>Tell it as JSON objects, a line each.</source>
         <translation>Es als JSON-Objekte sagen, je eines pro Zeile.</translation>
     </message>
@@ -2138,6 +2134,10 @@ Optionen:
             <numerusform>Abgebrochen; %n neues Stickmuster ist noch zu lesen.</numerusform>
             <numerusform>Abgebrochen; %n neue Stickmuster sind noch zu lesen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>left out, the name is no valid text</source>
+        <translation>ausgelassen, der Name ist kein gültiger Text</translation>
     </message>
 </context>
 <context>

@@ -385,6 +385,10 @@ Commands; each has a --help of its own:</source>
         <source>%1: The design has no extent to show.</source>
         <translation>%1：该花样没有可显示的范围。</translation>
     </message>
+    <message>
+        <source>Paint a square card: on white, with a margin.</source>
+        <translation>绘制方形卡片：白底、带边距。</translation>
+    </message>
 </context>
 <context>
     <name>DesignPreparation</name>
@@ -1283,10 +1287,6 @@ Commands; each has a --help of its own:</source>
         <translation>与 --render 一起使用时，替换已有的文件。</translation>
     </message>
     <message>
-        <source>With --render, paint a square card: on white, with a margin.</source>
-        <translation>与 --render 合用：绘制为白底、带边距的方形卡片。</translation>
-    </message>
-    <message>
         <source>Write the preview of the one file as PNG; a dash is standard output.</source>
         <translation>将该文件的预览写为 PNG；短横线表示标准输出。</translation>
     </message>
@@ -2005,10 +2005,6 @@ Options:
         <translation>仅说明将会发生什么。</translation>
     </message>
     <message>
-        <source>left out, the name is no valid text</source>
-        <translation>已跳过，名称不是有效的文本</translation>
-    </message>
-    <message>
         <source>Tell it as JSON objects, a line each.</source>
         <translation>以 JSON 对象输出，每个占一行。</translation>
     </message>
@@ -2107,6 +2103,10 @@ Options:
         <translation>
             <numerusform>已停止；还有 %n 个新花样待读取。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>left out, the name is no valid text</source>
+        <translation>已跳过，名称不是有效的文本</translation>
     </message>
 </context>
 <context>
