@@ -38,7 +38,7 @@ QByteArray contentOf(const IFile &file)
 
 struct ThumbnailRun::Job
 {
-    QString design;
+    QStringList designs; ///< copies, of which any will do
     QString picture;
     qint64 need;
 
@@ -47,8 +47,8 @@ struct ThumbnailRun::Job
 
 struct ThumbnailRun::Painted
 {
-    QByteArray png; ///< empty when there is an error
-    QString error;
+    QByteArray png; ///< empty when none of the designs could be painted
+    QStringList errors;
 
     qint64 memoryNeed() const { return png.size(); }
 };
@@ -97,16 +97,18 @@ void ThumbnailRun::paint(const Files &files, IProgressAbortListener &progress)
 std::vector<ThumbnailRun::Job> ThumbnailRun::jobs(const Files &files)
 {
     std::vector<Job> todo;
-    QSet<QString> pictures;
+    QHash<QString, std::size_t> indexes;
     for (const auto &file : files) {
         const QString picture = m_folder + QLatin1Char('/') + pictureName(*file);
-        if (pictures.contains(picture) || (!m_replace && QFileInfo::exists(picture))) {
+        if (indexes.contains(picture)) {
+            todo[indexes.value(picture)].designs.append(file->absoluteFilePath());
+        } else if (!m_replace && QFileInfo::exists(picture)) {
             ++m_kept;
-            continue;
+        } else {
+            indexes.insert(picture, todo.size());
+            const qint64 need = file->fileSize() * DesignMemoryPerByte + m_picture.memoryNeed();
+            todo.push_back({{file->absoluteFilePath()}, picture, need});
         }
-        pictures.insert(picture);
-        const qint64 need = file->fileSize() * DesignMemoryPerByte + m_picture.memoryNeed();
-        todo.push_back({file->absoluteFilePath(), picture, need});
     }
     return todo;
 }
@@ -114,22 +116,29 @@ std::vector<ThumbnailRun::Job> ThumbnailRun::jobs(const Files &files)
 ThumbnailRun::Painted ThumbnailRun::paintOne(const DesignPicture &picture, const Job &job,
                                              const IAbortCheck &abort)
 {
-    const DesignFile file = DesignFile::read(job.design);
-    if (!file.isReadable())
-        return {{}, QStringLiteral("%1: %2").arg(job.design, file.error())};
-    try {
-        return {picture.paint(file, abort), {}};
-    } catch (const Error &error) {
-        return {{}, error.toString()};
+    Painted painted;
+    for (const QString &design : job.designs) {
+        try {
+            const DesignFile file = DesignFile::read(design);
+            if (!file.isReadable())
+                throw Error(QStringLiteral("%1: %2").arg(design, file.error()));
+            painted.png = picture.paint(file, abort);
+            return painted;
+        } catch (const Error &error) {
+            painted.errors.append(error.toString());
+        }
     }
+    return painted;
 }
 
 void ThumbnailRun::write(const Job &job, const Painted &painted)
 {
+    m_failures += painted.errors;
+    if (painted.png.isEmpty())
+        return;
+    m_kept += job.designs.size() - painted.errors.size() - 1;
     try {
-        if (painted.png.isEmpty())
-            throw Error(painted.error);
-        OutputFile::check(job.picture, {job.design}, m_replace);
+        OutputFile::check(job.picture, job.designs, m_replace);
         OutputFile::write(job.picture, painted.png);
         ++m_painted;
     } catch (const Error &error) {

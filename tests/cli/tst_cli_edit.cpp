@@ -64,7 +64,7 @@ void CliEditTest::changesDesigns_data()
                     {"tag", "add", "red", "d/a.dst"}}
         << QByteArray() << QByteArray("A blue;red  false\nB   false\nE   false\n");
     QTest::newRow("tag by search, taken away by input")
-        << Commands{{"tag", "add", "x", "--search", "folder:d"}, {"tag", "remove", "x", "-"}}
+        << Commands{{"tag", "add", "x", "--search", "folder:work/d"}, {"tag", "remove", "x", "-"}}
         << QByteArray("d/b c.dst\n") << QByteArray("A x  false\nB   false\nE   false\n");
     QTest::newRow("names that end with NUL")
         << Commands{{"favorite", "-0", "-"}} << QByteArray("d/a.dst\0d/b c.dst\0", 18)

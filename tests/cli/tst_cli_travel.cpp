@@ -175,11 +175,13 @@ void CliTravelTest::paintsThumbnails()
     QVERIFY(DstDesign::square("C", 70).writeTo(cli.workPath("d/sub/A.dst")));
     QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath("d/sub/b.dst")));
     QVERIFY(CatalogueFolder::write(cli.workPath("d/bad.hus"), "junk"));
+    QVERIFY(CatalogueFolder::write(cli.workPath("d/sub/bad.hus"), "junk"));
     QCOMPARE(cli.run({"scan"}).status, 0);
     const auto first = cli.run({"thumbnails", "new/t", "--size", "64"});
     QCOMPARE(first.status, 1);
     QVERIFY2(first.error.contains("d/bad.hus"), first.error);
-    QCOMPARE(first.out, QByteArray("painted 3, kept 1, failed 1\n"));
+    QVERIFY2(first.error.contains("d/sub/bad.hus"), first.error);
+    QCOMPARE(first.out, QByteArray("painted 3, kept 1, failed 2\n"));
     // Other designs of one name have names of their own; copies share a picture.
     const QDir folder(cli.workPath("new/t"));
     const QStringList pictures = folder.entryList(QDir::Files, QDir::Name);
@@ -187,10 +189,13 @@ void CliTravelTest::paintsThumbnails()
     QCOMPARE(pictures.filter(QRegularExpression("^[aA]\\.dst\\.[0-9a-f]{32}\\.png$")).size(), 2);
     QVERIFY(pictures.contains("b.dst.png"));
     QCOMPARE(QImage(folder.filePath("b.dst.png")).width(), 64);
-    QCOMPARE(QImage(folder.filePath("b.dst.png")).pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(QImage(folder.filePath("b.dst.png")).pixelColor(32, 32).alpha(), 0);
     QCOMPARE(cli.run({"thumbnails", "new/t", "-", "--force", "--card"}, "d/a.dst\nd/b.dst\n").out,
              QByteArray("painted 2, kept 0, failed 0\n"));
     QCOMPARE(QImage(folder.filePath("b.dst.png")).pixelColor(0, 0), QColor(Qt::white));
+    QVERIFY(QFile::remove(cli.workPath("d/b.dst"))); // its copy is there
+    QCOMPARE(cli.run({"thumbnails", "other", "-"}, "d/b.dst\nd/sub/b.dst\n").out,
+             QByteArray("painted 1, kept 0, failed 1\n"));
 }
 
 QTEST_GUILESS_MAIN(CliTravelTest)
