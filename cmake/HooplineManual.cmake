@@ -1,5 +1,6 @@
-# Renders the manual as a page beside its pictures, for the browser that the Help menu
-# opens. Without the renderer the program does without the page.
+# Renders the manual, in each language that it is written in, as a page beside its
+# pictures, for the browser that the Help menu opens. Without the renderer the program
+# does without the pages.
 find_program(HOOPLINE_LOWDOWN lowdown DOC "Renders the manual; of the Debian package lowdown")
 
 function(hoopline_render_manual folder)
@@ -8,13 +9,28 @@ function(hoopline_render_manual folder)
         return()
     endif()
     set(docs "${PROJECT_SOURCE_DIR}/docs")
+    set(renderer "${PROJECT_SOURCE_DIR}/cmake/RenderManual.cmake")
+    set(frame "${PROJECT_SOURCE_DIR}/cmake/manual.html.in")
+    file(GLOB sources CONFIGURE_DEPENDS "${docs}/manual*.md")
     file(GLOB pictures CONFIGURE_DEPENDS "${docs}/images/*.png")
-    add_custom_command(OUTPUT "${folder}/manual.html"
-        COMMAND ${HOOPLINE_LOWDOWN} -s -t html -m "title=Hoopline Organizer: the manual"
-            -m css=style.css -o "${folder}/manual.html" "${docs}/manual.md"
+    set(pages "")
+    foreach(source IN LISTS sources)
+        get_filename_component(name "${source}" NAME)
+        string(REGEX REPLACE "md$" "html" name "${name}")
+        add_custom_command(OUTPUT "${folder}/${name}"
+            COMMAND ${CMAKE_COMMAND} -D "LOWDOWN=${HOOPLINE_LOWDOWN}" -D "SOURCE=${source}"
+                -D "FRAME=${frame}" -D "PAGE=${folder}/${name}" -P "${renderer}"
+            DEPENDS "${source}" "${frame}" "${renderer}"
+            VERBATIM)
+        list(APPEND pages "${folder}/${name}")
+    endforeach()
+    # A file of the build's own: that of a folder tells nothing about what is in it.
+    set(copied "${PROJECT_BINARY_DIR}/manual-pictures.stamp")
+    add_custom_command(OUTPUT "${copied}"
         COMMAND ${CMAKE_COMMAND} -E copy_directory "${docs}/images" "${folder}/images"
-        DEPENDS "${docs}/manual.md" ${pictures}
+        COMMAND ${CMAKE_COMMAND} -E touch "${copied}"
+        DEPENDS ${pictures}
         VERBATIM)
-    add_custom_target(manual ALL DEPENDS "${folder}/manual.html")
+    add_custom_target(manual ALL DEPENDS ${pages} "${copied}")
     add_dependencies(hoopline-organizer manual)
 endfunction()

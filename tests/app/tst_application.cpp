@@ -4,6 +4,7 @@
 #include "app/frame/GAction.h"
 #include "app/frame/GFileTypeRegistry.h"
 #include "base/Error.h"
+#include "base/GTranslationLoader.h"
 #include "online/services/GUrlProvider.h"
 #include "support/MessageBoxes.h"
 #include "widgets/controls/GMessageBox.h"
@@ -13,6 +14,7 @@
 #include <QFileOpenEvent>
 #include <QMenuBar>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QSplitter>
 #include <QTemporaryDir>
@@ -55,7 +57,8 @@ private slots:
     void cleanup();
     void queuesFilesUntilStarted();
     void hasItsDocuments();
-    void helpLeadsSomewhere();
+    void helpOpensTheManual_data();
+    void helpOpensTheManual();
     void openPage(const QUrl &url) { m_opened = url; }
     void offersHelpWithoutDocumentationAndFeedback();
     void barrier_data();
@@ -111,25 +114,48 @@ void tst_application::hasItsDocuments()
     QVERIFY2(QFile::exists(url.toLocalFile()), qPrintable(url.toString()));
 }
 
-void tst_application::helpLeadsSomewhere()
+void tst_application::helpOpensTheManual_data()
 {
-    for (const char *scheme : {"file", "https"})
-        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "openPage");
+    QTest::addColumn<QStringList>("installed");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("opened");
+    const QStringList both{QStringLiteral("manual.html"), QStringLiteral("manual.de.html")};
+    QTest::newRow("English") << both << "en" << both.first();
+    QTest::newRow("German") << both << "de" << both.last();
+    QTest::newRow("not translated") << both << "zh-CN" << both.first();
+    QTest::newRow("not installed") << QStringList() << "de" << QString();
+}
+
+void tst_application::helpOpensTheManual()
+{
+    QFETCH(QStringList, installed);
+    QFETCH(QString, language);
+    QFETCH(QString, opened);
     const QString usual = GApplicationAddons::resourcesDirectory().path();
+    const auto asBefore = qScopeGuard([usual] {
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        GApplicationAddons::setResourcesDirectory(usual);
+        GSettings().setUiLanguage(QString());
+        GTranslationLoader::instance()->setTranslations(app());
+    });
     QTemporaryDir directory;
+    const QDir documents(directory.filePath(QStringLiteral("documents")));
+    QVERIFY(documents.mkpath(QStringLiteral(".")));
+    for (const QString &name : qAsConst(installed))
+        QVERIFY(QFile(documents.filePath(name)).open(QIODevice::WriteOnly));
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openPage");
     GApplicationAddons::setResourcesDirectory(directory.path());
-    app()->tutorialsAction()->trigger();
-    QCOMPARE(m_opened, app()->urlProvider()->tutorialsUrl(false, QString()));
+    GSettings().setUiLanguage(language);
+    GTranslationLoader::instance()->setTranslations(app());
 
-    QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("documents")));
-    QFile manual(directory.filePath(QStringLiteral("documents/manual.html")));
-    QVERIFY(manual.open(QIODevice::WriteOnly));
+    m_opened.clear();
+    const MessageBoxes boxes;
     app()->tutorialsAction()->trigger();
-    QCOMPARE(m_opened.toLocalFile(), manual.fileName());
-
-    GApplicationAddons::setResourcesDirectory(usual);
-    for (const char *scheme : {"file", "https"})
-        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+    QCOMPARE(QFileInfo(m_opened.toLocalFile()).fileName(), opened);
+    QCOMPARE(boxes.count(), opened.isEmpty() ? 1 : 0);
+    if (opened.isEmpty())
+        QVERIFY(
+            boxes.informativeText().contains(documents.filePath(QStringLiteral("manual.html"))));
 }
 
 void tst_application::offersHelpWithoutDocumentationAndFeedback()

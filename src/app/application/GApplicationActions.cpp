@@ -6,9 +6,12 @@
 #include "base/DI.h"
 #include "online/services/GUrlProvider.h"
 #include "widgets/controls/About.h"
+#include "widgets/controls/GMessageBox.h"
 #include "widgets/style/GIcon.h"
 
 #include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 
 #ifdef _MSC_VER
 #include <intrin.h>
@@ -180,9 +183,20 @@ void GApplication::showAbout()
 
 void GApplication::openHelp(const QUrl &page)
 {
+    if (!GUrlProvider::leadsNowhere(page)) {
+        QDesktopServices::openUrl(page);
+        return;
+    }
     const QUrl manual = urlProvider()->manualUrl();
-    const bool useManual = GUrlProvider::leadsNowhere(page) && !manual.isEmpty();
-    QDesktopServices::openUrl(useManual ? manual : page);
+    const QString path = manual.toLocalFile();
+    if (QFile::exists(path))
+        QDesktopServices::openUrl(manual);
+    else
+        GMessageBox::information(tr("The manual is not installed."),
+                                 tr("It should be here: %1\nThe packages of the program bring it "
+                                    "along. Whoever builds the program needs the tool 'lowdown' "
+                                    "for it.")
+                                     .arg(QDir::toNativeSeparators(path)));
 }
 
 void GApplication::updateHelpActions()

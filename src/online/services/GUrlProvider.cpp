@@ -122,7 +122,7 @@ QUrl GUrlProvider::acknowledgementsUrl() const
 QUrl GUrlProvider::manualUrl() const
 {
     const QString path = documentPath(QStringLiteral("manual.html"));
-    return QFile::exists(path) ? QUrl::fromLocalFile(path) : QUrl();
+    return QUrl::fromLocalFile(GTranslationLoader::instance()->localizedFilename(path));
 }
 
 QString GUrlProvider::baseUrlString() const

@@ -32,7 +32,10 @@ public:
     virtual QUrl shareUrl(const QString &service) const;
     /** A local file. */
     virtual QUrl acknowledgementsUrl() const;
-    /** The manual that came with the program, a local file; empty when it is not there. */
+    /**
+     * The manual that came with the program, a local file: in the program's language where it
+     * is written in that, else in English. The caller has to look whether it is there.
+     */
     QUrl manualUrl() const;
     /** The production or the staging server, without a trailing slash. */
     virtual QString baseUrlString() const;
