@@ -5,7 +5,7 @@
 #   format         the C++ sources stand as .clang-format would put them
 #   floors         who includes and links what, against docs/architecture.md
 #   shell          shellcheck of every script
-#   translations   every text is translated
+#   translations   every text is translated, and the manuals agree
 #   desktop        the desktop entry, the metadata and the MIME types
 #   tidy           clang-tidy of src/; some minutes. Other files: check.sh tidy FILE...
 #
@@ -37,8 +37,9 @@ check_shell() {
         xargs -d '\n' shellcheck
 }
 
-needs_translations() { echo cmake qttools5-dev-tools; }
+needs_translations() { echo cmake python3 qttools5-dev-tools; }
 check_translations() {
+    python3 scripts/checks/manuals.py .
     TMPDIR=$work cmake -DSOURCE="$root" -P tests/resources/check_translations.cmake
 }
 

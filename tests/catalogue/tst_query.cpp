@@ -17,7 +17,8 @@ private slots:
     void remarks_data();
     void remarks();
     void leavesUnfinishedConditionsOut();
-    void manualTellsEveryField();
+    void manualsTellEveryField_data();
+    void manualsTellEveryField();
 
 private:
     QSharedPointer<IFile> add(const QString &path, const QSizeF &size, int stitches,
@@ -228,10 +229,18 @@ void TestQuery::leavesUnfinishedConditionsOut()
     QVERIFY(!Query::parse("tag: is:x").isValid());
 }
 
-/** The manual tells of each field with the example that the help shows. */
-void TestQuery::manualTellsEveryField()
+void TestQuery::manualsTellEveryField_data()
 {
-    QFile manual(QStringLiteral(TEST_DATA_DIR "/../../docs/manual.md"));
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"manual.md", "manual.de.md", "manual.zh-CN.md"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+/** The manual tells of each field with the example that the help shows. */
+void TestQuery::manualsTellEveryField()
+{
+    QFETCH(QString, name);
+    QFile manual(QStringLiteral(TEST_DATA_DIR "/../../docs/") + name);
     QVERIFY(manual.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(manual.readAll());
     for (const QueryField &field : QueryFields::all()) {
