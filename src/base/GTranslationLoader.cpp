@@ -42,6 +42,8 @@ void GTranslationLoader::setTranslations(QCoreApplication *app)
     loadLanguage(app, m_qt, QtOwn);
     loadLanguage(app, m_frame, Frame);
     loadLanguage(app, m_product, Product);
+    // What counts are written with, in texts whose plural form follows them.
+    QLocale::setDefault(locale());
 }
 
 void GTranslationLoader::initLanguage(const QCoreApplication *)

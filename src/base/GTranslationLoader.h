@@ -14,8 +14,9 @@ public:
     static GTranslationLoader *instance();
 
     /**
-     * Chooses the language anew and installs what there is for it. May be called
-     * again at any time; a missing translation leaves the source texts in place.
+     * Chooses the language anew and installs what there is for it; locale() becomes the
+     * default of the process. May be called again at any time; a missing translation leaves
+     * the source texts in place.
      */
     void setTranslations(QCoreApplication *app);
 

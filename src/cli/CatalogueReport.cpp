@@ -104,7 +104,7 @@ void CatalogueReport::writeTable(const Files &files)
     for (const auto &file : files) {
         rows.append({file->isFavorite() ? QStringLiteral("*") : QString(),
                      Console::printable(file->absoluteFilePath()),
-                     LocaleAwareFunctions::toString(file->designSize(), imperial),
+                     LocaleAwareFunctions::toText(file->designSize(), imperial),
                      QString::number(file->stitchCount()), QString::number(file->threads().size()),
                      Console::printable(file->tags().join(QStringLiteral(", ")))});
     }

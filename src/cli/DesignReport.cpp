@@ -86,8 +86,8 @@ void DesignReport::writeTable(const DesignFile &file)
     const QRectF bounds = pattern.boundingRect();
     m_output.writeLine(Console::printable(file.name()));
     writeRow(tr("Format"), pattern.format());
-    writeRow(tr("Size"), LocaleAwareFunctions::toString(bounds.size() / UnitsPerMillimetre,
-                                                        GlobalSettings().imperialUnits()));
+    writeRow(tr("Size"), LocaleAwareFunctions::toText(bounds.size() / UnitsPerMillimetre,
+                                                      GlobalSettings().imperialUnits()));
     writeRow(tr("Stitches"), QString::number(pattern.getStitchCount()));
     writeRow(tr("Colors"), QString::number(pattern.getThreadCount()));
     writeRow(tr("MD5"), file.md5());

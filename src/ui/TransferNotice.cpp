@@ -3,6 +3,8 @@
 #include "drives/DriveInfo.h"
 #include "ui/NoticeBar.h"
 
+#include <QLocale>
+
 namespace {
 
 QString noticeId()
@@ -24,11 +26,11 @@ void TransferNotice::tell(const TransferResult &result, const DriveInfo &drive)
     if (result.copied == 0)
         return;
     m_driveName = drive.displayName();
-    QString text =
-        result.hasFailed()
-            ? tr("%1 of %2 files were copied to %3.")
-                  .arg(QString::number(result.copied), QString::number(result.total), m_driveName)
-            : tr("%n file(s) copied to %1.", nullptr, result.copied).arg(m_driveName);
+    QString text = result.hasFailed()
+                       ? tr("%1 of %2 files were copied to %3.")
+                             .arg(QLocale().toString(result.copied),
+                                  QLocale().toString(result.total), m_driveName)
+                       : tr("%n file(s) copied to %1.", nullptr, result.copied).arg(m_driveName);
     if (result.replacedByLater > 0)
         text += QLatin1Char(' ') + tr("%n of them gave way to a later one of the same name.",
                                       nullptr, result.replacedByLater);
@@ -56,7 +58,7 @@ void TransferNotice::offerEject(const QString &text)
 
 void TransferNotice::eject()
 {
-    tellText(tr("Ejecting %1…").arg(m_driveName));
+    tellText(tr("Ejecting %1...").arg(m_driveName));
     m_ejector->eject();
 }
 

@@ -59,6 +59,7 @@ QString TransferProgress::detail(const TransferJob::Progress &now, int files) co
     };
     const QString text =
         isLarge ? tr("File %1 of %2, %3 of %4 MB") : tr("File %1 of %2, %3 of %4 KB");
-    return text.arg(QString::number(now.begun), QString::number(files), size(now.bytes),
+    const QLocale locale;
+    return text.arg(locale.toString(now.begun), locale.toString(files), size(now.bytes),
                     size(now.totalBytes));
 }

@@ -1,3 +1,5 @@
+#include "base/GSettings.h"
+#include "base/GTranslationLoader.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
 
@@ -10,6 +12,7 @@ class TestLocaleAwareFunctions : public QObject
 private slots:
     void naturalOrder();
     void sizes();
+    void sizesAsPeopleWriteThem();
 };
 
 void TestLocaleAwareFunctions::naturalOrder()
@@ -36,6 +39,24 @@ void TestLocaleAwareFunctions::sizes()
     QCOMPARE(text({94.6, 120.2}, false), QStringLiteral("95mm x 120mm"));
     QCOMPARE(text({25.4, 130}, true), QStringLiteral("1.0\" x 5.1\""));
     QCOMPARE(text({0, 0}, false), QStringLiteral("0mm x 0mm"));
+    QCOMPARE(text({1234, 1}, false), QStringLiteral("1234mm x 1mm"));
+}
+
+void TestLocaleAwareFunctions::sizesAsPeopleWriteThem()
+{
+    const auto text = &LocaleAwareFunctions::toText;
+    const auto setLanguage = [](const char *language) {
+        GSettings().setUiLanguage(QString::fromLatin1(language));
+        GTranslationLoader::instance()->setTranslations(QCoreApplication::instance());
+    };
+    setLanguage("de");
+    QCOMPARE(text({5, -1}, true), QString());
+    QCOMPARE(text({53.3, 43.2}, true), QStringLiteral("2,1\" × 1,7\""));
+    QCOMPARE(text({1234, 43.2}, false), QStringLiteral("1.234 mm × 43 mm"));
+    // The cards stay as they are.
+    QCOMPARE(LocaleAwareFunctions::toString({53.3, 43.2}, true), QStringLiteral("2.1\" x 1.7\""));
+    setLanguage("en");
+    QCOMPARE(text({53.3, 43.2}, true), QStringLiteral("2.1\" × 1.7\""));
 }
 
 QTEST_MAIN(TestLocaleAwareFunctions)

@@ -158,7 +158,7 @@ void CliInspectTest::keepsHostileTextOffTheTerminal()
     QVERIFY(DstDesign::square("A\033]0;x\007B").writeTo(m_cli.workPath("esc\033[2J.dst")));
     const auto result = m_cli.run({"inspect", "esc\033[2J.dst", "gone\033[2J.dst"});
     QCOMPARE(result.status, 1);
-    QVERIFY(result.out.contains("10mm x 10mm"));
+    QVERIFY(result.out.contains("10 mm × 10 mm"));
     QVERIFY(result.error.contains("Failed to open file: "));
     QVERIFY(!(result.out + result.error).contains('\033'));
 }

@@ -172,7 +172,7 @@ void CliListTest::printsTable()
     QCOMPARE(lines.size(), 4);
     QVERIFY2(lines.at(2).startsWith("*  " + m_cli.workPath("designs/item10.dst").toUtf8()),
              lines.at(2));
-    QVERIFY2(lines.at(2).contains("  6mm x 6mm  "), lines.at(2));
+    QVERIFY2(lines.at(2).contains("  6 mm × 6 mm  "), lines.at(2));
     // A program that reads the lines gets nothing but designs.
     QVERIFY(result.error.startsWith("   File "));
     QVERIFY(result.error.endsWith("\n3 designs\n"));

@@ -156,8 +156,8 @@ void tst_DesignWindow::showsTheDesign()
     fixture.open(0);
     QVERIFY(fixture.window->windowTitle().contains(QStringLiteral("0.dst")));
     QVERIFY(fixture.says(QStringLiteral("1 of 4")));
-    QVERIFY(fixture.says(QStringLiteral("10mm x 10mm")));
-    QVERIFY(fixture.says(QStringLiteral("90mm x 90mm")));
+    QVERIFY(fixture.says(QStringLiteral("10 mm × 10 mm")));
+    QVERIFY(fixture.says(QStringLiteral("90 mm × 90 mm")));
     QTRY_VERIFY(fixture.shows(0xff, 0));
     // Red, then green: how often the needle goes down, and the thread from point to point.
     QCOMPARE(fixture.threads->model()->rowCount(), 2);
@@ -167,7 +167,7 @@ void tst_DesignWindow::showsTheDesign()
     QCOMPARE(fixture.cell(1, 1), QStringLiteral("Green"));
     QCOMPARE(fixture.cell(1, 4), QStringLiteral("4"));
     QCOMPARE(fixture.cell(1, 5), QStringLiteral("0.05 m"));
-    QVERIFY(fixture.view->accessibleDescription().contains(QStringLiteral("10mm x 10mm")));
+    QVERIFY(fixture.view->accessibleDescription().contains(QStringLiteral("10 mm × 10 mm")));
 }
 
 void tst_DesignWindow::tellsInInches()
@@ -175,8 +175,8 @@ void tst_DesignWindow::tellsInInches()
     Fixture fixture;
     GlobalSettings().setImperialUnits(true);
     fixture.open(0);
-    QVERIFY(fixture.says(QStringLiteral("0.4\" x 0.4\"")));
-    QVERIFY(fixture.says(QStringLiteral("3.9\" x 3.9\"")));
+    QVERIFY(fixture.says(QStringLiteral("0.4\" × 0.4\"")));
+    QVERIFY(fixture.says(QStringLiteral("3.9\" × 3.9\"")));
     QCOMPARE(fixture.cell(1, 5), QStringLiteral("0.05 yd"));
 }
 
@@ -197,7 +197,7 @@ void tst_DesignWindow::arrowKeysLeadThroughTheFilter()
     fixture.press(Qt::Key_PageUp);
     QCOMPARE(names, (QStringList{"0.dst", "1.dst", "2.dst", "3.dst", "2.dst"}));
     // As the last one: what came in between is of no interest any more.
-    QTRY_VERIFY(fixture.says(QStringLiteral("10mm x 10mm")));
+    QTRY_VERIFY(fixture.says(QStringLiteral("10 mm × 10 mm")));
     QVERIFY(fixture.message().isEmpty());
 }
 
@@ -375,7 +375,7 @@ void tst_DesignWindow::tellsOfDesignsThatCannotBeRead()
     QVERIFY(QFile::remove(fixture.folder.design(QStringLiteral("1.dst"))));
     fixture.press(Qt::Key_Left);
     QTRY_COMPARE(fixture.message(), QStringLiteral("The file is no longer there."));
-    QVERIFY(!fixture.says(QStringLiteral("10mm x 10mm")));
+    QVERIFY(!fixture.says(QStringLiteral("10 mm × 10 mm")));
 }
 
 void tst_DesignWindow::closesAndComesBack()

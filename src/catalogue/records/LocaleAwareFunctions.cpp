@@ -1,5 +1,6 @@
 #include "catalogue/records/LocaleAwareFunctions.h"
 
+#include "base/GTranslationLoader.h"
 #include "catalogue/records/IFile.h"
 
 #include <algorithm>
@@ -47,13 +48,25 @@ void LocaleAwareFunctions::sort(QList<QSharedPointer<IFile>> &files)
     sortByKey(files, [](const QSharedPointer<IFile> &file) { return file->absoluteFilePath(); });
 }
 
-QString LocaleAwareFunctions::toString(const QSizeF &size, bool inch)
+static QString sizeText(const QSizeF &size, bool inch, const QString &pattern,
+                        const QLocale &locale)
 {
     if (size.width() < 0 || size.height() < 0)
         return {};
     const double unit = inch ? 25.4 : 1.0;
     const int precision = inch ? 1 : 0;
+    return pattern.arg(locale.toString(size.width() / unit, 'f', precision),
+                       locale.toString(size.height() / unit, 'f', precision));
+}
+
+QString LocaleAwareFunctions::toString(const QSizeF &size, bool inch)
+{
     const QString pattern = inch ? QStringLiteral("%1\" x %2\"") : QStringLiteral("%1mm x %2mm");
-    return pattern.arg(size.width() / unit, 0, 'f', precision)
-        .arg(size.height() / unit, 0, 'f', precision);
+    return sizeText(size, inch, pattern, QLocale::c());
+}
+
+QString LocaleAwareFunctions::toText(const QSizeF &size, bool inch)
+{
+    return sizeText(size, inch, inch ? tr("%1\" × %2\"") : tr("%1 mm × %2 mm"),
+                    GTranslationLoader::instance()->locale());
 }

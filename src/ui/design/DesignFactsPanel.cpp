@@ -82,8 +82,8 @@ void DesignFactsPanel::setDesign(const QSharedPointer<const SewingOrder> &order,
         return;
     }
     m_size->setText(
-        LocaleAwareFunctions::toString(order->bounds().size() / UnitsPerMillimetre, imperial));
-    m_hoop->setText(hoop ? LocaleAwareFunctions::toString(*hoop, imperial) : tr("no hoop fits"));
+        LocaleAwareFunctions::toText(order->bounds().size() / UnitsPerMillimetre, imperial));
+    m_hoop->setText(hoop ? LocaleAwareFunctions::toText(*hoop, imperial) : tr("no hoop fits"));
     m_stitches->setText(DesignTexts::number(order->pointCount()));
     m_colors->setText(DesignTexts::number(order->threadUses().size()));
     m_length->setText(DesignTexts::threadLength(threadLength(*order), imperial));
