@@ -81,6 +81,7 @@ private:
     void createViewMenu();
     void createHelpMenu();
     void createToolbars();
+    void describeToolbarActions();
     void createPathOpener();
     void createStatusLine();
     void setupInitialLayout();

@@ -132,4 +132,26 @@ void MainWindow::createToolbars()
     m_toolbar->addExpandingSeparator();
     m_toolbar->addAction(HooplineApplication::instance()->tutorialsAction());
     addToolBar(m_toolbar);
+    describeToolbarActions();
+}
+
+// What Qt makes of the menu's text keeps the letter of the menu where that stands in brackets.
+void MainWindow::describeToolbarActions()
+{
+    const auto describe = [](QAction *action, const QString &name, const QString &toolTip) {
+        const QString key = action->shortcut().toString(QKeySequence::NativeText);
+        action->setIconText(name);
+        action->setToolTip(key.isEmpty() ? toolTip
+                                         : tr("%1 (%2)", "tool tip and key").arg(toolTip, key));
+    };
+    describe(m_addFolderAction, tr("Add folder"), tr("Add a folder with embroidery designs"));
+    describe(m_removeFolderAction, tr("Remove folder"),
+             tr("Take the selected folder off the list; its files stay"));
+    describe(m_rescanAction, tr("Rescan"), tr("Look for new, changed and missing designs"));
+    describe(m_zoomOutAction, tr("Zoom out"), tr("Make the cards smaller"));
+    describe(m_zoomInAction, tr("Zoom in"), tr("Make the cards larger"));
+    describe(m_transferAction, tr("Transfer to machine"),
+             tr("Copy the selected designs to the drive of your machine"));
+    describe(HooplineApplication::instance()->tutorialsAction(), tr("Tutorials"),
+             tr("Open the manual"));
 }

@@ -36,6 +36,9 @@
 #include <QSlider>
 #include <QSplitter>
 #include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
 
@@ -49,6 +52,21 @@ QStringList texts(const QList<QAction *> &actions)
     return list;
 }
 
+/** A language in which the letter of a menu stands behind its text, in brackets. */
+class LettersBehind : public QTranslator
+{
+public:
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        const int letter = text.indexOf(QLatin1Char('&')) + 1;
+        return letter > 0 ? QString(text).remove(QLatin1Char('&')) +
+                                QStringLiteral("(&%1)").arg(text.at(letter))
+                          : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
 } // namespace
 
 class tst_mainwindow : public QObject
@@ -60,6 +78,7 @@ private slots:
     void cleanup();
     void startsEmpty();
     void offersItsCommands();
+    void describesTheButtonsOfItsToolBar();
     void sortsAndRemembersIt();
     void oldLayoutLeavesRoomForSavedSearches();
     void addsDroppedFoldersOnly();
@@ -199,6 +218,21 @@ void tst_mainwindow::offersItsCommands()
                           QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
                                          "&About Hoopline Organizer")}));
     QCOMPARE(action(QStringLiteral("Quit"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+}
+
+void tst_mainwindow::describesTheButtonsOfItsToolBar()
+{
+    LettersBehind language;
+    QVERIFY(qApp->installTranslator(&language));
+    open();
+    qApp->removeTranslator(&language);
+    QVERIFY(action(QStringLiteral("Rescan(&R)"))->toolTip().endsWith(QLatin1String(" (F5)")));
+    const auto buttons = m_window->findChild<QToolBar *>()->findChildren<QToolButton *>();
+    for (const QToolButton *button : buttons) {
+        const QString texts = button->accessibleName() + QLatin1Char('|') + button->toolTip();
+        QVERIFY2(!texts.contains(QRegularExpression(QStringLiteral("\\(\\w\\)|\\.\\.\\."))),
+                 qPrintable(texts));
+    }
 }
 
 void tst_mainwindow::sortsAndRemembersIt()
