@@ -35,7 +35,7 @@ QLabel *plainLabel(const QString &text)
 UpdateDialog::UpdateDialog(const AvailableUpdate &update, QWidget *parent)
     : QDialog(parent, Qt::Sheet), m_update(update)
 {
-    setWindowTitle(tr("Software Update"));
+    setWindowTitle(tr("Software update"));
     auto *texts = new QVBoxLayout;
     texts->setSpacing(TextGap);
     addTexts(texts);
@@ -96,10 +96,10 @@ void UpdateDialog::addTexts(QVBoxLayout *layout)
 void UpdateDialog::addButtons(QVBoxLayout *layout)
 {
     auto *buttons = new QDialogButtonBox;
-    auto *installButton = buttons->addButton(tr("Install Update"), QDialogButtonBox::AcceptRole);
-    auto *laterButton = buttons->addButton(tr("Remind Me Later"), QDialogButtonBox::RejectRole);
+    auto *installButton = buttons->addButton(tr("Install update"), QDialogButtonBox::AcceptRole);
+    auto *laterButton = buttons->addButton(tr("Remind me later"), QDialogButtonBox::RejectRole);
     auto *skipButton =
-        buttons->addButton(tr("Skip This Version"), QDialogButtonBox::DestructiveRole);
+        buttons->addButton(tr("Skip this version"), QDialogButtonBox::DestructiveRole);
     installButton->setObjectName(QStringLiteral("install"));
     laterButton->setObjectName(QStringLiteral("later"));
     skipButton->setObjectName(QStringLiteral("skip"));

@@ -104,7 +104,7 @@ void CatalogueKeeper::tellUnsaved(const QString &reason)
         {Unsaved,
          Notice::Problem,
          tr("Your last changes could not be saved: %1").arg(reason),
-         {{tr("Try again"), [this] { save(); }}, {tr("Save a copy…"), [this] { saveCopy(); }}}});
+         {{tr("Try again"), [this] { save(); }}, {tr("Save a copy..."), [this] { saveCopy(); }}}});
 }
 
 void CatalogueKeeper::tellUnreadable(const QString &reason)
@@ -113,7 +113,7 @@ void CatalogueKeeper::tellUnreadable(const QString &reason)
         {Unreadable,
          Notice::Problem,
          tr("Another program has changed the catalogue, and it cannot be read: %1").arg(reason),
-         {{tr("Try again"), [this] { reload(); }}, {tr("Save a copy…"), [this] { saveCopy(); }}}});
+         {{tr("Try again"), [this] { reload(); }}, {tr("Save a copy..."), [this] { saveCopy(); }}}});
 }
 
 void CatalogueKeeper::tellKept()

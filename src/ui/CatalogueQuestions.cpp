@@ -27,7 +27,7 @@ CatalogueQuestions::AtEnd CatalogueQuestions::askAtEnd(QWidget *parent, const QS
                     reason);
     box.setStandardButtons(QMessageBox::Cancel);
     QPushButton *again = box.addButton(tr("Try again"), QMessageBox::AcceptRole);
-    const QAbstractButton *copy = box.addButton(tr("Save a copy…"), QMessageBox::ActionRole);
+    const QAbstractButton *copy = box.addButton(tr("Save a copy..."), QMessageBox::ActionRole);
     const QAbstractButton *quit = box.addButton(tr("Quit without saving"), QMessageBox::ActionRole);
     box.setDefaultButton(again);
     box.setEscapeButton(QMessageBox::Cancel);

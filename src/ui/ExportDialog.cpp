@@ -64,7 +64,7 @@ void ExportDialog::fillDriveList()
     list->setCurrentIndex(qMax(0, list->findData(chosen)));
     const bool driveFound = list->count() > 0;
     if (!driveFound)
-        list->addItem(m_looking ? tr("Looking for drives…") : tr("No removable USB drive found"));
+        list->addItem(m_looking ? tr("Looking for drives...") : tr("No removable USB drive found"));
     list->setEnabled(driveFound);
     m_ui->copyButton->setEnabled(driveFound);
 }

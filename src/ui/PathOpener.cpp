@@ -29,7 +29,7 @@ QString listOf(QStringList paths)
 {
     if (paths.size() > MostPathsNamed) {
         paths = paths.mid(0, MostPathsNamed);
-        paths.append(QStringLiteral("…"));
+        paths.append(QStringLiteral("..."));
     }
     return paths.join(QLatin1Char('\n'));
 }

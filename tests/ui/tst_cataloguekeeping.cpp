@@ -332,7 +332,7 @@ void tst_cataloguekeeping::savesACopy()
     QVERIFY(put("<hoopline_organizer version='9.0'/>"));
     edit();
     changeState(Qt::ApplicationInactive);
-    QTest::mouseClick(button(QStringLiteral("Save a copy…")), Qt::LeftButton);
+    QTest::mouseClick(button(QStringLiteral("Save a copy...")), Qt::LeftButton);
     QFile file(copy);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("<is_favorite>true"));

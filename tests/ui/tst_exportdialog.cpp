@@ -112,7 +112,7 @@ void tst_exportdialog::looksForDrivesUntilTheyAnswer()
         QSKIP("No FAT image can be made to hang here.");
     {
         ExportDialog dialog(nullptr, {}, DriveFixture::volumes({&stick}));
-        QCOMPARE(drivesOf(dialog)->currentText(), QStringLiteral("Looking for drives…"));
+        QCOMPARE(drivesOf(dialog)->currentText(), QStringLiteral("Looking for drives..."));
         QVERIFY(!copyButtonOf(dialog)->isEnabled());
         stick.resume();
         QTRY_VERIFY(drivesOf(dialog)->findData(stick.path()) >= 0);

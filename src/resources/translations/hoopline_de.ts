@@ -88,10 +88,6 @@
         <translation>Erneut versuchen</translation>
     </message>
     <message>
-        <source>Save a copy…</source>
-        <translation>Kopie sichern …</translation>
-    </message>
-    <message>
         <source>Another program has changed the catalogue, and it cannot be read: %1</source>
         <translation>Ein anderes Programm hat den Katalog geändert, und er lässt sich nicht lesen: %1</translation>
     </message>
@@ -102,8 +98,8 @@
     <message numerus="yes">
         <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>
         <translation>
-            <numerusform>Der Katalog war beschädigt. %n Stickmuster konnte übernommen werden; die beschädigte Datei wurde als %1 aufgehoben.</numerusform>
-            <numerusform>Der Katalog war beschädigt. %n Stickmuster konnten übernommen werden; die beschädigte Datei wurde als %1 aufgehoben.</numerusform>
+            <numerusform>Der Katalog war beschädigt. %Ln Stickmuster konnte übernommen werden; die beschädigte Datei wurde als %1 aufgehoben.</numerusform>
+            <numerusform>Der Katalog war beschädigt. %Ln Stickmuster konnten übernommen werden; die beschädigte Datei wurde als %1 aufgehoben.</numerusform>
         </translation>
     </message>
     <message>
@@ -121,6 +117,10 @@
     <message>
         <source>The copy could not be saved.</source>
         <translation>Die Kopie konnte nicht gesichert werden.</translation>
+    </message>
+    <message>
+        <source>Save a copy...</source>
+        <translation>Kopie sichern …</translation>
     </message>
 </context>
 <context>
@@ -142,10 +142,6 @@
         <translation>Die letzten Änderungen konnten nicht gesichert werden.</translation>
     </message>
     <message>
-        <source>Save a copy…</source>
-        <translation>Kopie sichern …</translation>
-    </message>
-    <message>
         <source>Quit without saving</source>
         <translation>Beenden, ohne zu sichern</translation>
     </message>
@@ -156,6 +152,10 @@
     <message>
         <source>Catalogues (*.xml)</source>
         <translation>Kataloge (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save a copy...</source>
+        <translation>Kopie sichern …</translation>
     </message>
 </context>
 <context>
@@ -179,8 +179,8 @@
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n Stickmuster</numerusform>
-            <numerusform>%n Stickmuster</numerusform>
+            <numerusform>%Ln Stickmuster</numerusform>
+            <numerusform>%Ln Stickmuster</numerusform>
         </translation>
     </message>
     <message>
@@ -657,8 +657,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n file(s), %1</source>
         <translation>
-            <numerusform>%n Datei, %1</numerusform>
-            <numerusform>%n Dateien, %1</numerusform>
+            <numerusform>%Ln Datei, %1</numerusform>
+            <numerusform>%Ln Dateien, %1</numerusform>
         </translation>
     </message>
 </context>
@@ -698,8 +698,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n color(s)</source>
         <translation>
-            <numerusform>%n Farbe</numerusform>
-            <numerusform>%n Farben</numerusform>
+            <numerusform>%Ln Farbe</numerusform>
+            <numerusform>%Ln Farben</numerusform>
         </translation>
     </message>
     <message>
@@ -751,8 +751,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
         <translation>
-            <numerusform>%n Stickmuster konnte nicht verglichen werden; es fehlt, ist beschädigt, leer oder hat sich seit dem letzten Einlesen geändert.</numerusform>
-            <numerusform>%n Stickmuster konnten nicht verglichen werden; sie fehlen, sind beschädigt, leer oder haben sich seit dem letzten Einlesen geändert.</numerusform>
+            <numerusform>%Ln Stickmuster konnte nicht verglichen werden; es fehlt, ist beschädigt, leer oder hat sich seit dem letzten Einlesen geändert.</numerusform>
+            <numerusform>%Ln Stickmuster konnten nicht verglichen werden; sie fehlen, sind beschädigt, leer oder haben sich seit dem letzten Einlesen geändert.</numerusform>
         </translation>
     </message>
     <message>
@@ -762,20 +762,13 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n group(s)</source>
         <translation>
-            <numerusform>%n Gruppe</numerusform>
-            <numerusform>%n Gruppen</numerusform>
+            <numerusform>%Ln Gruppe</numerusform>
+            <numerusform>%Ln Gruppen</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>DuplicatesDialog</name>
-    <message numerus="yes">
-        <source>… and %n more</source>
-        <translation>
-            <numerusform>… und %n weitere</numerusform>
-            <numerusform>… und %n weitere</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Duplicates</source>
         <translation>Duplikate</translation>
@@ -803,8 +796,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>Move %n file(s) to the trash?</source>
         <translation>
-            <numerusform>%n Datei in den Papierkorb legen?</numerusform>
-            <numerusform>%n Dateien in den Papierkorb legen?</numerusform>
+            <numerusform>%Ln Datei in den Papierkorb legen?</numerusform>
+            <numerusform>%Ln Dateien in den Papierkorb legen?</numerusform>
         </translation>
     </message>
     <message>
@@ -820,17 +813,20 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n file(s) stayed where they were.</source>
         <translation>
-            <numerusform>%n Datei blieb, wo sie war.</numerusform>
-            <numerusform>%n Dateien blieben, wo sie waren.</numerusform>
+            <numerusform>%Ln Datei blieb, wo sie war.</numerusform>
+            <numerusform>%Ln Dateien blieben, wo sie waren.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>… und %Ln weitere</numerusform>
+            <numerusform>… und %Ln weitere</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>DuplicatesPage</name>
-    <message>
-        <source>&amp;Keep the chosen one, the others to the trash…</source>
-        <translation>Gewähltes &amp;behalten, die anderen in den Papierkorb…</translation>
-    </message>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
@@ -844,30 +840,34 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Stickmuster der Gruppe; das gewählte wird behalten</translation>
     </message>
     <message>
-        <source>Moving to the trash…</source>
-        <translation>Wird in den Papierkorb gelegt…</translation>
-    </message>
-    <message>
         <source>There are no duplicates.</source>
         <translation>Es gibt keine Duplikate.</translation>
     </message>
     <message numerus="yes">
         <source>%n group(s)</source>
         <translation>
-            <numerusform>%n Gruppe</numerusform>
-            <numerusform>%n Gruppen</numerusform>
+            <numerusform>%Ln Gruppe</numerusform>
+            <numerusform>%Ln Gruppen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n design(s) could not be compared.</source>
         <translation>
-            <numerusform>%n Stickmuster konnte nicht verglichen werden.</numerusform>
-            <numerusform>%n Stickmuster konnten nicht verglichen werden.</numerusform>
+            <numerusform>%Ln Stickmuster konnte nicht verglichen werden.</numerusform>
+            <numerusform>%Ln Stickmuster konnten nicht verglichen werden.</numerusform>
         </translation>
     </message>
     <message>
         <source>They are missing, damaged, empty or have changed since the last scan.</source>
         <translation>Sie fehlen, sind beschädigt, leer oder haben sich seit dem letzten Einlesen geändert.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the chosen one, the others to the trash...</source>
+        <translation>Gewähltes &amp;behalten, die anderen in den Papierkorb …</translation>
+    </message>
+    <message>
+        <source>Moving to the trash...</source>
+        <translation>Wird in den Papierkorb gelegt …</translation>
     </message>
 </context>
 <context>
@@ -900,7 +900,7 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
     <message>
         <source>Add folder...</source>
-        <translation>Ordner hinzufügen ...</translation>
+        <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>Show all designs</source>
@@ -961,8 +961,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>
         <translation>
-            <numerusform>%n Datei wird kopiert.</numerusform>
-            <numerusform>%n Dateien werden kopiert.</numerusform>
+            <numerusform>%Ln Datei wird kopiert.</numerusform>
+            <numerusform>%Ln Dateien werden kopiert.</numerusform>
         </translation>
     </message>
     <message>
@@ -979,11 +979,7 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
     <message>
         <source>Copying file %1...</source>
-        <translation>%1 wird kopiert ...</translation>
-    </message>
-    <message>
-        <source>Looking for drives…</source>
-        <translation>Datenträger werden gesucht …</translation>
+        <translation>%1 wird kopiert …</translation>
     </message>
     <message>
         <source>File %1 of %2, %3 of %4 MB</source>
@@ -992,6 +988,10 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>File %1 of %2, %3 of %4 KB</source>
         <translation>Datei %1 von %2, %3 von %4 KB</translation>
+    </message>
+    <message>
+        <source>Looking for drives...</source>
+        <translation>Datenträger werden gesucht …</translation>
     </message>
 </context>
 <context>
@@ -1126,7 +1126,7 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
     <message>
         <source>x</source>
-        <translation>x</translation>
+        <translation>×</translation>
     </message>
     <message>
         <source>Maximum height</source>
@@ -1170,8 +1170,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n folders have changed.</source>
         <translation>
-            <numerusform>%n Ordner hat sich geändert.</numerusform>
-            <numerusform>%n Ordner haben sich geändert.</numerusform>
+            <numerusform>%Ln Ordner hat sich geändert.</numerusform>
+            <numerusform>%Ln Ordner haben sich geändert.</numerusform>
         </translation>
     </message>
     <message>
@@ -1397,14 +1397,25 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>LocaleAwareFunctions</name>
+    <message>
+        <source>%1&quot; × %2&quot;</source>
+        <translation>%1&quot; × %2&quot;</translation>
+    </message>
+    <message>
+        <source>%1 mm × %2 mm</source>
+        <translation>%1 mm × %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Loading ...</source>
-        <translation>Wird geladen ...</translation>
+        <translation>Wird geladen …</translation>
     </message>
     <message>
         <source>Number of stitches: 99 mm x 99 mm</source>
-        <translation>Anzahl der Stiche: 999 mm x 999 mm</translation>
+        <translation>Anzahl der Stiche: 999 mm × 999 mm</translation>
     </message>
     <message>
         <source>Select folder to add</source>
@@ -1424,7 +1435,7 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
     <message>
         <source>&amp;Add folder...</source>
-        <translation>Ordner hin&amp;zufügen ...</translation>
+        <translation>Ordner hin&amp;zufügen …</translation>
     </message>
     <message>
         <source>&amp;Remove folder</source>
@@ -1484,7 +1495,64 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
     <message>
         <source>Find &amp;duplicates...</source>
-        <translation>&amp;Duplikate suchen...</translation>
+        <translation>&amp;Duplikate suchen …</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tool tip and key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a folder with embroidery designs</source>
+        <translation>Einen Ordner mit Stickmustern hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove folder</source>
+        <translation>Ordner entfernen</translation>
+    </message>
+    <message>
+        <source>Take the selected folder off the list; its files stay</source>
+        <translation>Den ausgewählten Ordner von der Liste nehmen; seine Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>Neu einlesen</translation>
+    </message>
+    <message>
+        <source>Look for new, changed and missing designs</source>
+        <translation>Nach neuen, geänderten und fehlenden Stickmustern sehen</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Make the cards smaller</source>
+        <translation>Die Karten verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Make the cards larger</source>
+        <translation>Die Karten vergrößern</translation>
+    </message>
+    <message>
+        <source>Copy the selected designs to the drive of your machine</source>
+        <translation>Die ausgewählten Stickmuster auf den Datenträger Ihrer Maschine kopieren</translation>
+    </message>
+    <message>
+        <source>Tutorials</source>
+        <translation>Anleitungen</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>Das Handbuch öffnen</translation>
     </message>
 </context>
 <context>
@@ -1573,7 +1641,7 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Add %n folder(s) to your collection?</source>
         <translation>
             <numerusform>Diesen Ordner in Ihre Sammlung aufnehmen?</numerusform>
-            <numerusform>Diese %n Ordner in Ihre Sammlung aufnehmen?</numerusform>
+            <numerusform>Diese %Ln Ordner in Ihre Sammlung aufnehmen?</numerusform>
         </translation>
     </message>
     <message>
@@ -1588,7 +1656,7 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>%n design(s) were not read yet. Rescan the folders?</source>
         <translation>
             <numerusform>Dieses Stickmuster wurde noch nicht eingelesen. Ordner neu einlesen?</numerusform>
-            <numerusform>Diese %n Stickmuster wurden noch nicht eingelesen. Ordner neu einlesen?</numerusform>
+            <numerusform>Diese %Ln Stickmuster wurden noch nicht eingelesen. Ordner neu einlesen?</numerusform>
         </translation>
     </message>
     <message>
@@ -1663,7 +1731,7 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
     <message>
         <source>Open...</source>
-        <translation>Öffnen ...</translation>
+        <translation>Öffnen …</translation>
     </message>
     <message>
         <source>Updates &amp;&amp; Privacy</source>
@@ -1690,7 +1758,7 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Datenerfassung einschalten</translation>
     </message>
     <message>
-        <source>Ok</source>
+        <source>OK</source>
         <translation>OK</translation>
     </message>
 </context>
@@ -1801,8 +1869,8 @@ Optionen:
     <message numerus="yes">
         <source>%n files selected</source>
         <translation>
-            <numerusform>%n Datei ausgewählt</numerusform>
-            <numerusform>%n Dateien ausgewählt</numerusform>
+            <numerusform>%Ln Datei ausgewählt</numerusform>
+            <numerusform>%Ln Dateien ausgewählt</numerusform>
         </translation>
     </message>
     <message>
@@ -2060,50 +2128,50 @@ Optionen:
     <message numerus="yes">
         <source>%n new</source>
         <translation>
-            <numerusform>%n neu</numerusform>
-            <numerusform>%n neu</numerusform>
+            <numerusform>%Ln neu</numerusform>
+            <numerusform>%Ln neu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>%n geändert</numerusform>
-            <numerusform>%n geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n moved</source>
         <translation>
-            <numerusform>%n verschoben</numerusform>
-            <numerusform>%n verschoben</numerusform>
+            <numerusform>%Ln verschoben</numerusform>
+            <numerusform>%Ln verschoben</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n gone</source>
         <translation>
-            <numerusform>%n verschwunden</numerusform>
-            <numerusform>%n verschwunden</numerusform>
+            <numerusform>%Ln verschwunden</numerusform>
+            <numerusform>%Ln verschwunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not readable</source>
         <translation>
-            <numerusform>%n nicht lesbar</numerusform>
-            <numerusform>%n nicht lesbar</numerusform>
+            <numerusform>%Ln nicht lesbar</numerusform>
+            <numerusform>%Ln nicht lesbar</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
         <translation>
-            <numerusform>%n ausgelassen</numerusform>
-            <numerusform>%n ausgelassen</numerusform>
+            <numerusform>%Ln ausgelassen</numerusform>
+            <numerusform>%Ln ausgelassen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not read yet</source>
         <translation>
-            <numerusform>%n noch nicht gelesen</numerusform>
-            <numerusform>%n noch nicht gelesen</numerusform>
+            <numerusform>%Ln noch nicht gelesen</numerusform>
+            <numerusform>%Ln noch nicht gelesen</numerusform>
         </translation>
     </message>
     <message>
@@ -2114,15 +2182,15 @@ Optionen:
     <message numerus="yes">
         <source>and %n more</source>
         <translation>
-            <numerusform>und %n weitere</numerusform>
-            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %Ln weitere</numerusform>
+            <numerusform>und %Ln weitere</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) could not be read.</source>
         <translation>
-            <numerusform>%n Datei konnte nicht gelesen werden.</numerusform>
-            <numerusform>%n Dateien konnten nicht gelesen werden.</numerusform>
+            <numerusform>%Ln Datei konnte nicht gelesen werden.</numerusform>
+            <numerusform>%Ln Dateien konnten nicht gelesen werden.</numerusform>
         </translation>
     </message>
 </context>
@@ -2211,7 +2279,7 @@ Optionen:
     <name>SearchHelpMenu</name>
     <message>
         <source>Designs that ...</source>
-        <translation>Stickmuster, die ...</translation>
+        <translation>Stickmuster, die …</translation>
     </message>
     <message>
         <source>don&apos;t, by a minus before any field</source>
@@ -2241,12 +2309,12 @@ Optionen:
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>Comparing the designs…</source>
-        <translation>Die Stickmuster werden verglichen…</translation>
-    </message>
-    <message>
         <source>Comparing the designs: %1 of %2</source>
         <translation>Die Stickmuster werden verglichen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Comparing the designs...</source>
+        <translation>Die Stickmuster werden verglichen …</translation>
     </message>
 </context>
 <context>
@@ -2270,7 +2338,7 @@ Optionen:
         <source>holds none of its %n design(s) any more</source>
         <translation>
             <numerusform>enthält sein Stickmuster nicht mehr</numerusform>
-            <numerusform>enthält keines seiner %n Stickmuster mehr</numerusform>
+            <numerusform>enthält keines seiner %Ln Stickmuster mehr</numerusform>
         </translation>
     </message>
 </context>
@@ -2518,8 +2586,8 @@ Optionen:
     <message numerus="yes">
         <source>This tag is attached to %n files</source>
         <translation>
-            <numerusform>Dieses Schlagwort ist %n Datei zugeordnet</numerusform>
-            <numerusform>Dieses Schlagwort ist %n Dateien zugeordnet</numerusform>
+            <numerusform>Dieses Schlagwort ist %Ln Datei zugeordnet</numerusform>
+            <numerusform>Dieses Schlagwort ist %Ln Dateien zugeordnet</numerusform>
         </translation>
     </message>
     <message>
@@ -2529,8 +2597,8 @@ Optionen:
     <message numerus="yes">
         <source>Delete %n unused tags?</source>
         <translation>
-            <numerusform>%n unbenutztes Schlagwort löschen?</numerusform>
-            <numerusform>%n unbenutzte Schlagwörter löschen?</numerusform>
+            <numerusform>%Ln unbenutztes Schlagwort löschen?</numerusform>
+            <numerusform>%Ln unbenutzte Schlagwörter löschen?</numerusform>
         </translation>
     </message>
     <message>
@@ -2628,15 +2696,15 @@ Optionen:
     <message numerus="yes">
         <source>%n file(s) copied to %1.</source>
         <translation>
-            <numerusform>%n Datei wurde auf %1 kopiert.</numerusform>
-            <numerusform>%n Dateien wurden auf %1 kopiert.</numerusform>
+            <numerusform>%Ln Datei wurde auf %1 kopiert.</numerusform>
+            <numerusform>%Ln Dateien wurden auf %1 kopiert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of them gave way to a later one of the same name.</source>
         <translation>
-            <numerusform>%n davon ist einer späteren gleichen Namens gewichen.</numerusform>
-            <numerusform>%n davon sind einer späteren gleichen Namens gewichen.</numerusform>
+            <numerusform>%Ln davon ist einer späteren gleichen Namens gewichen.</numerusform>
+            <numerusform>%Ln davon sind einer späteren gleichen Namens gewichen.</numerusform>
         </translation>
     </message>
     <message>
@@ -2646,10 +2714,6 @@ Optionen:
     <message>
         <source>Eject</source>
         <translation>Auswerfen</translation>
-    </message>
-    <message>
-        <source>Ejecting %1…</source>
-        <translation>%1 wird ausgeworfen …</translation>
     </message>
     <message>
         <source>another program still uses it.</source>
@@ -2662,6 +2726,10 @@ Optionen:
     <message>
         <source>%1 cannot be ejected: %2</source>
         <translation>%1 kann nicht ausgeworfen werden: %2</translation>
+    </message>
+    <message>
+        <source>Ejecting %1...</source>
+        <translation>%1 wird ausgeworfen …</translation>
     </message>
 </context>
 <context>

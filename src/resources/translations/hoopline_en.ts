@@ -6,8 +6,8 @@
     <message numerus="yes">
         <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>
         <translation>
-            <numerusform>The catalogue was damaged. %n design could be taken over; the damaged file was kept as %1.</numerusform>
-            <numerusform>The catalogue was damaged. %n designs could be taken over; the damaged file was kept as %1.</numerusform>
+            <numerusform>The catalogue was damaged. %Ln design could be taken over; the damaged file was kept as %1.</numerusform>
+            <numerusform>The catalogue was damaged. %Ln designs could be taken over; the damaged file was kept as %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -16,8 +16,8 @@
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n design</numerusform>
-            <numerusform>%n designs</numerusform>
+            <numerusform>%Ln design</numerusform>
+            <numerusform>%Ln designs</numerusform>
         </translation>
     </message>
 </context>
@@ -26,8 +26,8 @@
     <message numerus="yes">
         <source>%n file(s), %1</source>
         <translation>
-            <numerusform>%n file, %1</numerusform>
-            <numerusform>%n files, %1</numerusform>
+            <numerusform>%Ln file, %1</numerusform>
+            <numerusform>%Ln files, %1</numerusform>
         </translation>
     </message>
 </context>
@@ -43,8 +43,8 @@
     <message numerus="yes">
         <source>%n color(s)</source>
         <translation>
-            <numerusform>%n color</numerusform>
-            <numerusform>%n colors</numerusform>
+            <numerusform>%Ln color</numerusform>
+            <numerusform>%Ln colors</numerusform>
         </translation>
     </message>
 </context>
@@ -53,39 +53,39 @@
     <message numerus="yes">
         <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
         <translation>
-            <numerusform>%n design could not be compared; it is missing, damaged, empty or has changed since the last scan.</numerusform>
-            <numerusform>%n designs could not be compared; they are missing, damaged, empty or have changed since the last scan.</numerusform>
+            <numerusform>%Ln design could not be compared; it is missing, damaged, empty or has changed since the last scan.</numerusform>
+            <numerusform>%Ln designs could not be compared; they are missing, damaged, empty or have changed since the last scan.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n group(s)</source>
         <translation>
-            <numerusform>%n group</numerusform>
-            <numerusform>%n groups</numerusform>
+            <numerusform>%Ln group</numerusform>
+            <numerusform>%Ln groups</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>DuplicatesDialog</name>
     <message numerus="yes">
-        <source>… and %n more</source>
-        <translation>
-            <numerusform>… and %n more</numerusform>
-            <numerusform>… and %n more</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>Move %n file(s) to the trash?</source>
         <translation>
-            <numerusform>Move %n file to the trash?</numerusform>
-            <numerusform>Move %n files to the trash?</numerusform>
+            <numerusform>Move %Ln file to the trash?</numerusform>
+            <numerusform>Move %Ln files to the trash?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) stayed where they were.</source>
         <translation>
-            <numerusform>%n file stayed where it was.</numerusform>
-            <numerusform>%n files stayed where they were.</numerusform>
+            <numerusform>%Ln file stayed where it was.</numerusform>
+            <numerusform>%Ln files stayed where they were.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... and %Ln more</numerusform>
+            <numerusform>... and %Ln more</numerusform>
         </translation>
     </message>
 </context>
@@ -94,15 +94,15 @@
     <message numerus="yes">
         <source>%n group(s)</source>
         <translation>
-            <numerusform>%n group</numerusform>
-            <numerusform>%n groups</numerusform>
+            <numerusform>%Ln group</numerusform>
+            <numerusform>%Ln groups</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n design(s) could not be compared.</source>
         <translation>
-            <numerusform>%n design could not be compared.</numerusform>
-            <numerusform>%n designs could not be compared.</numerusform>
+            <numerusform>%Ln design could not be compared.</numerusform>
+            <numerusform>%Ln designs could not be compared.</numerusform>
         </translation>
     </message>
 </context>
@@ -131,8 +131,8 @@
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>
         <translation>
-            <numerusform>%n file will be copied.</numerusform>
-            <numerusform>%n files will be copied.</numerusform>
+            <numerusform>%Ln file will be copied.</numerusform>
+            <numerusform>%Ln files will be copied.</numerusform>
         </translation>
     </message>
 </context>
@@ -141,8 +141,8 @@
     <message numerus="yes">
         <source>%n folders have changed.</source>
         <translation>
-            <numerusform>%n folder has changed.</numerusform>
-            <numerusform>%n folders have changed.</numerusform>
+            <numerusform>%Ln folder has changed.</numerusform>
+            <numerusform>%Ln folders have changed.</numerusform>
         </translation>
     </message>
 </context>
@@ -169,14 +169,14 @@
         <source>Add %n folder(s) to your collection?</source>
         <translation>
             <numerusform>Add this folder to your collection?</numerusform>
-            <numerusform>Add these %n folders to your collection?</numerusform>
+            <numerusform>Add these %Ln folders to your collection?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n design(s) were not read yet. Rescan the folders?</source>
         <translation>
             <numerusform>This design was not read yet. Rescan the folders?</numerusform>
-            <numerusform>These %n designs were not read yet. Rescan the folders?</numerusform>
+            <numerusform>These %Ln designs were not read yet. Rescan the folders?</numerusform>
         </translation>
     </message>
 </context>
@@ -185,8 +185,8 @@
     <message numerus="yes">
         <source>%n files selected</source>
         <translation>
-            <numerusform>%n file selected</numerusform>
-            <numerusform>%n files selected</numerusform>
+            <numerusform>%Ln file selected</numerusform>
+            <numerusform>%Ln files selected</numerusform>
         </translation>
     </message>
 </context>
@@ -195,64 +195,64 @@
     <message numerus="yes">
         <source>%n new</source>
         <translation>
-            <numerusform>%n new</numerusform>
-            <numerusform>%n new</numerusform>
+            <numerusform>%Ln new</numerusform>
+            <numerusform>%Ln new</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>%n changed</numerusform>
-            <numerusform>%n changed</numerusform>
+            <numerusform>%Ln changed</numerusform>
+            <numerusform>%Ln changed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n moved</source>
         <translation>
-            <numerusform>%n moved</numerusform>
-            <numerusform>%n moved</numerusform>
+            <numerusform>%Ln moved</numerusform>
+            <numerusform>%Ln moved</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n gone</source>
         <translation>
-            <numerusform>%n gone</numerusform>
-            <numerusform>%n gone</numerusform>
+            <numerusform>%Ln gone</numerusform>
+            <numerusform>%Ln gone</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not readable</source>
         <translation>
-            <numerusform>%n not readable</numerusform>
-            <numerusform>%n not readable</numerusform>
+            <numerusform>%Ln not readable</numerusform>
+            <numerusform>%Ln not readable</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
         <translation>
-            <numerusform>%n left out</numerusform>
-            <numerusform>%n left out</numerusform>
+            <numerusform>%Ln left out</numerusform>
+            <numerusform>%Ln left out</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not read yet</source>
         <translation>
-            <numerusform>%n not read yet</numerusform>
-            <numerusform>%n not read yet</numerusform>
+            <numerusform>%Ln not read yet</numerusform>
+            <numerusform>%Ln not read yet</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
         <translation>
-            <numerusform>and %n more</numerusform>
-            <numerusform>and %n more</numerusform>
+            <numerusform>and %Ln more</numerusform>
+            <numerusform>and %Ln more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) could not be read.</source>
         <translation>
-            <numerusform>%n file could not be read.</numerusform>
-            <numerusform>%n files could not be read.</numerusform>
+            <numerusform>%Ln file could not be read.</numerusform>
+            <numerusform>%Ln files could not be read.</numerusform>
         </translation>
     </message>
 </context>
@@ -271,8 +271,8 @@
     <message numerus="yes">
         <source>holds none of its %n design(s) any more</source>
         <translation>
-            <numerusform>holds its %n design no more</numerusform>
-            <numerusform>holds none of its %n designs any more</numerusform>
+            <numerusform>holds its %Ln design no more</numerusform>
+            <numerusform>holds none of its %Ln designs any more</numerusform>
         </translation>
     </message>
 </context>
@@ -312,15 +312,15 @@
     <message numerus="yes">
         <source>This tag is attached to %n files</source>
         <translation>
-            <numerusform>This tag is attached to %n file</numerusform>
-            <numerusform>This tag is attached to %n files</numerusform>
+            <numerusform>This tag is attached to %Ln file</numerusform>
+            <numerusform>This tag is attached to %Ln files</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n unused tags?</source>
         <translation>
-            <numerusform>Delete %n unused tag?</numerusform>
-            <numerusform>Delete %n unused tags?</numerusform>
+            <numerusform>Delete %Ln unused tag?</numerusform>
+            <numerusform>Delete %Ln unused tags?</numerusform>
         </translation>
     </message>
 </context>
@@ -329,15 +329,15 @@
     <message numerus="yes">
         <source>%n file(s) copied to %1.</source>
         <translation>
-            <numerusform>%n file copied to %1.</numerusform>
-            <numerusform>%n files copied to %1.</numerusform>
+            <numerusform>%Ln file copied to %1.</numerusform>
+            <numerusform>%Ln files copied to %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of them gave way to a later one of the same name.</source>
         <translation>
-            <numerusform>%n of them gave way to a later one of the same name.</numerusform>
-            <numerusform>%n of them gave way to later ones of the same name.</numerusform>
+            <numerusform>%Ln of them gave way to a later one of the same name.</numerusform>
+            <numerusform>%Ln of them gave way to later ones of the same name.</numerusform>
         </translation>
     </message>
 </context>

@@ -88,45 +88,45 @@
         <translation>重试</translation>
     </message>
     <message>
-        <source>Save a copy…</source>
-        <translation>保存副本…</translation>
-    </message>
-    <message>
         <source>Another program has changed the catalogue, and it cannot be read: %1</source>
-        <translation>另一个程序更改了目录，现在无法读取：%1</translation>
+        <translation>另一个程序更改了花样库，现在无法读取：%1</translation>
     </message>
     <message>
         <source>The catalogue was damaged by another program. It was replaced by what is shown here and kept as %1.</source>
-        <translation>目录被另一个程序损坏。它已由此处显示的内容替换，并保留为 %1。</translation>
+        <translation>花样库被另一个程序损坏。它已由此处显示的内容替换，并保留为 %1。</translation>
     </message>
     <message numerus="yes">
         <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>
         <translation>
-            <numerusform>目录已损坏。已恢复 %n 个花样；损坏的文件保留为 %1。</numerusform>
+            <numerusform>花样库已损坏。已恢复 %Ln 个花样；损坏的文件保留为 %1。</numerusform>
         </translation>
     </message>
     <message>
         <source>Another program had changed the catalogue. What it wrote was kept as %1.</source>
-        <translation>另一个程序更改过目录。它写入的内容保留为 %1。</translation>
+        <translation>另一个程序更改过花样库。它写入的内容保留为 %1。</translation>
     </message>
     <message>
         <source>Another program has changed the catalogue, which is shown now. Your changes that had not been saved were kept as %1.</source>
-        <translation>另一个程序更改了目录，现在显示的就是它。您尚未保存的更改保留为 %1。</translation>
+        <translation>另一个程序更改了花样库，现在显示的就是它。您尚未保存的更改保留为 %1。</translation>
     </message>
     <message>
         <source>The folder of the catalogue, %1, was not there, and an empty one was made. Is it on a drive that is not plugged in? Then quit, plug it in and start again.</source>
-        <translation>目录所在的文件夹 %1 不存在，已新建一个空文件夹。它是否位于未连接的驱动器上？如果是，请退出，连接驱动器后重新启动。</translation>
+        <translation>花样库所在的文件夹 %1 不存在，已新建一个空文件夹。它是否位于未连接的驱动器上？如果是，请退出，连接驱动器后重新启动。</translation>
     </message>
     <message>
         <source>The copy could not be saved.</source>
         <translation>无法保存副本。</translation>
+    </message>
+    <message>
+        <source>Save a copy...</source>
+        <translation>保存副本…</translation>
     </message>
 </context>
 <context>
     <name>CatalogueQuestions</name>
     <message>
         <source>The catalogue cannot be used.</source>
-        <translation>目录无法使用。</translation>
+        <translation>花样库无法使用。</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -141,20 +141,20 @@
         <translation>最近的更改无法保存。</translation>
     </message>
     <message>
-        <source>Save a copy…</source>
-        <translation>保存副本…</translation>
-    </message>
-    <message>
         <source>Quit without saving</source>
         <translation>不保存并退出</translation>
     </message>
     <message>
         <source>Save a copy of the catalogue</source>
-        <translation>保存目录副本</translation>
+        <translation>保存花样库副本</translation>
     </message>
     <message>
         <source>Catalogues (*.xml)</source>
-        <translation>目录 (*.xml)</translation>
+        <translation>花样库 (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save a copy...</source>
+        <translation>保存副本…</translation>
     </message>
 </context>
 <context>
@@ -178,7 +178,7 @@
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n 个花样</numerusform>
+            <numerusform>%Ln 个花样</numerusform>
         </translation>
     </message>
     <message>
@@ -315,7 +315,7 @@ Commands; each has a --help of its own:</source>
     <name>DataFolder</name>
     <message>
         <source>The folder of the catalogue, &apos;%1&apos;, is not there. Is its drive plugged in?</source>
-        <translation>目录所在的文件夹“%1”不存在。它所在的驱动器是否已连接？</translation>
+        <translation>花样库所在的文件夹“%1”不存在。它所在的驱动器是否已连接？</translation>
     </message>
 </context>
 <context>
@@ -529,7 +529,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Zoom out (-)</source>
-        <translation>缩小 (-)</translation>
+        <translation>缩小（-）</translation>
     </message>
     <message>
         <source>Zoom in</source>
@@ -537,7 +537,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Zoom in (+)</source>
-        <translation>放大 (+)</translation>
+        <translation>放大（+）</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -557,7 +557,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Show all of the design (0)</source>
-        <translation>显示整个花样 (0)</translation>
+        <translation>显示整个花样（0）</translation>
     </message>
     <message>
         <source>True size</source>
@@ -565,7 +565,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>As large as it is sewn (1)</source>
-        <translation>与绣出的大小相同 (1)</translation>
+        <translation>与绣出的大小相同（1）</translation>
     </message>
     <message>
         <source>Hoop</source>
@@ -573,7 +573,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Show the smallest hoop around the design (H)</source>
-        <translation>在花样周围显示最小的绣框 (H)</translation>
+        <translation>在花样周围显示最小的绣框（H）</translation>
     </message>
     <message>
         <source>Jumps</source>
@@ -581,7 +581,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Show where the needle jumps without sewing (J)</source>
-        <translation>显示跳针之处 (J)</translation>
+        <translation>显示跳针之处（J）</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -655,7 +655,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n file(s), %1</source>
         <translation>
-            <numerusform>%n 个文件，%1</numerusform>
+            <numerusform>%Ln 个文件，%1</numerusform>
         </translation>
     </message>
 </context>
@@ -694,7 +694,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n color(s)</source>
         <translation>
-            <numerusform>%n 种颜色</numerusform>
+            <numerusform>%Ln 种颜色</numerusform>
         </translation>
     </message>
     <message>
@@ -737,7 +737,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Prints the designs of the catalogue that are there more than once: files of the same content, and files with the same stitches, such as a design in two formats. Changes nothing.</source>
-        <translation>输出目录中重复的花样：内容相同的文件，以及针迹相同的文件（例如同一花样的两种格式）。不作任何更改。</translation>
+        <translation>输出花样库中重复的花样：内容相同的文件，以及针迹相同的文件（例如同一花样的两种格式）。不作任何更改。</translation>
     </message>
     <message>
         <source>Print one JSON object per group, a line each.</source>
@@ -746,7 +746,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n design(s) could not be compared; they are missing, damaged, empty or have changed since the last scan.</source>
         <translation>
-            <numerusform>%n 个花样无法比较：文件缺失、损坏、为空或自上次扫描后已更改。</numerusform>
+            <numerusform>%Ln 个花样无法比较：文件缺失、损坏、为空或自上次扫描后已更改。</numerusform>
         </translation>
     </message>
     <message>
@@ -756,18 +756,12 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n group(s)</source>
         <translation>
-            <numerusform>%n 组</numerusform>
+            <numerusform>%Ln 组</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>DuplicatesDialog</name>
-    <message numerus="yes">
-        <source>… and %n more</source>
-        <translation>
-            <numerusform>……以及另外 %n 个</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Duplicates</source>
         <translation>重复花样</translation>
@@ -778,7 +772,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>The catalogue has changed in the meantime.</source>
-        <translation>目录在此期间已更改。</translation>
+        <translation>花样库在此期间已更改。</translation>
     </message>
     <message>
         <source>Close this window and find the duplicates again.</source>
@@ -790,12 +784,12 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>The catalogue could not be saved, and with it what was said about these designs.</source>
-        <translation>无法保存目录，因此这些花样的标签和备注也无法保存。</translation>
+        <translation>无法保存花样库，因此这些花样的标签和备注也无法保存。</translation>
     </message>
     <message numerus="yes">
         <source>Move %n file(s) to the trash?</source>
         <translation>
-            <numerusform>将 %n 个文件移到回收站？</numerusform>
+            <numerusform>将 %Ln 个文件移到回收站？</numerusform>
         </translation>
     </message>
     <message>
@@ -806,21 +800,23 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan, without tags and notes.</source>
-        <translation>文件可以从回收站还原；下次重新扫描时目录会再次找到它们，但不再带有标签和备注。</translation>
+        <translation>文件可以从回收站还原；下次重新扫描时花样库会再次找到它们，但不再带有标签和备注。</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) stayed where they were.</source>
         <translation>
-            <numerusform>%n 个文件仍留在原处。</numerusform>
+            <numerusform>%Ln 个文件仍留在原处。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>…以及另外 %Ln 个</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>DuplicatesPage</name>
-    <message>
-        <source>&amp;Keep the chosen one, the others to the trash…</source>
-        <translation>保留所选，其余移到回收站(&amp;K)…</translation>
-    </message>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
@@ -834,28 +830,32 @@ Commands; each has a --help of its own:</source>
         <translation>组内花样；所选的将保留</translation>
     </message>
     <message>
-        <source>Moving to the trash…</source>
-        <translation>正在移到回收站…</translation>
-    </message>
-    <message>
         <source>There are no duplicates.</source>
         <translation>没有重复的花样。</translation>
     </message>
     <message numerus="yes">
         <source>%n group(s)</source>
         <translation>
-            <numerusform>%n 组</numerusform>
+            <numerusform>%Ln 组</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n design(s) could not be compared.</source>
         <translation>
-            <numerusform>%n 个花样无法比较。</numerusform>
+            <numerusform>%Ln 个花样无法比较。</numerusform>
         </translation>
     </message>
     <message>
         <source>They are missing, damaged, empty or have changed since the last scan.</source>
         <translation>文件缺失、损坏、为空或自上次扫描后已更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the chosen one, the others to the trash...</source>
+        <translation>保留所选，其余移到回收站(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Moving to the trash...</source>
+        <translation>正在移到回收站…</translation>
     </message>
 </context>
 <context>
@@ -947,7 +947,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n file(s) will be copied.</source>
         <translation>
-            <numerusform>将复制 %n 个文件。</numerusform>
+            <numerusform>将复制 %Ln 个文件。</numerusform>
         </translation>
     </message>
     <message>
@@ -967,10 +967,6 @@ Commands; each has a --help of its own:</source>
         <translation>正在复制 %1…</translation>
     </message>
     <message>
-        <source>Looking for drives…</source>
-        <translation>正在查找驱动器…</translation>
-    </message>
-    <message>
         <source>File %1 of %2, %3 of %4 MB</source>
         <translation>第 %1 个文件，共 %2 个；%3 / %4 MB</translation>
     </message>
@@ -978,12 +974,16 @@ Commands; each has a --help of its own:</source>
         <source>File %1 of %2, %3 of %4 KB</source>
         <translation>第 %1 个文件，共 %2 个；%3 / %4 KB</translation>
     </message>
+    <message>
+        <source>Looking for drives...</source>
+        <translation>正在查找驱动器…</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialogUI</name>
     <message>
         <source>Transfer embroidery files to machine</source>
-        <translation>将绣花文件传送到绣花机</translation>
+        <translation>将绣花文件传输到绣花机</translation>
     </message>
     <message>
         <source>Select target:</source>
@@ -1155,7 +1155,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n folders have changed.</source>
         <translation>
-            <numerusform>%n 个文件夹已更改。</numerusform>
+            <numerusform>%Ln 个文件夹已更改。</numerusform>
         </translation>
     </message>
     <message>
@@ -1379,14 +1379,25 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>LocaleAwareFunctions</name>
+    <message>
+        <source>%1&quot; × %2&quot;</source>
+        <translation>%1 × %2 英寸</translation>
+    </message>
+    <message>
+        <source>%1 mm × %2 mm</source>
+        <translation>%1 × %2 毫米</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Loading ...</source>
-        <translation>正在载入…</translation>
+        <translation>正在加载…</translation>
     </message>
     <message>
         <source>Number of stitches: 99 mm x 99 mm</source>
-        <translation>绣花花样的总针数：99 毫米 x 99 毫米</translation>
+        <translation>绣花花样的总针数：99 毫米 × 99 毫米</translation>
     </message>
     <message>
         <source>Select folder to add</source>
@@ -1402,7 +1413,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Please select the files you want to transfer to your embroidery machine.</source>
-        <translation>请选择要传送到绣花机的文件。</translation>
+        <translation>请选择要传输到绣花机的文件。</translation>
     </message>
     <message>
         <source>&amp;Add folder...</source>
@@ -1426,7 +1437,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Transfer to machine</source>
-        <translation>传送到绣花机</translation>
+        <translation>传输到绣花机</translation>
     </message>
     <message>
         <source>&amp;Rescan</source>
@@ -1467,6 +1478,63 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Find &amp;duplicates...</source>
         <translation>查找重复花样(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>tool tip and key</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>添加文件夹</translation>
+    </message>
+    <message>
+        <source>Add a folder with embroidery designs</source>
+        <translation>添加存放绣花花样的文件夹</translation>
+    </message>
+    <message>
+        <source>Remove folder</source>
+        <translation>移除文件夹</translation>
+    </message>
+    <message>
+        <source>Take the selected folder off the list; its files stay</source>
+        <translation>从列表中移除所选文件夹；其中的文件保留</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>重新扫描</translation>
+    </message>
+    <message>
+        <source>Look for new, changed and missing designs</source>
+        <translation>查找新增、更改和缺失的花样</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Make the cards smaller</source>
+        <translation>缩小卡片</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Make the cards larger</source>
+        <translation>放大卡片</translation>
+    </message>
+    <message>
+        <source>Copy the selected designs to the drive of your machine</source>
+        <translation>将所选花样复制到绣花机的驱动器</translation>
+    </message>
+    <message>
+        <source>Tutorials</source>
+        <translation>教程</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>打开手册</translation>
     </message>
 </context>
 <context>
@@ -1554,7 +1622,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>Add %n folder(s) to your collection?</source>
         <translation>
-            <numerusform>将这 %n 个文件夹加入您的花样库？</numerusform>
+            <numerusform>将这 %Ln 个文件夹加入您的花样库？</numerusform>
         </translation>
     </message>
     <message>
@@ -1568,7 +1636,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n design(s) were not read yet. Rescan the folders?</source>
         <translation>
-            <numerusform>有 %n 个花样尚未读取。要重新扫描文件夹吗？</numerusform>
+            <numerusform>有 %Ln 个花样尚未读取。要重新扫描文件夹吗？</numerusform>
         </translation>
     </message>
     <message>
@@ -1670,7 +1738,7 @@ Commands; each has a --help of its own:</source>
         <translation>启用数据收集</translation>
     </message>
     <message>
-        <source>Ok</source>
+        <source>OK</source>
         <translation>确定</translation>
     </message>
 </context>
@@ -1708,7 +1776,7 @@ Options:
   --flushsettings   Forget all settings and exit.
   --report-crash    Only offer to send the report of a crash.
 </source>
-        <translation>浏览、标记机绣花样并传送到绣花机。
+        <translation>浏览、标记机绣花样并传输到绣花机。
 指定花样时在窗口中显示；指定新文件夹时询问是否添加。
 再次启动时会转交给已打开的窗口。
 
@@ -1781,7 +1849,7 @@ Options:
     <message numerus="yes">
         <source>%n files selected</source>
         <translation>
-            <numerusform>已选择 %n 个文件</numerusform>
+            <numerusform>已选择 %Ln 个文件</numerusform>
         </translation>
     </message>
     <message>
@@ -1986,7 +2054,7 @@ Options:
     <name>ScanCommand</name>
     <message>
         <source>Adds the folders to the catalogue and brings it into line with the disk. Without a folder it rescans the folders that are there.</source>
-        <translation>将文件夹加入目录，并使目录与磁盘保持一致。不指定文件夹时，重新扫描已有的文件夹。</translation>
+        <translation>将文件夹加入花样库，并使花样库与磁盘保持一致。不指定文件夹时，重新扫描已有的文件夹。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a folder</source>
@@ -2039,43 +2107,43 @@ Options:
     <message numerus="yes">
         <source>%n new</source>
         <translation>
-            <numerusform>新增 %n 个</numerusform>
+            <numerusform>新增 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed</source>
         <translation>
-            <numerusform>更改 %n 个</numerusform>
+            <numerusform>更改 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n moved</source>
         <translation>
-            <numerusform>移动 %n 个</numerusform>
+            <numerusform>移动 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n gone</source>
         <translation>
-            <numerusform>消失 %n 个</numerusform>
+            <numerusform>消失 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not readable</source>
         <translation>
-            <numerusform>无法读取 %n 个</numerusform>
+            <numerusform>无法读取 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
         <translation>
-            <numerusform>跳过 %n 个</numerusform>
+            <numerusform>跳过 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n not read yet</source>
         <translation>
-            <numerusform>尚未读取 %n 个</numerusform>
+            <numerusform>尚未读取 %Ln 个</numerusform>
         </translation>
     </message>
     <message>
@@ -2086,13 +2154,13 @@ Options:
     <message numerus="yes">
         <source>and %n more</source>
         <translation>
-            <numerusform>以及另外 %n 个</numerusform>
+            <numerusform>以及另外 %Ln 个</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) could not be read.</source>
         <translation>
-            <numerusform>%n 个文件无法读取。</numerusform>
+            <numerusform>%Ln 个文件无法读取。</numerusform>
         </translation>
     </message>
 </context>
@@ -2121,7 +2189,7 @@ Options:
     </message>
     <message>
         <source>Remark</source>
-        <translation>备注</translation>
+        <translation>说明</translation>
     </message>
     <message>
         <source>Copy list</source>
@@ -2210,12 +2278,12 @@ Options:
         <translation>进度</translation>
     </message>
     <message>
-        <source>Comparing the designs…</source>
-        <translation>正在比较花样…</translation>
+        <source>Comparing the designs: %1 of %2</source>
+        <translation>正在比较花样：%1 / %2</translation>
     </message>
     <message>
-        <source>Comparing the designs: %1 of %2</source>
-        <translation>正在比较花样：%1/%2</translation>
+        <source>Comparing the designs...</source>
+        <translation>正在比较花样…</translation>
     </message>
 </context>
 <context>
@@ -2238,7 +2306,7 @@ Options:
     <message numerus="yes">
         <source>holds none of its %n design(s) any more</source>
         <translation>
-            <numerusform>已不再包含其 %n 个花样</numerusform>
+            <numerusform>已不再包含其 %Ln 个花样</numerusform>
         </translation>
     </message>
 </context>
@@ -2254,7 +2322,7 @@ Options:
     </message>
     <message>
         <source>Design &amp;size</source>
-        <translation>花样大小(&amp;S)</translation>
+        <translation>花样尺寸(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;titches</source>
@@ -2373,7 +2441,7 @@ Options:
     </message>
     <message>
         <source>remove unused tags</source>
-        <translation>删除未使用的标签</translation>
+        <translation>移除未使用的标签</translation>
     </message>
 </context>
 <context>
@@ -2482,7 +2550,7 @@ Options:
     <message numerus="yes">
         <source>This tag is attached to %n files</source>
         <translation>
-            <numerusform>此标签已用于 %n 个文件</numerusform>
+            <numerusform>此标签已用于 %Ln 个文件</numerusform>
         </translation>
     </message>
     <message>
@@ -2492,7 +2560,7 @@ Options:
     <message numerus="yes">
         <source>Delete %n unused tags?</source>
         <translation>
-            <numerusform>删除 %n 个未使用的标签？</numerusform>
+            <numerusform>移除 %Ln 个未使用的标签？</numerusform>
         </translation>
     </message>
     <message>
@@ -2590,13 +2658,13 @@ Options:
     <message numerus="yes">
         <source>%n file(s) copied to %1.</source>
         <translation>
-            <numerusform>已将 %n 个文件复制到 %1。</numerusform>
+            <numerusform>已将 %Ln 个文件复制到 %1。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of them gave way to a later one of the same name.</source>
         <translation>
-            <numerusform>其中 %n 个被后面的同名文件替换。</numerusform>
+            <numerusform>其中 %Ln 个被后面的同名文件替换。</numerusform>
         </translation>
     </message>
     <message>
@@ -2606,10 +2674,6 @@ Options:
     <message>
         <source>Eject</source>
         <translation>弹出</translation>
-    </message>
-    <message>
-        <source>Ejecting %1…</source>
-        <translation>正在弹出 %1…</translation>
     </message>
     <message>
         <source>another program still uses it.</source>
@@ -2622,6 +2686,10 @@ Options:
     <message>
         <source>%1 cannot be ejected: %2</source>
         <translation>无法弹出 %1：%2</translation>
+    </message>
+    <message>
+        <source>Ejecting %1...</source>
+        <translation>正在弹出 %1…</translation>
     </message>
 </context>
 <context>

@@ -155,7 +155,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Sending feedback...</source>
-        <translation>Rückmeldung wird gesendet ...</translation>
+        <translation>Rückmeldung wird gesendet …</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -225,7 +225,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>&amp;Open project...</source>
-        <translation>Projekt ö&amp;ffnen ...</translation>
+        <translation>Projekt ö&amp;ffnen …</translation>
     </message>
     <message>
         <source>Open an existing project</source>
@@ -233,7 +233,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation>Einstellungen ...</translation>
+        <translation>Einstellungen …</translation>
     </message>
     <message>
         <source>Preferences</source>
@@ -249,7 +249,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Documentation...</source>
-        <translation>Dokumentation ...</translation>
+        <translation>Dokumentation …</translation>
     </message>
     <message>
         <source>Documentation</source>
@@ -257,7 +257,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Tutorials...</source>
-        <translation>Anleitungen ...</translation>
+        <translation>Anleitungen …</translation>
     </message>
     <message>
         <source>Tutorials</source>
@@ -265,7 +265,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Acknowledgements...</source>
-        <translation>Danksagungen ...</translation>
+        <translation>Danksagungen …</translation>
     </message>
     <message>
         <source>Acknowledgements</source>
@@ -273,7 +273,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Send feedback ...</source>
-        <translation>Rückmeldung senden ...</translation>
+        <translation>Rückmeldung senden …</translation>
     </message>
     <message>
         <source>Send feedback, feature requests, bug reports</source>
@@ -281,7 +281,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Check for updates ...</source>
-        <translation>Nach Aktualisierungen suchen ...</translation>
+        <translation>Nach Aktualisierungen suchen …</translation>
     </message>
     <message>
         <source>Check for updates</source>
@@ -307,6 +307,16 @@ Erstellt am %2</translation>
         <source>Open file</source>
         <translation>Datei öffnen</translation>
     </message>
+    <message>
+        <source>The manual is not installed.</source>
+        <translation>Das Handbuch ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>It should be here: %1
+The packages of the program bring it along. Whoever builds the program needs the tool &apos;lowdown&apos; for it.</source>
+        <translation>Es müsste hier sein: %1
+Die Pakete des Programms bringen es mit. Wer das Programm selbst baut, braucht dazu das Werkzeug „lowdown“.</translation>
+    </message>
 </context>
 <context>
     <name>GFileDialog</name>
@@ -331,7 +341,7 @@ Erstellt am %2</translation>
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation>Speichern &amp;unter ...</translation>
+        <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
         <source>Save the project under a new name</source>
@@ -523,7 +533,7 @@ Erstellt am %2</translation>
 <context>
     <name>UpdateDialog</name>
     <message>
-        <source>Software Update</source>
+        <source>Software update</source>
         <translation>Softwareaktualisierung</translation>
     </message>
     <message>
@@ -543,15 +553,15 @@ Erstellt am %2</translation>
         <translation>Die Adresse des Downloads ist nicht sicher und kann deshalb nicht von hier aus geöffnet werden.</translation>
     </message>
     <message>
-        <source>Install Update</source>
+        <source>Install update</source>
         <translation>Aktualisieren</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
+        <source>Remind me later</source>
         <translation>Später erinnern</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
+        <source>Skip this version</source>
         <translation>Version überspringen</translation>
     </message>
 </context>

@@ -182,7 +182,7 @@ Built on %2</source>
     <name>FileTools</name>
     <message>
         <source>Failed to load %1: %2</source>
-        <translation>无法载入 %1：%2</translation>
+        <translation>无法加载 %1：%2</translation>
     </message>
     <message>
         <source>Failed to read %1: %2</source>
@@ -306,6 +306,16 @@ Built on %2</source>
     <message>
         <source>Open file</source>
         <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>The manual is not installed.</source>
+        <translation>没有安装手册。</translation>
+    </message>
+    <message>
+        <source>It should be here: %1
+The packages of the program bring it along. Whoever builds the program needs the tool &apos;lowdown&apos; for it.</source>
+        <translation>它应在此处：%1
+程序的安装包中带有手册。自行构建程序时，需要工具“lowdown”来生成它。</translation>
     </message>
 </context>
 <context>
@@ -523,7 +533,7 @@ Built on %2</source>
 <context>
     <name>UpdateDialog</name>
     <message>
-        <source>Software Update</source>
+        <source>Software update</source>
         <translation>软件更新</translation>
     </message>
     <message>
@@ -543,15 +553,15 @@ Built on %2</source>
         <translation>下载地址不安全，因此无法从此处打开。</translation>
     </message>
     <message>
-        <source>Install Update</source>
+        <source>Install update</source>
         <translation>安装更新</translation>
     </message>
     <message>
-        <source>Remind Me Later</source>
+        <source>Remind me later</source>
         <translation>稍后提醒</translation>
     </message>
     <message>
-        <source>Skip This Version</source>
+        <source>Skip this version</source>
         <translation>跳过此版本</translation>
     </message>
 </context>

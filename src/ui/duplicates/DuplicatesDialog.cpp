@@ -37,7 +37,7 @@ QString firstOf(const QStringList &lines)
 {
     QStringList shown = lines.mid(0, MostPaths);
     if (lines.size() > MostPaths)
-        shown.append(DuplicatesDialog::tr("… and %n more", nullptr, lines.size() - MostPaths));
+        shown.append(DuplicatesDialog::tr("... and %n more", nullptr, lines.size() - MostPaths));
     return shown.join(QLatin1Char('\n'));
 }
 

@@ -38,7 +38,7 @@ DuplicatesPage::DuplicatesPage(QWidget *parent)
       m_members(new DuplicateMembersModel(GlobalSettings().imperialUnits(), this)),
       m_summary(new QLabel(this)), m_certainty(new QLabel(this)),
       m_groupsView(listView(m_groups, this)), m_membersView(listView(m_members, this)),
-      m_clearButton(new QPushButton(tr("&Keep the chosen one, the others to the trash…"), this)),
+      m_clearButton(new QPushButton(tr("&Keep the chosen one, the others to the trash..."), this)),
       m_closeButton(new QPushButton(tr("Close"), this))
 {
     auto *splitter = new QSplitter(Qt::Horizontal, this);
@@ -137,7 +137,7 @@ void DuplicatesPage::showGroup()
 void DuplicatesPage::updateSummary()
 {
     if (m_busy) {
-        m_summary->setText(tr("Moving to the trash…"));
+        m_summary->setText(tr("Moving to the trash..."));
         return;
     }
     QStringList parts;

@@ -35,7 +35,7 @@ void SearchPage::showProgress(int read, int count)
     const QLocale locale = GTranslationLoader::instance()->locale();
     m_bar->setRange(0, count);
     m_bar->setValue(read);
-    m_label->setText(count == 0 ? tr("Comparing the designs…")
+    m_label->setText(count == 0 ? tr("Comparing the designs...")
                                 : tr("Comparing the designs: %1 of %2")
                                       .arg(locale.toString(read), locale.toString(count)));
 }
