@@ -113,7 +113,8 @@ void CatalogueKeeper::tellUnreadable(const QString &reason)
         {Unreadable,
          Notice::Problem,
          tr("Another program has changed the catalogue, and it cannot be read: %1").arg(reason),
-         {{tr("Try again"), [this] { reload(); }}, {tr("Save a copy..."), [this] { saveCopy(); }}}});
+         {{tr("Try again"), [this] { reload(); }},
+          {tr("Save a copy..."), [this] { saveCopy(); }}}});
 }
 
 void CatalogueKeeper::tellKept()

@@ -1477,7 +1477,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>Find &amp;duplicates...</source>
-        <translation>查找重复花样(&amp;D)...</translation>
+        <translation>查找重复花样(&amp;D)…</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
