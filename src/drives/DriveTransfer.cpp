@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <filesystem>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -16,6 +14,13 @@
 namespace {
 
 constexpr qint64 PieceSize = 256 * 1024; // bytes
+
+/** On what the open @p folder lies; 0 where nothing is open. */
+quint64 deviceOf(int folder)
+{
+    struct stat facts;
+    return fstat(folder, &facts) == 0 ? facts.st_dev : 0;
+}
 
 /** What lies at @p path, as the system numbers devices; 0 for nothing. */
 quint64 deviceAt(const QString &path)
@@ -32,34 +37,14 @@ bool isFatName(const QString &name)
     });
 }
 
-bool isSameFile(const QString &first, const QString &second)
-{
-    std::error_code error;
-    return std::filesystem::equivalent(std::filesystem::path(first.toStdU16String()),
-                                       std::filesystem::path(second.toStdU16String()), error);
-}
-
-/** FAT knows one permission, which any program of its owner's may lift. */
-void liftProtection(const QString &path)
-{
-    const QFileInfo file(path);
-    if (file.isFile() && !file.isWritable())
-        QFile::setPermissions(path, file.permissions() | QFile::WriteOwner);
-}
-
 /** 0, or the system's number for what went wrong. */
-int flushVolume(const QString &path)
+int flushVolume(int folder)
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return errno;
 #ifdef Q_OS_LINUX
-    const int error = ::syncfs(descriptor) == 0 ? 0 : errno;
+    return ::syncfs(folder) == 0 ? 0 : errno;
 #else
-    const int error = ::fsync(descriptor) == 0 ? 0 : errno;
+    return ::fsync(folder) == 0 ? 0 : errno;
 #endif
-    ::close(descriptor);
-    return error;
 }
 
 TransferResult::Reason reasonOf(int errorCode)
@@ -88,41 +73,66 @@ TransferResult::Reason reasonOf(int errorCode)
 } // namespace
 
 DriveTransfer::DriveTransfer(const QString &target, quint64 device)
-    : m_target(target), m_device(device ? device : deviceAt(target))
+    : m_target(target),
+      m_root(::open(QFile::encodeName(target).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
+      m_device(device ? device : deviceOf(m_root))
 {
     if (isDriveThere())
         FileReplacement::removeLeftovers(m_target);
 }
 
+DriveTransfer::~DriveTransfer()
+{
+    if (m_root >= 0)
+        ::close(m_root);
+}
+
 bool DriveTransfer::isDriveThere() const
 {
     // The empty folder that a pulled drive leaves behind would take the copies as well.
-    const quint64 now = deviceAt(m_target);
-    return now != 0 && now == m_device;
+    return m_device != 0 && deviceOf(m_root) == m_device && deviceAt(m_target) == m_device;
 }
 
 TransferResult::Reason DriveTransfer::copy(const QString &source, const Told &told)
 {
     m_systemText.clear();
     const QString name = QFileInfo(source).fileName();
-    const QString destination = QDir(m_target).absoluteFilePath(name);
     if (!isDriveThere())
         return TransferResult::DriveGone;
-    if (isSameFile(source, destination))
+    if (holds(name, source))
         return TransferResult::None;
     if (!isFatName(name))
         return TransferResult::NameNotAllowed;
     QFile file(source);
     if (!file.open(QIODevice::ReadOnly))
         return sourceReason(file);
-    liftProtection(destination);
-    return replace(file, destination, told);
+    liftProtection(name);
+    return replace(file, name, told);
 }
 
-TransferResult::Reason DriveTransfer::replace(QFile &source, const QString &destination,
-                                              const Told &told)
+/** Whether @p source is that very file on the drive. */
+bool DriveTransfer::holds(const QString &name, const QString &source) const
 {
-    FileReplacement file(destination, FileReplacement::AsBefore);
+    struct stat there;
+    struct stat given;
+    return fstatat(m_root, QFile::encodeName(name).constData(), &there, 0) == 0 &&
+           stat(QFile::encodeName(source).constData(), &given) == 0 &&
+           there.st_dev == given.st_dev && there.st_ino == given.st_ino;
+}
+
+/** FAT knows one permission, which any program of its owner's may lift. */
+void DriveTransfer::liftProtection(const QString &name) const
+{
+    const QByteArray encoded = QFile::encodeName(name);
+    struct stat facts;
+    if (fstatat(m_root, encoded.constData(), &facts, 0) == 0 && S_ISREG(facts.st_mode) &&
+        faccessat(m_root, encoded.constData(), W_OK, 0) != 0)
+        (void)!fchmodat(m_root, encoded.constData(), facts.st_mode | S_IWUSR, 0);
+}
+
+TransferResult::Reason DriveTransfer::replace(QFile &source, const QString &name, const Told &told)
+{
+    FileReplacement file(m_root, name, FileReplacement::AsBefore);
     while (true) {
         const QByteArray piece = source.read(PieceSize);
         if (source.error() != QFile::NoError)
@@ -162,7 +172,7 @@ TransferResult::Reason DriveTransfer::flush()
 {
     if (!isDriveThere())
         return TransferResult::DriveGone;
-    const int error = flushVolume(m_target);
+    const int error = flushVolume(m_root);
     if (error == 0)
         return TransferResult::None;
     m_systemText = qt_error_string(error);

@@ -25,6 +25,10 @@ public:
      *     none, in its place nothing is copied. 0 takes the drive that is there now.
      */
     DriveTransfer(const QString &target, quint64 device);
+    ~DriveTransfer();
+
+    DriveTransfer(const DriveTransfer &) = delete;
+    DriveTransfer &operator=(const DriveTransfer &) = delete;
 
     /**
      * Copies @p source as it is, replacing a file of that name. A source that is that very
@@ -41,11 +45,18 @@ public:
 
 private:
     bool isDriveThere() const;
-    TransferResult::Reason replace(QFile &source, const QString &destination, const Told &told);
+    bool holds(const QString &name, const QString &source) const;
+    void liftProtection(const QString &name) const;
+    TransferResult::Reason replace(QFile &source, const QString &name, const Told &told);
     TransferResult::Reason sourceReason(const QFile &source);
     TransferResult::Reason driveReason(const FileReplacement &file, qint64 size);
 
     QString m_target;
+    /**
+     * The root of the drive, open from the first question on: what is written through it never
+     * goes into the folder that a pulled drive leaves behind. Negative where it is not there.
+     */
+    int m_root;
     quint64 m_device;
     QString m_systemText;
 };

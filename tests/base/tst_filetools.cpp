@@ -8,6 +8,7 @@
 
 #ifdef Q_OS_UNIX
 #include <csignal>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -24,6 +25,7 @@ private slots:
     void fullDiskLeavesTheOldFile_data();
     void fullDiskLeavesTheOldFile();
     void keepsLinksAndPermissions();
+    void staysInTheOpenFolder();
     void leftoversOfTheDeadGo();
     void copiesAndRemovesTrees();
 
@@ -125,6 +127,31 @@ void TestFileTools::keepsLinksAndPermissions()
                             FileReplacement::Private);
         QCOMPARE(permissions(name), owner);
     }
+#endif
+}
+
+void TestFileTools::staysInTheOpenFolder()
+{
+#ifdef Q_OS_UNIX
+    QDir root(m_dir->path());
+    QVERIFY(root.mkdir("drive"));
+    FileTools::writeAll(path("drive/rose.dst"), "old");
+    FileTools::writeAll(path("outside"), "precious");
+    QVERIFY(QFile::link("../outside", path("drive/link.dst")));
+    const int folder = open(QFile::encodeName(path("drive")).constData(), O_RDONLY | O_CLOEXEC);
+    // As when a drive is pulled and something else comes to lie at its place.
+    QVERIFY(folder >= 0 && root.rename("drive", "pulled") && root.mkdir("drive"));
+    for (const char *name : {"rose.dst", "link.dst"}) {
+        FileReplacement file(folder, name, FileReplacement::AsBefore);
+        QVERIFY(file.write("new"));
+        QVERIFY2(file.commit(FileReplacement::Durable), qPrintable(file.errorString()));
+        QCOMPARE(FileTools::readAll(path("pulled/") + name), QByteArray("new"));
+    }
+    FileReplacement(folder, "broken.dst", FileReplacement::AsBefore).write("half");
+    close(folder);
+    QCOMPARE(QDir(path("pulled")).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    QVERIFY(QDir(path("drive")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    QCOMPARE(FileTools::readAll(path("outside")), QByteArray("precious"));
 #endif
 }
 

@@ -70,7 +70,14 @@ bool mayBeWriting(qint64 process, unsigned number)
 } // namespace
 
 FileReplacement::FileReplacement(const QString &path, Access access)
-    : m_target(QFile::encodeName(linkTarget(path)))
+    : m_folder(AT_FDCWD), m_target(QFile::encodeName(linkTarget(path)))
+{
+    if (!open(access))
+        fail();
+}
+
+FileReplacement::FileReplacement(int folder, const QString &name, Access access)
+    : m_folder(folder), m_target(QFile::encodeName(name))
 {
     if (!open(access))
         fail();
@@ -81,32 +88,35 @@ FileReplacement::~FileReplacement()
     if (m_descriptor >= 0)
         close(m_descriptor);
     if (!m_temporary.isEmpty())
-        unlink(m_temporary.constData());
+        unlinkat(m_folder, m_temporary.constData(), 0);
 }
 
 bool FileReplacement::open(Access access)
 {
     struct stat before;
-    const bool exists = stat(m_target.constData(), &before) == 0;
-    if (exists && !S_ISREG(before.st_mode)) {
-        m_descriptor =
-            uninterrupted([&] { return ::open(m_target.constData(), O_WRONLY | O_CLOEXEC); });
+    // A link was followed already where it is to be.
+    const bool exists = fstatat(m_folder, m_target.constData(), &before, AT_SYMLINK_NOFOLLOW) == 0;
+    const bool isLink = exists && S_ISLNK(before.st_mode);
+    if (exists && !isLink && !S_ISREG(before.st_mode)) {
+        m_descriptor = uninterrupted(
+            [&] { return openat(m_folder, m_target.constData(), O_WRONLY | O_CLOEXEC); });
         return m_descriptor >= 0;
     }
     // The folder would let a file be replaced that its owner has protected.
-    if (exists && ::access(m_target.constData(), W_OK) != 0)
+    if (exists && !isLink && faccessat(m_folder, m_target.constData(), W_OK, 0) != 0)
         return false;
     const QString folder = QFileInfo(QFile::decodeName(m_target)).path();
     const QByteArray name = QFile::encodeName(folder + QLatin1Char('/') + temporaryName());
     const mode_t mode = access == Private ? PrivateMode : NewFileMode;
     m_descriptor = uninterrupted([&] {
-        return ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+        return openat(m_folder, name.constData(),
+                      O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
     });
     if (m_descriptor < 0)
         return false;
     m_temporary = name;
     // A file system without permissions refuses; there they mean nothing.
-    if (exists && access == AsBefore)
+    if (exists && !isLink && access == AsBefore)
         (void)!fchmod(m_descriptor, before.st_mode & AllPermissions);
     return true;
 }
@@ -149,7 +159,7 @@ bool FileReplacement::replaceTarget()
 {
     if (m_temporary.isEmpty())
         return true;
-    if (rename(m_temporary.constData(), m_target.constData()) != 0)
+    if (renameat(m_folder, m_temporary.constData(), m_folder, m_target.constData()) != 0)
         return fail();
     m_temporary.clear();
     return true;
@@ -157,10 +167,9 @@ bool FileReplacement::replaceTarget()
 
 bool FileReplacement::syncDirectory()
 {
-    const QByteArray folder =
-        QFile::encodeName(QFileInfo(QFile::decodeName(m_target)).absolutePath());
+    const QByteArray folder = QFile::encodeName(QFileInfo(QFile::decodeName(m_target)).path());
     const int descriptor = uninterrupted(
-        [&] { return ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+        [&] { return openat(m_folder, folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     // A folder that may be written but not listed cannot be waited for.
     if (descriptor < 0)
         return errno == EACCES || fail();

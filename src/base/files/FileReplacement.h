@@ -26,6 +26,12 @@ public:
 
     /** @param path absolute or relative to the working folder; its folder must be there */
     FileReplacement(const QString &path, Access access);
+    /**
+     * The file @p name of the folder that is open as @p folder, which stays the caller's. It
+     * goes into that folder and no other, whatever has come to lie at the folder's path since;
+     * a symbolic link of that name is replaced itself.
+     */
+    FileReplacement(int folder, const QString &name, Access access);
     /** Takes back what was not committed. */
     ~FileReplacement();
 
@@ -58,6 +64,7 @@ private:
     bool replaceTarget();
     bool syncDirectory();
 
+    int m_folder; ///< what the two names are relative to
     QByteArray m_target;
     QByteArray m_temporary;
     int m_descriptor = -1;
