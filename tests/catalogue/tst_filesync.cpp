@@ -344,6 +344,8 @@ void FileSyncTest::reconnectsByContentOnly()
     // One record cannot stand for two files; the other one comes in at the next run.
     QVERIFY(QFile::copy(path("b.dst"), path("c.dst")));
     QVERIFY(QFile::rename(path("b.dst"), path("d.dst")));
+    const QDateTime date = QFileInfo(path("d.dst")).lastModified();
+    QVERIFY(CatalogueFolder::setDate(path("c.dst"), date));
     QCOMPARE(sync(), (QList<int>{0, 0, 2, 0, 0}));
     QCOMPARE(m_project->files().size(), 1);
     QCOMPARE(sync(), (QList<int>{1, 0, 0, 0, 0}));
@@ -372,9 +374,13 @@ void FileSyncTest::reconnectsEachTwin()
     QFETCH(QStringList, before);
     QFETCH(QStringList, after);
     QFETCH(QStringList, tagged);
-    const auto make = [this](const QString &name) {
-        QVERIFY(QDir().mkpath(QFileInfo(m_folder->design(name)).path()));
-        QVERIFY(DstDesign::square().writeTo(m_folder->design(name) + ".dst"));
+    // A later date would count as an update, whenever the clock has gone on to the next second.
+    const QDateTime date = QDateTime::currentDateTime();
+    const auto make = [this, date](const QString &name) {
+        const QString design = m_folder->design(name) + ".dst";
+        QVERIFY(QDir().mkpath(QFileInfo(design).path()));
+        QVERIFY(DstDesign::square().writeTo(design));
+        QVERIFY(CatalogueFolder::setDate(design, date));
     };
     for (const QString &name : before)
         make(name);
