@@ -101,7 +101,8 @@ void tst_drivepoller::aDriveThatHangsHidesNoOther()
         poller.setPatience(0);
         poller.poll();
         QVERIFY(!listed.looking);
-        QCOMPARE(listed.paths, QStringList{stick.path()});
+        // With so little patience it is gone as well until it has answered again.
+        QTRY_COMPARE(listed.paths, QStringList{stick.path()});
 
         // It is asked no second time.
         const int threads = threadCount();

@@ -14,6 +14,9 @@
 #include <sched.h>
 #include <sys/mount.h>
 #endif
+#ifdef Q_OS_UNIX
+#include <sys/wait.h>
+#endif
 
 /**
  * A drive for a test: a FAT image where the test may mount one, by the kernel or by a driver
@@ -90,7 +93,14 @@ public:
     }
 
     /** Lets it answer no question until resume(); false where that cannot be. */
-    bool hang() { return m_kind == FuseFat && ::kill(pid_t(m_driver.processId()), SIGSTOP) == 0; }
+    bool hang()
+    {
+        const auto driver = id_t(m_driver.processId());
+        // Until the last of its threads has stopped it may answer.
+        siginfo_t stopped;
+        return m_kind == FuseFat && ::kill(pid_t(driver), SIGSTOP) == 0 &&
+               ::waitid(P_PID, driver, &stopped, WSTOPPED | WNOWAIT) == 0;
+    }
     void resume()
     {
         if (m_driver.state() == QProcess::Running)
@@ -168,6 +178,9 @@ private:
         m_driver.setStandardErrorFile(QProcess::nullDevice());
         m_driver.start(QStringLiteral("fusefat"), {QStringLiteral("-f"), QStringLiteral("-o"),
                                                    QStringLiteral("rw+"), image, m_path});
+        // What is not known to run is not resumed.
+        if (!m_driver.waitForStarted())
+            return false;
         QDeadlineTimer patience(2000);
         while (m_driver.state() != QProcess::NotRunning && !patience.hasExpired()) {
             if (mountNow().path == m_path)
