@@ -1,8 +1,11 @@
+#include "catalogue/records/Thread.h"
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
+#include "preview/grid/PictureGround.h"
 #include "PreviewFixture.h"
+#include "widgets/style/Palettes.h"
 #include "widgets/style/WidgetStyles.h"
 #include <memory>
 #include <QFontMetrics>
@@ -82,6 +85,8 @@ private slots:
     void selectionColorsTheLabel();
     void oddNamesAreDrawnOnOneLine();
     void unreadDesignsAreNotShownAsDamaged();
+    void groundShowsTheThreads_data();
+    void groundShowsTheThreads();
 
 private:
     std::unique_ptr<PreviewFixture> m_fixture;
@@ -263,6 +268,43 @@ void tst_GridScene::unreadDesignsAreNotShownAsDamaged()
     QVERIFY(sheet.picture() != unread);
     QCOMPARE(loads.count(), 1);
     QCOMPARE(sheet.card(0)->description(), QStringLiteral("favorite"));
+}
+
+void tst_GridScene::groundShowsTheThreads_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QList<QColor>>("threads");
+    QTest::addColumn<QColor>("ground");
+    using Colors = QList<QColor>;
+    const QColor white(Qt::white);
+    const QColor tinted(0xb9, 0xc4, 0xc6);
+    QTest::newRow("no threads") << false << Colors() << white;
+    QTest::newRow("deep threads") << false << Colors{Qt::black, Qt::red} << white;
+    QTest::newRow("a white thread") << false << Colors{Qt::red, Qt::white} << tinted;
+    QTest::newRow("dark, no threads") << true << Colors() << WidgetStyles::DarkCard;
+    QTest::newRow("dark, pale threads")
+        << true << Colors{Qt::white, Qt::yellow} << WidgetStyles::DarkCard;
+    QTest::newRow("dark, a deep thread") << true << Colors{Qt::white, Qt::black} << tinted;
+    QTest::newRow("dark, a deep thread and one like the ground")
+        << true << Colors{tinted, Qt::black} << white;
+}
+
+void tst_GridScene::groundShowsTheThreads()
+{
+    QFETCH(bool, dark);
+    QFETCH(QList<QColor>, threads);
+    QApplication::setPalette(dark ? Palettes::dark() : Palettes::light());
+    const auto light = qScopeGuard([] { QApplication::setPalette(Palettes::light()); });
+    Project project;
+    const QSharedPointer<IFile> file =
+        PreviewFixture::makeFile(&project, QStringLiteral("/designs/rose.dst"));
+    QList<QSharedPointer<IThread>> list;
+    for (const QColor &color : qAsConst(threads)) {
+        list.append(QSharedPointer<Thread>::create(&project));
+        list.last()->setColor(color);
+    }
+    file->setThreads(list);
+    QTEST(PictureGround::of(*file), "ground");
 }
 
 QTEST_MAIN(tst_GridScene)

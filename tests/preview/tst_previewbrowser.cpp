@@ -235,11 +235,12 @@ void tst_PreviewBrowser::anythingClosesTheSheet()
 {
     QPixmap preview(400, 301);
     preview.fill(Qt::red);
-    PreviewSheet sheet(nullptr, preview);
+    PreviewSheet sheet(nullptr, preview, QStringLiteral("<b>rose.dst"));
     auto *picture = sheet.findChild<QLabel *>();
     auto *button = sheet.findChild<QPushButton *>();
     const QPixmap shown = picture->pixmap(Qt::ReturnByValue);
     QCOMPARE(shown.size() / shown.devicePixelRatio(), QSize(600, 452));
+    QCOMPARE(sheet.findChildren<QLabel *>().last()->text(), QStringLiteral("<b>rose.dst"));
     const QList<std::function<void()>> ways = {
         [&]() { QTest::keyClick(&sheet, Qt::Key_X); },
         [&]() { QTest::mouseClick(picture, Qt::LeftButton); },

@@ -81,6 +81,7 @@ void tst_controls::messageIsPlainText()
     const auto texts = box.findChildren<MessageText *>();
     QCOMPARE(texts.size(), 2);
     QCOMPARE(texts.first()->toPlainText(), QStringLiteral("<i>main</i>"));
+    QVERIFY(texts.first()->font().bold() && !texts.last()->font().bold());
     for (MessageText *text : texts) {
         QVERIFY(text->isVisible());
         QVERIFY(text->document()->size().height() <= text->height());

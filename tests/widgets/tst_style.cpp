@@ -37,6 +37,7 @@ private slots:
     void ownPaletteWhereTheDesktopHasNone();
     void styleSheetsFollowThePalette();
     void tagLabelContrast();
+    void cardsFollowTheLook();
     void iconFollowsPalette();
     void iconStates();
     void iconIsCrisp();
@@ -106,8 +107,11 @@ void tst_style::textContrast()
     QFETCH(QPalette, palette);
     QFETCH(RolePairs, pairs);
     QApplication::style()->polish(palette);
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        for (const auto &pair : qAsConst(pairs)) {
+    const RolePairs disabled{{QPalette::WindowText, QPalette::Window},
+                             {QPalette::Text, QPalette::Base},
+                             {QPalette::ButtonText, QPalette::Button}};
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto &pair : group == QPalette::Disabled ? disabled : pairs) {
             const qreal ratio = WidgetHelper::contrast(palette.color(group, pair.first),
                                                        palette.color(group, pair.second));
             QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("roles %1 on %2: %3")
@@ -166,6 +170,23 @@ void tst_style::tagLabelContrast()
                                                QColor(match.captured(2))) >= 4.5);
             }
         }
+    }
+}
+
+void tst_style::cardsFollowTheLook()
+{
+    for (const QPalette &palette : {Palettes::light(), Palettes::dark()}) {
+        QApplication::setPalette(palette);
+        const bool dark = WidgetHelper::isDarkMode();
+        QCOMPARE(WidgetStyles::CardGround().lightness() < 128, dark);
+        for (bool selected : {true, false}) {
+            const QColor label = WidgetStyles::CardLabel(selected);
+            QCOMPARE(label.lightness() < 128, dark);
+            QVERIFY(WidgetHelper::contrast(WidgetStyles::CardText(), label) >= 4.5);
+            QVERIFY(WidgetHelper::contrast(WidgetStyles::CardFocus(), label) >= 2.5);
+        }
+        QVERIFY(WidgetHelper::contrast(WidgetStyles::CardLabel(true),
+                                       WidgetStyles::CardLabel(false)) >= 1.4);
     }
 }
 

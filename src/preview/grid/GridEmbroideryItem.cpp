@@ -206,6 +206,10 @@ void GridEmbroideryItem::paint(QPainter *painter, const QStyleOptionGraphicsItem
 
 void GridEmbroideryItem::paintPreview(QPainter *painter)
 {
+    const QColor ground = PictureGround::of(*m_file);
+    if (ground != brush().color()) {
+        painter->fillRect(QRect(0, 0, cardWidth(m_layout), cardWidth(m_layout)), ground);
+    }
     if (UnreadDesign::is(*m_file)) {
         const int side = m_layout->previewSize;
         UnreadDesign::paint(painter, QRect(m_layout->padding, m_layout->padding, side, side));
@@ -214,10 +218,6 @@ void GridEmbroideryItem::paintPreview(QPainter *painter)
     const QPixmap image = PreviewCache::instance().previewImage(m_file, this);
     if (image.isNull()) {
         return;
-    }
-    const QColor ground = PictureGround::of(*m_file);
-    if (ground != brush().color()) {
-        painter->fillRect(QRect(0, 0, cardWidth(m_layout), cardWidth(m_layout)), ground);
     }
     const int previewSize = m_layout->previewSize;
     const double f = double(previewSize) / qMax(image.width(), image.height());
@@ -245,7 +245,7 @@ void GridEmbroideryItem::paintLabels(QPainter *painter)
 {
     const int width = cardWidth(m_layout);
     const QRectF box(0, width, width, rect().height() - width);
-    painter->fillRect(box, isSelected() ? WidgetStyles::Primary100 : WidgetStyles::Primary25);
+    painter->fillRect(box, WidgetStyles::CardLabel(isSelected()));
 
     // The text keeps its size at any zoom.
     const QPoint corner = painter->worldTransform().map(box.topLeft()).toPoint();
@@ -254,8 +254,7 @@ void GridEmbroideryItem::paintLabels(QPainter *painter)
     painter->save();
     painter->setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()));
     painter->setFont(QFont());
-    // Both tints of the box are pale in light and dark.
-    painter->setPen(Qt::black);
+    painter->setPen(WidgetStyles::CardText());
     painter->drawText(name, m_nameLabel);
     painter->drawText(name + QPoint(0, metrics.lineSpacing()), m_sizeLabel);
     painter->restore();
@@ -270,7 +269,7 @@ void GridEmbroideryItem::paintFocusFrame(QPainter *painter)
     painter->save();
     painter->resetTransform();
     for (const QRect &side : frame) {
-        painter->fillRect(side, WidgetStyles::Primary700);
+        painter->fillRect(side, WidgetStyles::CardFocus());
     }
     painter->restore();
 }

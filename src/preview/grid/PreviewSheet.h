@@ -10,7 +10,11 @@ class PreviewSheet : public QDialog
     Q_OBJECT
 
 public:
-    PreviewSheet(QWidget *parent, const QPixmap &preview);
+    /**
+     * @param preview on the ground that the sheet shows around it
+     * @param name of the file, told below the picture where there is one
+     */
+    PreviewSheet(QWidget *parent, const QPixmap &preview, const QString &name = QString());
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -1,6 +1,7 @@
 #include "preview/grid/UnreadDesign.h"
 
 #include "catalogue/records/IFile.h"
+#include "widgets/style/WidgetHelper.h"
 
 #include <QFont>
 #include <QPainter>
@@ -11,7 +12,8 @@ namespace {
 constexpr int Inset = 10; // scene units
 constexpr int Rounding = 8;
 constexpr int TextHeight = 17;
-constexpr QRgb Ink = 0xFF767676; // legible on white and on a dark card
+constexpr QRgb Ink = 0xFF767676;
+constexpr QRgb InkOnDark = 0xFFAEB6B9;
 
 } // namespace
 
@@ -32,7 +34,8 @@ void UnreadDesign::paint(QPainter *painter, const QRect &box)
     const QRect frame = box.adjusted(Inset, Inset, -Inset, -Inset);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(QColor(Ink), 2, Qt::DashLine));
+    const QColor ink(WidgetHelper::isDarkMode() ? InkOnDark : Ink);
+    painter->setPen(QPen(ink, 2, Qt::DashLine));
     painter->setBrush(Qt::NoBrush);
     painter->drawRoundedRect(frame, Rounding, Rounding);
     QFont font;

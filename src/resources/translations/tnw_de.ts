@@ -21,12 +21,12 @@ Erstellt am %2</translation>
         <translation>Über %1</translation>
     </message>
     <message>
-        <source>Licences</source>
-        <translation>Lizenzen</translation>
-    </message>
-    <message>
         <source>This program uses Qt %1, which is licensed under the GNU Lesser General Public License, version 3, and is a library of its own: it may be replaced by another build of it.</source>
         <translation>Dieses Programm verwendet Qt %1. Qt steht unter der GNU Lesser General Public License, Version 3, und ist eine eigenständige Bibliothek: Sie darf durch eine andere Fassung ersetzt werden.</translation>
+    </message>
+    <message>
+        <source>Licenses</source>
+        <translation>Lizenzen</translation>
     </message>
 </context>
 <context>

@@ -21,12 +21,12 @@ Built on %2</source>
         <translation>关于 %1</translation>
     </message>
     <message>
-        <source>Licences</source>
-        <translation>许可证</translation>
-    </message>
-    <message>
         <source>This program uses Qt %1, which is licensed under the GNU Lesser General Public License, version 3, and is a library of its own: it may be replaced by another build of it.</source>
         <translation>本程序使用 Qt %1。Qt 依据 GNU 较宽松通用公共许可证第 3 版授权，是独立的库，可以替换为其他构建版本。</translation>
+    </message>
+    <message>
+        <source>Licenses</source>
+        <translation>许可证</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "ui/panels/TagLabel.h"
 
 #include "ui/panels/ElidedLabel.h"
+#include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
 
@@ -10,6 +11,8 @@
 #include <QToolButton>
 
 namespace {
+
+constexpr int CrossSize = 14; // pixels
 
 QString focusStyle()
 {
@@ -24,7 +27,9 @@ TagLabel::TagLabel(const QString &text, MultiSelection multiSelect, QWidget *par
       m_removeButton(new QToolButton(this)), m_label(new ElidedLabel(text, this)),
       m_multiSelect(multiSelect)
 {
+    m_removeAction->setIcon(GIcon(QStringLiteral(":/icons/small_clear.svg")));
     m_removeButton->setDefaultAction(m_removeAction);
+    m_removeButton->setIconSize(QSize(CrossSize, CrossSize));
     m_removeButton->setFocusPolicy(Qt::StrongFocus);
     connect(m_removeAction, &QAction::triggered, this, &TagLabel::removeTriggered);
 

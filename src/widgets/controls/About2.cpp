@@ -27,7 +27,7 @@ Look &look()
     return current;
 }
 
-QString readLicences()
+QString readLicenses()
 {
     const QString name = QStringLiteral(":/about.html");
     QFile file(GTranslationLoader::instance()->localizedFilename(name));
@@ -101,8 +101,8 @@ QWidget *About2::createTextPane()
     text->setOpenExternalLinks(true);
     text->setFrameShape(QFrame::NoFrame);
     text->document()->setDocumentMargin(16);
-    text->setAccessibleName(tr("Licences"));
-    text->setHtml(readLicences() + qtNotice());
+    text->setAccessibleName(tr("Licenses"));
+    text->setHtml(readLicenses() + qtNotice());
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

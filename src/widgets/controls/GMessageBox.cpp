@@ -99,19 +99,22 @@ void GMessageBox::showEvent(QShowEvent *event)
         QString below = informativeText();
         if (!m_explanation.isEmpty())
             below += QStringLiteral("\n\n") + m_explanation;
-        replaceLabel(QStringLiteral("qt_msgbox_label"), text());
-        replaceLabel(QStringLiteral("qt_msgbox_informativelabel"), below);
+        replaceLabel(QStringLiteral("qt_msgbox_label"), text(), !below.isEmpty());
+        replaceLabel(QStringLiteral("qt_msgbox_informativelabel"), below, false);
     }
     QMessageBox::showEvent(event);
 }
 
-void GMessageBox::replaceLabel(const QString &name, const QString &text)
+void GMessageBox::replaceLabel(const QString &name, const QString &text, bool isMain)
 {
     auto *label = findChild<QLabel *>(name);
     if (!label)
         return;
     auto *view = new MessageText(text, this);
-    view->fit(label->font());
+    // What happened stands out from what is to be known about it.
+    QFont font = label->font();
+    font.setBold(isMain);
+    view->fit(font);
     delete layout()->replaceWidget(label, view);
     label->hide();
 }

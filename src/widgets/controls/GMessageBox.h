@@ -49,7 +49,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void replaceLabel(const QString &name, const QString &text);
+    void replaceLabel(const QString &name, const QString &text, bool isMain);
     static StandardButton run(Type type, const QString &text, const QString &informativeText,
                               QWidget *parent, const QString &explanation = QString());
 

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int ShortestHandle = 28;
 constexpr int HandleInset = 3;
+constexpr int FieldFrame = 2; // pixels, that of the focus
 constexpr qreal ProgressRadius = 4.0;
 constexpr qreal CheckRadius = 3.0;
 constexpr qreal OutlineShare = 0.5;
@@ -148,6 +149,16 @@ void FlatControls::drawCheckBox(const QStyleOption *option, QPainter *painter)
     else if (option->state & QStyle::State_NoChange)
         painter->drawLine(at(0.28, 0.5), at(0.72, 0.5));
     painter->restore();
+}
+
+void FlatControls::drawComboDivider(const QStyleOptionComboBox *option, const QRect &arrow,
+                                    QPainter *painter)
+{
+    // The base style's own is lost on a dark field.
+    const bool enabled = option->state & QStyle::State_Enabled;
+    const int x = option->direction == Qt::LeftToRight ? arrow.left() : arrow.right();
+    painter->fillRect(QRect(x, arrow.top() + FieldFrame, 1, arrow.height() - 2 * FieldFrame),
+                      option->palette.color(enabled ? QPalette::Dark : QPalette::Mid));
 }
 
 void FlatControls::drawTab(const QStyleOptionTab *option, QPainter *painter, const QColor &accent)

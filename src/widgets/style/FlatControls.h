@@ -6,6 +6,7 @@
 class QColor;
 class QPainter;
 class QStyleOption;
+class QStyleOptionComboBox;
 class QStyleOptionHeader;
 class QStyleOptionMenuItem;
 class QStyleOptionProgressBar;
@@ -31,6 +32,9 @@ void drawProgressContents(const QStyleOptionProgressBar *option, QPainter *paint
 
 /** The box of a check box with its mark. */
 void drawCheckBox(const QStyleOption *option, QPainter *painter);
+
+/** The line between the field that is written in and \a arrow, the end that opens the list. */
+void drawComboDivider(const QStyleOptionComboBox *option, const QRect &arrow, QPainter *painter);
 
 /** The line below a tab, in \a accent when it is the current one. Tabs are at the top. */
 void drawTab(const QStyleOptionTab *option, QPainter *painter, const QColor &accent);

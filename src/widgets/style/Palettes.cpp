@@ -102,7 +102,7 @@ QPalette Palettes::dark()
 
 void Palettes::makeReadable(QPalette &palette)
 {
-    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         makeRoleReadable(palette, group, QPalette::WindowText, QPalette::Window);
         makeRoleReadable(palette, group, QPalette::Text, QPalette::Base);
         makeRoleReadable(palette, group, QPalette::ButtonText, QPalette::Button);
@@ -112,7 +112,8 @@ void Palettes::makeReadable(QPalette &palette)
             makeRoleReadable(palette, group, link, QPalette::Base);
             makeRoleReadable(palette, group, link, QPalette::Window);
         }
-        setPlaceholderColor(palette, group);
+        if (group != QPalette::Disabled)
+            setPlaceholderColor(palette, group);
     }
 }
 

@@ -12,6 +12,9 @@
 
 namespace {
 
+// 3 : 1 on the window, in light and dark: pale, but to be seen.
+constexpr qreal DisabledShare = 0.45;
+
 struct IconColors
 {
     QColor ink;
@@ -25,7 +28,7 @@ IconColors colorsForMode(QIcon::Mode mode)
     const QColor &text = palette.color(QPalette::Active, QPalette::WindowText);
     switch (mode) {
     case QIcon::Disabled: {
-        const QColor faded = WidgetHelper::mixed(text, window, 0.32);
+        const QColor faded = WidgetHelper::mixed(text, window, DisabledShare);
         return {faded, faded};
     }
     case QIcon::Selected: {

@@ -3,6 +3,7 @@
 #include "widgets/style/FlatControls.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/Palettes.h"
+#include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
 
 #include <QAbstractScrollArea>
@@ -19,6 +20,7 @@ constexpr qreal Radius = 4.0;
 constexpr int RowPadding = 8;
 constexpr int FieldPadding = 3;
 constexpr int ButtonPadding = 12;
+constexpr qreal DefaultTint = 0.22;
 
 void drawRoundedBox(QPainter *painter, const QRect &rect, const QBrush &fill, const QPen &pen)
 {
@@ -60,11 +62,13 @@ void drawPushButtonPanel(const QStyleOptionButton *option, QPainter *painter)
     else if (enabled && (option->state & QStyle::State_MouseOver))
         fill = palette.color(QPalette::Midlight);
 
-    QPen pen(palette.color(QPalette::Dark), 1.0);
+    // The default button is tinted; the one that has the keys has a ring.
+    const bool isDefault = enabled && (option->features & QStyleOptionButton::DefaultButton);
+    if (isDefault)
+        fill = WidgetHelper::mixed(WidgetStyles::Accent(), fill, DefaultTint);
+    QPen pen(isDefault ? WidgetStyles::Accent() : palette.color(QPalette::Dark), 1.0);
     if (enabled && (option->state & QStyle::State_HasFocus))
         pen = focusPen();
-    else if (enabled && (option->features & QStyleOptionButton::DefaultButton))
-        pen = QPen(WidgetStyles::Accent(), 1.0);
     else if (!enabled)
         pen.setColor(palette.color(QPalette::Mid));
     drawRoundedBox(painter, option->rect, fill, pen);
@@ -254,10 +258,15 @@ void TnwMacStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
                                      QPainter *painter, const QWidget *widget) const
 {
     const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
-    if (control == CC_ScrollBar && slider)
+    if (control == CC_ScrollBar && slider) {
         FlatControls::drawScrollBar(slider, painter);
-    else
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (combo && combo->editable && combo->frame)
+        FlatControls::drawComboDivider(
+            combo, subControlRect(control, option, SC_ComboBoxArrow, widget), painter);
 }
 
 QRect TnwMacStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,

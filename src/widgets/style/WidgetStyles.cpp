@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr QColor DarkCardLabel(0x28, 0x2e, 0x31);
+
 /** Carries a change of the palette to where Qt does not carry it by itself. */
 class PaletteFollower : public QObject
 {
@@ -69,6 +71,28 @@ QPalette WidgetStyles::GraphicsViewPalette()
     palette.setColor(QPalette::Base, sheet);
     palette.setColor(QPalette::Window, sheet);
     return palette;
+}
+
+QColor WidgetStyles::CardGround()
+{
+    return WidgetHelper::isDarkMode() ? DarkCard : QColor(Qt::white);
+}
+
+QColor WidgetStyles::CardLabel(bool selected)
+{
+    if (WidgetHelper::isDarkMode())
+        return selected ? Primary700 : DarkCardLabel;
+    return selected ? Primary100 : Primary25;
+}
+
+QColor WidgetStyles::CardText()
+{
+    return WidgetHelper::isDarkMode() ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+QColor WidgetStyles::CardFocus()
+{
+    return WidgetHelper::isDarkMode() ? Primary300 : Primary700;
 }
 
 QPalette WidgetStyles::EditFieldDefault()

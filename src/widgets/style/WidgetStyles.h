@@ -25,6 +25,8 @@ public:
     static constexpr QColor Primary700{0x23, 0x5e, 0x64};
     static constexpr QColor Primary800{0x1d, 0x4d, 0x53};
     static constexpr QColor Primary900{0x15, 0x3a, 0x3f};
+    /** The ground of a card in a dark window. */
+    static constexpr QColor DarkCard{0x34, 0x3b, 0x3f};
 
     /**
      * Lets tool tips and widgets with style sheets follow the palette and its changes. Called
@@ -37,6 +39,18 @@ public:
 
     /** The palette of the sheet behind the cards. */
     static QPalette GraphicsViewPalette();
+
+    /** The ground of a card. */
+    static QColor CardGround();
+
+    /** The strip below the picture of a card, where the card's name is. */
+    static QColor CardLabel(bool selected);
+
+    /** Text on either strip. */
+    static QColor CardText();
+
+    /** The frame of the card that the keys are about. */
+    static QColor CardFocus();
 
     /** The palette of a field that the user writes into. */
     static QPalette EditFieldDefault();
