@@ -117,6 +117,11 @@ bool CenterView::showsAll(const QList<QSharedPointer<IFile>> &designs) const
                        [&](const auto &design) { return set.contains(design); });
 }
 
+void CenterView::search()
+{
+    m_filterBar->search();
+}
+
 void CenterView::openDesign()
 {
     m_browser->openCurrent();

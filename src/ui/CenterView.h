@@ -37,6 +37,9 @@ public slots:
     void zoomIn();
     void zoomOut();
 
+    /** Gives the keys to the search field. */
+    void search();
+
     /** Selects what the filter shows, not the whole catalogue. */
     void selectAll();
 

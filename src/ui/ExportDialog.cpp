@@ -65,7 +65,11 @@ void ExportDialog::fillDriveList()
     const bool driveFound = list->count() > 0;
     if (!driveFound)
         list->addItem(m_looking ? tr("Looking for drives...") : tr("No removable USB drive found"));
+    const bool isFirst = driveFound && !list->isEnabled();
     list->setEnabled(driveFound);
+    // Until now Cancel was all that could have the keys.
+    if (isFirst)
+        list->setFocus(Qt::OtherFocusReason);
     m_ui->copyButton->setEnabled(driveFound);
 }
 

@@ -54,6 +54,16 @@ QString splitterKey()
     return QStringLiteral("mainWindowSplitter");
 }
 
+QString leftPanelKey()
+{
+    return QStringLiteral("leftPanelShown");
+}
+
+QString rightPanelKey()
+{
+    return QStringLiteral("rightPanelShown");
+}
+
 } // namespace
 
 MainWindow::MainWindow() : GMainWindow(nullptr, false)
@@ -208,6 +218,8 @@ void MainWindow::setupInitialLayout()
 void MainWindow::writeSettings(GSettings &settings)
 {
     settings.setValue(splitterKey(), m_splitter->saveState());
+    settings.setValue(leftPanelKey(), m_leftPanelAction->isChecked());
+    settings.setValue(rightPanelKey(), m_rightPanelAction->isChecked());
     m_left->saveWidgetState(settings);
     m_right->saveWidgetState(settings);
 }
@@ -215,6 +227,8 @@ void MainWindow::writeSettings(GSettings &settings)
 void MainWindow::readSettings(GSettings &settings)
 {
     m_splitter->restoreState(settings.value(splitterKey()).toByteArray());
+    m_leftPanelAction->setChecked(settings.value(leftPanelKey(), true).toBool());
+    m_rightPanelAction->setChecked(settings.value(rightPanelKey(), true).toBool());
     m_left->restoreWidgetState(settings);
     m_right->restoreWidgetState(settings);
 }

@@ -80,6 +80,9 @@ private:
     void createEditMenu();
     void createViewMenu();
     void createHelpMenu();
+    void createZoomActions();
+    QAction *addPanelSwitch(QWidget *panel, const QString &text, const QKeySequence &key);
+    void editTags();
     void createToolbars();
     void describeToolbarActions();
     void createPathOpener();
@@ -101,6 +104,8 @@ private:
     GAction *m_zoomInAction = nullptr;
     GAction *m_zoomOutAction = nullptr;
     GAction *m_transferAction = nullptr;
+    QAction *m_leftPanelAction = nullptr;
+    QAction *m_rightPanelAction = nullptr;
     QMenu *m_fileMenu = nullptr;
     QMenu *m_viewMenu = nullptr;
     QMenu *m_helpMenu = nullptr;

@@ -2,9 +2,13 @@
 
 #include "app/application/HooplineApplication.h"
 #include "app/frame/GAction.h"
+#include "preview/grid/PreviewBrowser.h"
 #include "ui/CenterView.h"
+#include "ui/LeftSidebar.h"
 #include "ui/MainWindow.h"
+#include "ui/RightSidebar.h"
 #include "ui/SortMenu.h"
+#include "widgets/controls/DesktopInteraction.h"
 #include "widgets/controls/GToolBar.h"
 #include "widgets/style/GIcon.h"
 
@@ -21,14 +25,36 @@ GIcon icon(const char *name)
     return GIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
 }
 
+/** Not every desktop has a standard key for everything. */
+void setShortcuts(QAction *action, QKeySequence::StandardKey standard, const QKeySequence &key)
+{
+    action->setShortcuts(standard);
+    if (action->shortcut().isEmpty())
+        action->setShortcut(key);
+}
+
+/** For a menu to tell the key of what another widget does when it is pressed there. */
+QString withKey(const QString &text, const QKeySequence &key)
+{
+    return text + QLatin1Char('\t') + key.toString(QKeySequence::NativeText);
+}
+
+/** An entry for @p action, the letter of whose own text another entry of @p menu has. */
+void addWithOtherLetter(QMenu *menu, QAction *action, const QString &text)
+{
+    menu->addAction(withKey(text, action->shortcut()), action, &QAction::trigger);
+}
+
 } // namespace
 
 void MainWindow::createActions()
 {
     m_addFolderAction =
         new GAction(icon("addFolder"), tr("&Add folder..."), this, SLOT(addDirectory()));
+    m_addFolderAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
     m_removeFolderAction = new GAction(icon("removeFolder"), tr("&Remove folder"), this,
                                        SLOT(removeSelectedDirectory()));
+    m_removeFolderAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Delete));
     m_openDesignAction = new GAction(tr("&Open design"), this);
     m_openDesignAction->setShortcuts(QKeySequence::Open);
     connect(m_openDesignAction, &QAction::triggered, m_center, &CenterView::openDesign);
@@ -37,12 +63,10 @@ void MainWindow::createActions()
     connect(m_selectAllAction, &QAction::triggered, m_center, &CenterView::selectAll);
     m_duplicatesAction = new GAction(tr("Find &duplicates..."), this, SLOT(findDuplicates()));
     m_duplicatesAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D));
-    m_zoomInAction = new GAction(icon("zoomIn"), tr("&Zoom in"), this);
-    connect(m_zoomInAction, &QAction::triggered, m_center, &CenterView::zoomIn);
-    m_zoomOutAction = new GAction(icon("zoomOut"), tr("&Zoom out"), this);
-    connect(m_zoomOutAction, &QAction::triggered, m_center, &CenterView::zoomOut);
+    createZoomActions();
     m_transferAction = new GAction(icon("exportToUsb"), tr("Transfer to machine"), this,
                                    SLOT(exportSelectedFiles()));
+    m_transferAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     m_rescanAction = new GAction(icon("sync"), tr("&Rescan"), this, SLOT(rescanDirectories()));
     m_rescanAction->setShortcuts(QKeySequence::Refresh);
 
@@ -50,6 +74,18 @@ void MainWindow::createActions()
     closeShortcut->setContext(Qt::WindowShortcut);
     connect(closeShortcut, &QShortcut::activated, this, &MainWindow::closeWindow);
     HooplineApplication::instance()->tutorialsAction()->setIcon(icon("tutorials"));
+}
+
+void MainWindow::createZoomActions()
+{
+    m_zoomInAction = new GAction(icon("zoomIn"), tr("&Zoom in"), this);
+    connect(m_zoomInAction, &QAction::triggered, m_center, &CenterView::zoomIn);
+    // On many keyboards the plus sign needs Shift.
+    m_zoomInAction->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    m_zoomOutAction = new GAction(icon("zoomOut"), tr("&Zoom out"), this);
+    connect(m_zoomOutAction, &QAction::triggered, m_center, &CenterView::zoomOut);
+    m_zoomOutAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
 }
 
 void MainWindow::createMenus()
@@ -66,24 +102,67 @@ void MainWindow::createFileMenu()
     m_fileMenu = menuBar()->addMenu(tr("&File"));
     m_fileMenu->addAction(m_addFolderAction);
     m_fileMenu->addAction(m_removeFolderAction);
-    m_fileMenu->addAction(m_rescanAction);
+    addWithOtherLetter(m_fileMenu, m_rescanAction, tr("Re&scan"));
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_openDesignAction);
+    m_fileMenu->addAction(DesktopInteraction::revealActionTextString(), m_center->browser(),
+                          &PreviewBrowser::revealCurrent, Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    m_fileMenu->addAction(m_transferAction);
     m_fileMenu->addSeparator();
 }
 
 void MainWindow::createEditMenu()
 {
-    editMenu()->addAction(m_selectAllAction);
-    editMenu()->addAction(m_saveSearchAction);
-    editMenu()->addSeparator();
-    editMenu()->addAction(m_duplicatesAction);
+    PreviewBrowser *browser = m_center->browser();
+    QMenu *menu = editMenu();
+    menu->addAction(m_selectAllAction);
+    menu->addAction(withKey(tr("Select &nothing"), Qt::CTRL | Qt::Key_D), browser,
+                    &PreviewBrowser::selectNone);
+    menu->addSeparator();
+    menu->addAction(withKey(tr("&Favorite"), Qt::Key_F), browser, &PreviewBrowser::toggleFavorites);
+    QAction *editTags = menu->addAction(tr("Edit &tags"), this, &MainWindow::editTags);
+    editTags->setShortcut(Qt::Key_T);
+    // Elsewhere the letter chooses from a list.
+    editTags->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    browser->addAction(editTags);
+    menu->addSeparator();
+    menu->addAction(withKey(tr("Sea&rch"), QKeySequence::Find), m_center, &CenterView::search);
+    menu->addAction(m_saveSearchAction);
+    menu->addSeparator();
+    menu->addAction(m_duplicatesAction);
 }
 
 void MainWindow::createViewMenu()
 {
     m_viewMenu = menuBar()->addMenu(tr("&View"));
     m_viewMenu->addMenu(new SortMenu(filter(), m_viewMenu));
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(m_zoomInAction);
+    addWithOtherLetter(m_viewMenu, m_zoomOutAction, tr("Zoom &out"));
+    PreviewBrowser *browser = m_center->browser();
+    m_viewMenu->addAction(tr("&Normal size"), browser, &PreviewBrowser::zoomToDefault,
+                          Qt::CTRL | Qt::Key_0);
+    m_viewMenu->addAction(withKey(tr("&Enlarged preview"), Qt::Key_Space), browser,
+                          &PreviewBrowser::previewSelection);
+    m_viewMenu->addSeparator();
+    m_leftPanelAction = addPanelSwitch(m_left, tr("&Folders and tags"), Qt::Key_F9);
+    m_rightPanelAction = addPanelSwitch(m_right, tr("&Properties"), Qt::SHIFT | Qt::Key_F9);
+}
+
+QAction *MainWindow::addPanelSwitch(QWidget *panel, const QString &text, const QKeySequence &key)
+{
+    QAction *action = m_viewMenu->addAction(text);
+    action->setShortcut(key);
+    action->setCheckable(true);
+    action->setChecked(true);
+    connect(action, &QAction::toggled, panel, &QWidget::setVisible);
+    return action;
+}
+
+void MainWindow::editTags()
+{
+    m_rightPanelAction->setChecked(true);
+    m_right->editTags();
 }
 
 void MainWindow::createHelpMenu()
@@ -101,10 +180,9 @@ void MainWindow::installApplicationMenuItems(QMenu *fileMenu, QMenu *helpMenu)
 #ifndef Q_OS_MACOS
     HooplineApplication *application = HooplineApplication::instance();
     auto *quitAction = new GAction(tr("Quit"), this);
-    // Not every desktop has a standard key for it.
-    quitAction->setShortcuts(QKeySequence::Quit);
-    if (quitAction->shortcut().isEmpty())
-        quitAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Q));
+    setShortcuts(quitAction, QKeySequence::Quit, Qt::CTRL | Qt::Key_Q);
+    setShortcuts(application->preferencesAction(), QKeySequence::Preferences,
+                 Qt::CTRL | Qt::Key_Comma);
     connect(quitAction, &QAction::triggered, application, &GApplication::closeAllWindowsAndQuit);
     fileMenu->addAction(application->preferencesAction());
     fileMenu->addAction(quitAction);

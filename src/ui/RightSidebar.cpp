@@ -20,6 +20,11 @@ RightSidebar::RightSidebar(QWidget *parent, const QSharedPointer<Project> &proje
     connect(selection, &ISelectionModel::selectionChanged, this, &RightSidebar::onSelectionChanged);
 }
 
+void RightSidebar::editTags()
+{
+    m_properties->editTags();
+}
+
 void RightSidebar::onSelectionChanged(const QList<QSharedPointer<IFile>> &files)
 {
     m_properties->setFiles(files);

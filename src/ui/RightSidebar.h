@@ -22,6 +22,8 @@ public:
                  ISelectionModel *selection);
 
 public slots:
+    /** Gives the keys to the field for a new tag. */
+    void editTags();
     void onSelectionChanged(const QList<QSharedPointer<IFile>> &files);
 
 private:

@@ -134,6 +134,7 @@ void tst_exportdialog::listsAMountedStick()
     QCOMPARE(drives->itemText(drives->findData(stick.path())),
              QStringLiteral("%1 (1 MB)").arg(stick.path()));
     QVERIFY(copyButtonOf(dialog)->isEnabled());
+    QCOMPARE(dialog.focusWidget(), drives);
     QVERIFY(stick.pull());
     QTRY_COMPARE(drives->currentText(), QStringLiteral("No removable USB drive found"));
     QVERIFY(!copyButtonOf(dialog)->isEnabled());

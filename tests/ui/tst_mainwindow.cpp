@@ -211,10 +211,15 @@ void tst_mainwindow::offersItsCommands()
     for (const QAction *menu : menuActions)
         menus.append(texts(menu->menu()->actions()).join(QLatin1Char('|')));
     QCOMPARE(menus,
-             (QStringList{QStringLiteral("&Add folder...|&Remove folder|&Rescan|-|&Open design|-|"
+             (QStringList{QStringLiteral("&Add folder...|&Remove folder|Re&scan\tF5|-|&Open design|"
+                                         "Show in file manager|Transfer to machine|-|"
                                          "Preferences...|Quit"),
-                          QStringLiteral("Select all|Save search|-|Find &duplicates..."),
-                          QStringLiteral("&Sort by"),
+                          QStringLiteral("Select all|Select &nothing\tCtrl+D|-|&Favorite\tF|"
+                                         "Edit &tags|-|Sea&rch\tCtrl+F|Save search|-|"
+                                         "Find &duplicates..."),
+                          QStringLiteral("&Sort by|-|&Zoom in|Zoom &out\tCtrl+-|&Normal size|"
+                                         "&Enlarged preview\tSpace|-|&Folders and tags|"
+                                         "&Properties"),
                           QStringLiteral("Tutorials...|Acknowledgements...|Check for updates ...|-|"
                                          "&About Hoopline Organizer")}));
     QCOMPARE(action(QStringLiteral("Quit"))->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));

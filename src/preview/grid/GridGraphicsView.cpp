@@ -16,6 +16,7 @@ namespace {
 
 // Around a card that is scrolled into view, in pixels.
 constexpr int ScrollMargin = 10;
+constexpr int WheelNotch = 120; // eighths of a degree
 
 GridPreviewScene::Selecting selectingWith(Qt::KeyboardModifiers modifiers)
 {
@@ -79,8 +80,26 @@ void GridGraphicsView::resizeEvent(QResizeEvent *event)
 
 void GridGraphicsView::wheelEvent(QWheelEvent *event)
 {
-    // The wheel only scrolls, also with Alt.
+    if (event->modifiers() & Qt::ControlModifier) {
+        zoomByWheel(event->angleDelta().y());
+        event->accept();
+        return;
+    }
+    // Otherwise the wheel only scrolls, also with Alt.
     QGraphicsView::wheelEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void GridGraphicsView::zoomByWheel(int angle)
+{
+    // Touch pads and fine wheels send a notch in many parts.
+    const bool turnedBack = (m_wheelTurned < 0) != (angle < 0);
+    m_wheelTurned = turnedBack ? angle : m_wheelTurned + angle;
+    for (; m_wheelTurned >= WheelNotch; m_wheelTurned -= WheelNotch) {
+        emit zoomInRequested();
+    }
+    for (; m_wheelTurned <= -WheelNotch; m_wheelTurned += WheelNotch) {
+        emit zoomOutRequested();
+    }
 }
 
 void GridGraphicsView::mouseDoubleClickEvent(QMouseEvent *event)

@@ -30,6 +30,9 @@ public:
 signals:
     /** The view shows `width` scene units from left to right. */
     void widthChanged(int width);
+    /** The wheel was turned with Ctrl, by a whole notch. */
+    void zoomInRequested();
+    void zoomOutRequested();
     /** The user wants to see the selection enlarged. */
     void openSelection();
     /** The user wants a closer look at the design of the current card. */
@@ -54,6 +57,7 @@ private:
     void selectAll();
     void clearSelection();
     void updateBackground();
+    void zoomByWheel(int angle);
     bool handleCardKey(QKeyEvent *event);
     void moveByKey(int key, GridPreviewScene::Selecting selecting);
     int rowsPerPage() const;
@@ -69,5 +73,6 @@ private:
     QPoint m_pointer; ///< in pixels of the viewport, as of the last move
     // Rather than by the mouse, as of the last press.
     bool m_usedByKeys = false;
+    int m_wheelTurned = 0; ///< since the last notch, in eighths of a degree
     DesignDrag m_drag;
 };

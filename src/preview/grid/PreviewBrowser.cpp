@@ -12,8 +12,10 @@
 #include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PictureGround.h"
 #include "preview/grid/PreviewSheet.h"
+#include "widgets/controls/DesktopInteraction.h"
 #include <algorithm>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGraphicsItem>
 #include <QLineF>
 #include <QPainter>
@@ -65,6 +67,8 @@ void PreviewBrowser::connectModels()
             &GridPreviewScene::setPreferredSceneWidth);
     connect(m_view, &EditorGraphicsView::zoomChanged, m_scene, &GridPreviewScene::setScaleFactor);
     connect(m_view, &EditorGraphicsView::zoomChanged, this, &PreviewBrowser::zoomChanged);
+    connect(m_view, &GridGraphicsView::zoomInRequested, this, &PreviewBrowser::zoomIn);
+    connect(m_view, &GridGraphicsView::zoomOutRequested, this, &PreviewBrowser::zoomOut);
     connect(m_view, &GridGraphicsView::openSelection, this, &PreviewBrowser::previewSelection);
     connect(m_view, &GridGraphicsView::openDesign, this, &PreviewBrowser::openCurrent);
     connect(m_scene, &GridPreviewScene::openRequested, this, &PreviewBrowser::openRequested);
@@ -121,6 +125,16 @@ void PreviewBrowser::zoomOut()
     setZoomIndex(std::max(m_zoomIndex - 1, 0));
 }
 
+void PreviewBrowser::zoomToDefault()
+{
+    setZoomIndex(ScaleFactors.indexOf(DefaultScaleFactor));
+}
+
+void PreviewBrowser::selectNone()
+{
+    m_scene->clearSelection();
+}
+
 void PreviewBrowser::setZoomIndex(int index)
 {
     if (index != m_zoomIndex) {
@@ -167,17 +181,31 @@ void PreviewBrowser::previewSelection()
     const QList<QSharedPointer<IFile>> files = m_models->selection()->selectedFiles();
     if (files.size() == 1) {
         const QPixmap preview = PreviewCache::instance().previewImage(files.first(), nullptr);
-        PreviewSheet(this, onGround(preview, PictureGround::of(*files.first()))).exec();
+        PreviewSheet(this, onGround(preview, PictureGround::of(*files.first())),
+                     QFileInfo(files.first()->absoluteFilePath()).fileName())
+            .exec();
     }
+}
+
+QSharedPointer<IFile> PreviewBrowser::currentFile() const
+{
+    if (m_scene->currentIndex() >= 0) {
+        return m_scene->cardAt(m_scene->currentIndex())->file();
+    }
+    return m_models->selection()->selectedFiles().value(0);
 }
 
 void PreviewBrowser::openCurrent()
 {
-    const QList<QSharedPointer<IFile>> selected = m_models->selection()->selectedFiles();
-    if (m_scene->currentIndex() >= 0) {
-        emit openRequested(m_scene->cardAt(m_scene->currentIndex())->file());
-    } else if (!selected.isEmpty()) {
-        emit openRequested(selected.first());
+    if (const QSharedPointer<IFile> file = currentFile()) {
+        emit openRequested(file);
+    }
+}
+
+void PreviewBrowser::revealCurrent()
+{
+    if (const QSharedPointer<IFile> file = currentFile()) {
+        DesktopInteraction::revealInFinder(file->absoluteFilePath());
     }
 }
 

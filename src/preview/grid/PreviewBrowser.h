@@ -35,6 +35,10 @@ public:
 public slots:
     void zoomIn();
     void zoomOut();
+    /** Shows the cards in the size that they have by default. */
+    void zoomToDefault();
+    /** Selects no design. */
+    void selectNone();
     /** Scrolls to the first selected card and gives it the keys. */
     void showSelection();
 
@@ -45,6 +49,8 @@ public slots:
     void filterChanged();
     /** Asks for the design of the current card, or the one that is selected, to be opened. */
     void openCurrent();
+    /** Shows the file of that design in the file manager. */
+    void revealCurrent();
     /**
      * Makes the card of this design the current one, in view and selected in the place of
      * another one; the selection of several stays as it is.
@@ -65,6 +71,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    QSharedPointer<IFile> currentFile() const;
     void connectModels();
     void readZoom();
     void updateZoomAndKeepSelectionVisible();

@@ -1554,6 +1554,46 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Open the manual</source>
         <translation>Das Handbuch öffnen</translation>
     </message>
+    <message>
+        <source>Re&amp;scan</source>
+        <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation>&amp;Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Favorite</source>
+        <translation>&amp;Favorit</translation>
+    </message>
+    <message>
+        <source>Edit &amp;tags</source>
+        <translation>S&amp;chlagwörter bearbeiten</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>&amp;Normale Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Enlarged preview</source>
+        <translation>Vergrößerte &amp;Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Folders and tags</source>
+        <translation>&amp;Ordner und Schlagwörter</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Eigenschaften</translation>
+    </message>
 </context>
 <context>
     <name>NoteCommand</name>

@@ -1441,7 +1441,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>&amp;Rescan</source>
-        <translation>重新扫描(&amp;R)</translation>
+        <translation>重新扫描(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1535,6 +1535,46 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Open the manual</source>
         <translation>打开手册</translation>
+    </message>
+    <message>
+        <source>Re&amp;scan</source>
+        <translation>重新扫描(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Select &amp;nothing</source>
+        <translation>取消选择(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Favorite</source>
+        <translation>收藏(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Edit &amp;tags</source>
+        <translation>编辑标签(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch</source>
+        <translation>搜索(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>正常大小(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Enlarged preview</source>
+        <translation>放大预览(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Folders and tags</source>
+        <translation>文件夹和标签(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>属性(&amp;P)</translation>
     </message>
 </context>
 <context>

@@ -113,10 +113,13 @@ void FilterBar::createSearchAids(const QSharedPointer<Project> &project)
 void FilterBar::createShortcut()
 {
     auto *find = new QShortcut(QKeySequence::Find, this);
-    connect(find, &QShortcut::activated, this, [this] {
-        m_ui->searchTextLineEdit->setFocus(Qt::ShortcutFocusReason);
-        m_ui->searchTextLineEdit->selectAll();
-    });
+    connect(find, &QShortcut::activated, this, &FilterBar::search);
+}
+
+void FilterBar::search()
+{
+    m_ui->searchTextLineEdit->setFocus(Qt::ShortcutFocusReason);
+    m_ui->searchTextLineEdit->selectAll();
 }
 
 QSize FilterBar::minimumSizeHint() const

@@ -32,6 +32,8 @@ public slots:
     void setSearchTextFilter(const QString &text);
     void updateSizeWidgets();
     void updateFileTypes();
+    /** Gives the keys to the search field. */
+    void search();
     /** Lets every design pass that the bar has held back. */
     void clear();
 

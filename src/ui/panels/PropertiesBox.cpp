@@ -23,8 +23,6 @@ namespace {
 constexpr int GroupSpacing = 3;
 constexpr int GroupTopMargin = 15;
 constexpr int PanelMargin = 8;
-/** As in the title bar; the facts need every pixel beside a scroll bar. */
-constexpr int RightMargin = 4;
 constexpr int CaptionSpacing = 6;
 constexpr int RowSpacing = 2;
 constexpr int ShareOfSideBar = 3;
@@ -78,7 +76,7 @@ void PropertiesBox::initPanel()
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidget(m_scrollWidget);
-    m_mainLayout->setContentsMargins(PanelMargin, GroupSpacing, RightMargin, PanelMargin);
+    m_mainLayout->setContentsMargins(PanelMargin, GroupSpacing, PanelMargin, PanelMargin);
     m_mainLayout->setSpacing(0);
     m_mainLayout->addLayout(m_grid);
     m_grid->setHorizontalSpacing(CaptionSpacing);
@@ -235,6 +233,11 @@ void PropertiesBox::updateNameRow()
     m_nameRoom->setVisible(!visible);
 }
 
+void PropertiesBox::editTags()
+{
+    m_tagWidget->editTags();
+}
+
 void PropertiesBox::scrollToBottomDelayed()
 {
     // The tag widget's new height takes effect first.
@@ -244,6 +247,8 @@ void PropertiesBox::scrollToBottomDelayed()
 void PropertiesBox::scrollToBottom()
 {
     m_scrollArea->ensureVisible(0, 10000, 50, 50);
+    // With many chips the field for the next tag is far above the bottom.
+    m_scrollArea->ensureWidgetVisible(m_tagWidget->input());
 }
 
 void PropertiesBox::changeEvent(QEvent *event)

@@ -28,6 +28,8 @@ public:
     void observedObjectChanged(const Observable *observable) override;
 
 public slots:
+    /** Gives the keys to the field for a new tag. */
+    void editTags();
     void scrollToBottomDelayed();
     void scrollToBottom();
 

@@ -51,6 +51,11 @@ SavedSearchesBox::SavedSearchesBox(QWidget *parent, SavedSearches *searches, IFi
     setObjectName(QStringLiteral("SavedSearchesBox"));
     setExpandable(false);
     m_saveAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    // For the menu to tell; the list answers to them.
+    m_renameAction->setShortcut(Qt::Key_F2);
+    m_removeAction->setShortcut(Qt::Key_Delete);
+    for (QAction *action : {m_renameAction, m_removeAction})
+        action->setShortcutContext(Qt::WidgetShortcut);
     createButtons();
     createList();
     connect(m_saveAction, &QAction::triggered, this, &SavedSearchesBox::saveCurrent);

@@ -154,8 +154,8 @@ void TagListWidget::contextMenuEvent(QContextMenuEvent *event)
     const QScopedValueRollback<QString> menuTag(m_menuTag, item->text());
     QMenu menu(this);
     const QString name = menuText(item->text());
-    menu.addAction(tr("Remove '%1'").arg(name), this, &TagListWidget::removeTag);
-    menu.addAction(tr("Rename '%1'").arg(name), this, &TagListWidget::startRenamingTag);
+    menu.addAction(tr("Remove '%1'").arg(name), this, &TagListWidget::removeTag, Qt::Key_Delete);
+    menu.addAction(tr("Rename '%1'").arg(name), this, &TagListWidget::startRenamingTag, Qt::Key_F2);
     menu.exec(byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(index).center()));
 }
 

@@ -33,8 +33,9 @@ TagWidget::TagWidget(const QSharedPointer<Project> &project, QWidget *parent)
     createInput();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(m_flowLayout);
+    // Above the chips, so that it stays where it is however many there are.
     layout->addWidget(m_input);
+    layout->addLayout(m_flowLayout);
 }
 
 void TagWidget::createInput()
@@ -81,6 +82,12 @@ void TagWidget::setTagLists(const QList<PropertyStringList *> &tagLists)
         list->registerObserver(this);
     m_input->setEnabled(!m_tagLists.isEmpty());
     updateDisplayedTags();
+}
+
+void TagWidget::editTags()
+{
+    m_comboBox->setFocus(Qt::ShortcutFocusReason);
+    emit ensureVisible();
 }
 
 void TagWidget::refreshProperties()
@@ -236,10 +243,10 @@ TagLabel *TagWidget::createNewTagLabel()
     auto *label = new TagLabel(QString(), TagLabel::SetOnAll, this);
     m_flowLayout->addWidget(label);
     connect(label, &TagLabel::removeTag, this, &TagWidget::removeTag);
-    // A new chip is the window's last widget; it belongs before the field for a new tag.
-    QWidget *before = m_comboBox->previousInFocusChain();
-    while (before->focusPolicy() == Qt::NoFocus && before != m_comboBox)
-        before = before->previousInFocusChain();
+    // A new chip is the window's last widget; it belongs behind the one before it.
+    QWidget *before = m_addButton;
+    if (!m_tagLabels.isEmpty())
+        before = m_tagLabels.constLast()->removeButton();
     setTabOrder(before, label->removeButton());
     return label;
 }

@@ -32,6 +32,12 @@ public:
     /** The tags of each selected file; not owned, to be replaced before they die. */
     void setTagLists(const QList<PropertyStringList *> &tagLists);
 
+    /** Gives the keys to the field for a new tag. */
+    void editTags();
+
+    /** What ensureVisible() is about. */
+    QWidget *input() const { return m_input; }
+
     void refreshProperties();
     void observedObjectChanged(const Observable *observable) override;
 
