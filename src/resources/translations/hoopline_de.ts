@@ -1798,7 +1798,7 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>Datenerfassung einschalten</translation>
     </message>
     <message>
-        <source>OK</source>
+        <source>Ok</source>
         <translation>OK</translation>
     </message>
 </context>

@@ -1778,7 +1778,7 @@ Commands; each has a --help of its own:</source>
         <translation>启用数据收集</translation>
     </message>
     <message>
-        <source>OK</source>
+        <source>Ok</source>
         <translation>确定</translation>
     </message>
 </context>
