@@ -37,7 +37,7 @@ QByteArray DesignBytes::read(const DuplicateCandidate &design)
     QFile file(design.path);
     open(file);
     // One byte more than the engine takes, so that it tells what is too large.
-    const QByteArray bytes = file.read(Embroidery::ReadHelper::MaximumSize + 1);
+    QByteArray bytes = file.read(Embroidery::ReadHelper::MaximumSize + 1);
     QCryptographicHash hash(QCryptographicHash::Md5);
     hash.addData(bytes);
     expectHash(hash, file, design);
