@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 PieceSize = 256 * 1024; // bytes
+constexpr qint64 PieceSize = qint64(256) * 1024; // bytes
 
 /** On what the open @p folder lies; 0 where nothing is open. */
 quint64 deviceOf(int folder)

@@ -33,6 +33,11 @@ void setShortcuts(QAction *action, QKeySequence::StandardKey standard, const QKe
         action->setShortcut(key);
 }
 
+QKeySequence withModifier(Qt::Modifier modifier, Qt::Key key)
+{
+    return QKeySequence(int(modifier) | int(key));
+}
+
 /** For a menu to tell the key of what another widget does when it is pressed there. */
 QString withKey(const QString &text, const QKeySequence &key)
 {
@@ -54,7 +59,7 @@ void MainWindow::createActions()
     m_addFolderAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
     m_removeFolderAction = new GAction(icon("removeFolder"), tr("&Remove folder"), this,
                                        SLOT(removeSelectedDirectory()));
-    m_removeFolderAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Delete));
+    m_removeFolderAction->setShortcut(withModifier(Qt::CTRL, Qt::Key_Delete));
     m_openDesignAction = new GAction(tr("&Open design"), this);
     m_openDesignAction->setShortcuts(QKeySequence::Open);
     connect(m_openDesignAction, &QAction::triggered, m_center, &CenterView::openDesign);
@@ -66,7 +71,7 @@ void MainWindow::createActions()
     createZoomActions();
     m_transferAction = new GAction(icon("exportToUsb"), tr("Transfer to machine"), this,
                                    SLOT(exportSelectedFiles()));
-    m_transferAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    m_transferAction->setShortcut(withModifier(Qt::CTRL, Qt::Key_T));
     m_rescanAction = new GAction(icon("sync"), tr("&Rescan"), this, SLOT(rescanDirectories()));
     m_rescanAction->setShortcuts(QKeySequence::Refresh);
 
@@ -82,10 +87,10 @@ void MainWindow::createZoomActions()
     connect(m_zoomInAction, &QAction::triggered, m_center, &CenterView::zoomIn);
     // On many keyboards the plus sign needs Shift.
     m_zoomInAction->setShortcuts(
-        {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+        {withModifier(Qt::CTRL, Qt::Key_Plus), withModifier(Qt::CTRL, Qt::Key_Equal)});
     m_zoomOutAction = new GAction(icon("zoomOut"), tr("&Zoom out"), this);
     connect(m_zoomOutAction, &QAction::triggered, m_center, &CenterView::zoomOut);
-    m_zoomOutAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
+    m_zoomOutAction->setShortcut(withModifier(Qt::CTRL, Qt::Key_Minus));
 }
 
 void MainWindow::createMenus()
@@ -116,7 +121,7 @@ void MainWindow::createEditMenu()
     PreviewBrowser *browser = m_center->browser();
     QMenu *menu = editMenu();
     menu->addAction(m_selectAllAction);
-    menu->addAction(withKey(tr("Select &nothing"), Qt::CTRL | Qt::Key_D), browser,
+    menu->addAction(withKey(tr("Select &nothing"), withModifier(Qt::CTRL, Qt::Key_D)), browser,
                     &PreviewBrowser::selectNone);
     menu->addSeparator();
     menu->addAction(withKey(tr("&Favorite"), Qt::Key_F), browser, &PreviewBrowser::toggleFavorites);
@@ -141,12 +146,13 @@ void MainWindow::createViewMenu()
     addWithOtherLetter(m_viewMenu, m_zoomOutAction, tr("Zoom &out"));
     PreviewBrowser *browser = m_center->browser();
     m_viewMenu->addAction(tr("&Normal size"), browser, &PreviewBrowser::zoomToDefault,
-                          Qt::CTRL | Qt::Key_0);
+                          withModifier(Qt::CTRL, Qt::Key_0));
     m_viewMenu->addAction(withKey(tr("&Enlarged preview"), Qt::Key_Space), browser,
                           &PreviewBrowser::previewSelection);
     m_viewMenu->addSeparator();
     m_leftPanelAction = addPanelSwitch(m_left, tr("&Folders and tags"), Qt::Key_F9);
-    m_rightPanelAction = addPanelSwitch(m_right, tr("&Properties"), Qt::SHIFT | Qt::Key_F9);
+    m_rightPanelAction =
+        addPanelSwitch(m_right, tr("&Properties"), withModifier(Qt::SHIFT, Qt::Key_F9));
 }
 
 QAction *MainWindow::addPanelSwitch(QWidget *panel, const QString &text, const QKeySequence &key)
@@ -180,9 +186,9 @@ void MainWindow::installApplicationMenuItems(QMenu *fileMenu, QMenu *helpMenu)
 #ifndef Q_OS_MACOS
     HooplineApplication *application = HooplineApplication::instance();
     auto *quitAction = new GAction(tr("Quit"), this);
-    setShortcuts(quitAction, QKeySequence::Quit, Qt::CTRL | Qt::Key_Q);
+    setShortcuts(quitAction, QKeySequence::Quit, withModifier(Qt::CTRL, Qt::Key_Q));
     setShortcuts(application->preferencesAction(), QKeySequence::Preferences,
-                 Qt::CTRL | Qt::Key_Comma);
+                 withModifier(Qt::CTRL, Qt::Key_Comma));
     connect(quitAction, &QAction::triggered, application, &GApplication::closeAllWindowsAndQuit);
     fileMenu->addAction(application->preferencesAction());
     fileMenu->addAction(quitAction);
