@@ -8,8 +8,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck disable=SC2034 # for those who source this
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
-    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
-    libdeflate-dev lowdown file dpkg-dev)
+    qtbase5-dev libqt5sql5-sqlite libqt5svg5-dev qttools5-dev qttools5-dev-tools
+    qttranslations5-l10n libdeflate-dev lowdown file dpkg-dev)
 
 # A home that holds no compiler cache yet gets none from here: it lies in the build folder.
 if [ -z "${CCACHE_DIR:-}" ] && [ ! -d "${XDG_CACHE_HOME:-${HOME:-/}/.cache}/ccache" ] &&

@@ -1,0 +1,179 @@
+#include "catalogue/userdata/UserDataMemory.h"
+
+#include "base/GDebug.h"
+#include "catalogue/userdata/UserDataStore.h"
+#include "catalogue/userdata/UserDataTracker.h"
+
+#include <algorithm>
+#include <QHash>
+#include <QSet>
+
+namespace {
+
+/** Tells @p list what it lacks of @p others; the order of those that are there stays. */
+QStringList united(QStringList list, const QStringList &others)
+{
+    QSet<QString> known(list.cbegin(), list.cend());
+    for (const QString &entry : others) {
+        if (!known.contains(entry)) {
+            known.insert(entry);
+            list.append(entry);
+        }
+    }
+    return list;
+}
+
+void write(const UserData &data, IFile &file)
+{
+    file.tagsProp()->setValueWithoutUndoAndAnnounceChange(data.tags);
+    file.notesProp()->setValueWithoutUndoAndAnnounceChange(data.notes);
+    file.isFavoriteProp()->setValueWithoutUndoAndAnnounceChange(data.favorite);
+}
+
+bool bears(const UserData &data, const IFile &file)
+{
+    return file.isFavorite() == data.favorite && file.notes() == data.notes &&
+           file.tags() == data.tags;
+}
+
+} // namespace
+
+UserDataMemory::UserDataMemory(const QSharedPointer<Project> &project, const QString &path)
+    : m_project(project), m_store(std::make_unique<UserDataStore>(path)),
+      m_tracker(std::make_unique<UserDataTracker>(project))
+{
+    m_tracker->everything();
+    QObject::connect(m_tracker.get(), &UserDataTracker::found, m_store.get(),
+                     &UserDataStore::record);
+    QObject::connect(m_store.get(), &UserDataStore::snapshotWanted, m_tracker.get(),
+                     [this] { tellAgain(); });
+}
+
+UserDataMemory::~UserDataMemory()
+{
+    try {
+        collect();
+    } catch (const std::exception &error) {
+        gWarning("UserDataMemory") << error.what();
+    }
+}
+
+void UserDataMemory::setInterval(std::chrono::milliseconds interval)
+{
+    m_tracker->setInterval(interval);
+    m_store->setRetryInterval(interval);
+}
+
+bool UserDataMemory::applyUnsaved(const Digest &catalogue)
+{
+    m_catalogue = catalogue;
+    const auto unsaved = m_store->unsavedOf(catalogue);
+    if (!unsaved) {
+        adopt(catalogue);
+        return false;
+    }
+    bool changed = false;
+    if (unsaved->allTags && m_project->allTags() != *unsaved->allTags) {
+        m_project->setAllTags(*unsaved->allTags);
+        changed = true;
+    }
+    if (unsaved->smartFolders && m_project->smartFolders() != *unsaved->smartFolders) {
+        m_project->smartFoldersProp()->setValueWithoutUndoAndAnnounceChange(*unsaved->smartFolders);
+        changed = true;
+    }
+    QHash<QString, UserData> byPath;
+    for (const UserData &data : unsaved->designs)
+        byPath.insert(data.path, data);
+    if (!byPath.isEmpty()) {
+        const auto files = m_project->files();
+        for (const QSharedPointer<IFile> &file : files) {
+            const auto data = byPath.constFind(file->absoluteFilePath());
+            if (data == byPath.constEnd() || bears(*data, *file))
+                continue;
+            write(*data, *file);
+            changed = true;
+        }
+    }
+    m_tracker->everything();
+    return changed;
+}
+
+void UserDataMemory::restoreLists()
+{
+    const UserDataChanges lists = m_store->lists();
+    m_project->setAllTags(united(m_project->allTags(), lists.allTags.value_or(QStringList())));
+    m_project->smartFoldersProp()->setValueWithoutUndoAndAnnounceChange(
+        united(m_project->smartFolders(), lists.smartFolders.value_or(QStringList())));
+}
+
+void UserDataMemory::adopt(const Digest &catalogue)
+{
+    m_catalogue = catalogue;
+    m_store->adopt(m_tracker->everything(), catalogue);
+}
+
+void UserDataMemory::collect()
+{
+    m_tracker->collectNow();
+}
+
+void UserDataMemory::settle(const Digest &catalogue)
+{
+    m_catalogue = catalogue;
+    m_store->settle(catalogue);
+}
+
+int UserDataMemory::giveBack(const QList<QSharedPointer<IFile>> &newcomers)
+{
+    if (newcomers.isEmpty())
+        return 0;
+    QVector<UserData> asked;
+    QHash<QString, QSharedPointer<IFile>> byPath;
+    asked.reserve(newcomers.size());
+    for (const QSharedPointer<IFile> &file : newcomers) {
+        UserData newcomer;
+        newcomer.path = file->absoluteFilePath();
+        newcomer.contentHash = file->contentHashProp()->value();
+        asked.append(newcomer);
+        byPath.insert(newcomer.path, file);
+    }
+    const QVector<UserData> recalled = m_store->recall(asked);
+    QStringList tags;
+    for (const UserData &data : recalled) {
+        write(data, *byPath.value(data.path));
+        tags += data.tags;
+    }
+    addTags(tags);
+    return recalled.size();
+}
+
+void UserDataMemory::addTags(const QStringList &tags)
+{
+    const QStringList all = m_project->allTags();
+    const QStringList more = united(all, tags);
+    if (more.size() != all.size())
+        m_project->setAllTags(more);
+}
+
+int UserDataMemory::absentDesigns()
+{
+    collect();
+    return m_store->absentDesigns();
+}
+
+void UserDataMemory::forgetAbsentDesigns()
+{
+    collect();
+    m_store->forgetAbsentDesigns();
+}
+
+void UserDataMemory::tellAgain()
+{
+    UserDataChanges all = m_tracker->everything();
+    m_store->adopt(all, m_catalogue);
+    // Some of it may be in no catalogue file yet.
+    all.designs.erase(std::remove_if(all.designs.begin(), all.designs.end(),
+                                     [](const UserData &data) { return data.isEmpty(); }),
+                      all.designs.end());
+    m_store->record(all);
+}

@@ -1,0 +1,190 @@
+#include "catalogue/userdata/UserDataStore.h"
+
+#include "base/files/FileStamp.h"
+#include "base/GDebug.h"
+#include "catalogue/userdata/UserDataDatabase.h"
+#include "catalogue/userdata/UserDataError.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr std::chrono::seconds RetryInterval(5);
+// So many bursts of edits wait for a disk; more than that are asked for when it is back.
+constexpr std::size_t MaximumTasks = 100;
+
+} // namespace
+
+UserDataStore::UserDataStore(const QString &path) : m_path(path)
+{
+    m_retryTimer.setSingleShot(true);
+    m_retryTimer.setInterval(RetryInterval);
+    m_worker.moveToThread(&m_thread);
+    m_retryTimer.moveToThread(&m_thread);
+    connect(&m_retryTimer, &QTimer::timeout, &m_worker, [this] { work(); });
+    m_thread.setObjectName(QStringLiteral("UserDataStore"));
+    m_thread.start();
+    QMetaObject::invokeMethod(&m_worker, [this] { open(); });
+}
+
+UserDataStore::~UserDataStore()
+{
+    QMetaObject::invokeMethod(
+        &m_worker,
+        [this] {
+            work();
+            m_retryTimer.stop();
+            m_database.reset();
+        },
+        Qt::BlockingQueuedConnection);
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void UserDataStore::setRetryInterval(std::chrono::milliseconds interval)
+{
+    QMetaObject::invokeMethod(&m_worker, [this, interval] { m_retryTimer.setInterval(interval); });
+}
+
+void UserDataStore::record(const UserDataChanges &changes)
+{
+    tell([changes](UserDataDatabase &database) { database.record(changes); });
+}
+
+void UserDataStore::settle(const std::shared_future<QByteArray> &catalogue)
+{
+    tell([catalogue](UserDataDatabase &database) { database.settle(catalogue.get()); });
+}
+
+void UserDataStore::adopt(const UserDataChanges &all,
+                          const std::shared_future<QByteArray> &catalogue)
+{
+    tell([all, catalogue](UserDataDatabase &database) { database.adopt(all, catalogue.get()); });
+}
+
+void UserDataStore::forgetAbsentDesigns()
+{
+    tell([](UserDataDatabase &database) { database.forgetAbsentDesigns(); });
+}
+
+std::optional<UserDataChanges>
+UserDataStore::unsavedOf(const std::shared_future<QByteArray> &catalogue)
+{
+    return ask<std::optional<UserDataChanges>>([&](UserDataDatabase &database) {
+        return database.catalogue() == catalogue.get() ? std::make_optional(database.unsaved())
+                                                       : std::nullopt;
+    });
+}
+
+UserDataChanges UserDataStore::lists()
+{
+    return ask<UserDataChanges>([](UserDataDatabase &database) { return database.lists(); });
+}
+
+QVector<UserData> UserDataStore::recall(const QVector<UserData> &newcomers)
+{
+    return ask<QVector<UserData>>(
+        [&](UserDataDatabase &database) { return database.recall(newcomers); });
+}
+
+int UserDataStore::absentDesigns()
+{
+    return ask<int>([](UserDataDatabase &database) { return database.absentDesigns(); });
+}
+
+void UserDataStore::tell(Task task)
+{
+    QMetaObject::invokeMethod(&m_worker, [this, task = std::move(task)] {
+        if (m_unusable)
+            return;
+        m_tasks.push_back(task);
+        work();
+    });
+}
+
+template <class Answer, class Question>
+Answer UserDataStore::ask(Question question)
+{
+    Answer answer{};
+    QMetaObject::invokeMethod(
+        &m_worker,
+        [&] {
+            work();
+            attempt([&](UserDataDatabase &database) { answer = question(database); });
+        },
+        Qt::BlockingQueuedConnection);
+    return answer;
+}
+
+void UserDataStore::open()
+{
+    attempt([](UserDataDatabase &) {});
+}
+
+/** Does what is to be done, in its order, until it is done or something fails. */
+void UserDataStore::work()
+{
+    while (!m_tasks.empty()) {
+        if (!attempt(m_tasks.front())) {
+            if (m_tasks.size() > MaximumTasks) {
+                m_tasks.clear();
+                m_tasksDropped = true;
+            }
+            m_retryTimer.start();
+            return;
+        }
+        m_tasks.pop_front();
+    }
+    if (m_tasksDropped) {
+        m_tasksDropped = false;
+        emit snapshotWanted();
+    }
+}
+
+bool UserDataStore::attempt(const Task &task)
+{
+    if (m_unusable)
+        return true;
+    try {
+        if (!m_database)
+            m_database = std::make_unique<UserDataDatabase>(m_path);
+        task(*m_database);
+        m_failure.clear();
+        return true;
+    } catch (const UserDataError &error) {
+        logOnce(error.toString());
+        if (error.kind() == UserDataError::Newer)
+            m_unusable = true;
+        if (error.kind() == UserDataError::Damaged)
+            replaceDamaged();
+    } catch (const std::exception &error) {
+        logOnce(QString::fromLocal8Bit(error.what()));
+    }
+    return m_unusable;
+}
+
+void UserDataStore::logOnce(const QString &failure)
+{
+    if (failure != m_failure)
+        gWarning("UserDataStore") << failure;
+    m_failure = failure;
+}
+
+void UserDataStore::replaceDamaged()
+{
+    m_database.reset();
+    const QFileInfo file(m_path);
+    const QString stem = file.path() + QLatin1Char('/') + file.completeBaseName() +
+                         QStringLiteral(".damaged-") +
+                         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString aside = stem + QLatin1Char('.') + file.suffix();
+    for (int i = 2; !FileStamp::isMissing(aside); ++i)
+        aside = QStringLiteral("%1-%2.%3").arg(stem).arg(i).arg(file.suffix());
+    // What cannot be moved out of the way would be found damaged again and again.
+    m_unusable = !QFile::rename(m_path, aside);
+    // It belongs to the file that was there.
+    QFile::remove(m_path + QStringLiteral("-journal"));
+    m_tasksDropped = true;
+}

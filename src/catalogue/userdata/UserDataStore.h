@@ -1,0 +1,85 @@
+#pragma once
+
+#include "catalogue/userdata/UserData.h"
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <future>
+#include <memory>
+#include <QByteArray>
+#include <QObject>
+#include <QThread>
+#include <QTimer>
+
+class UserDataDatabase;
+
+/**
+ * The store of what people write, on a thread of its own. What it is told is done in that
+ * order and later; what it is asked is answered after all that was told before. What can't
+ * be written for now is tried again; a damaged file is kept aside and made anew. A store
+ * that can't be used at all knows nothing, and never throws.
+ */
+class UserDataStore : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Opens the file or makes it, on its own thread. */
+    explicit UserDataStore(const QString &path);
+    /** Waits until all that was told is on the disk, or can't get there. */
+    ~UserDataStore() override;
+
+    /** How long to wait before what could not be written is tried again. */
+    void setRetryInterval(std::chrono::milliseconds interval);
+
+    /** Edits that no catalogue file holds yet. */
+    void record(const UserDataChanges &changes);
+
+    /** All edits until now are in the catalogue file with the digest @p catalogue. */
+    void settle(const std::shared_future<QByteArray> &catalogue);
+
+    /** Brings the store into line with the catalogue file; @p all tells every design. */
+    void adopt(const UserDataChanges &all, const std::shared_future<QByteArray> &catalogue);
+
+    /** Forgets all designs that are not in the catalogue. */
+    void forgetAbsentDesigns();
+
+    /** The edits that were made on this catalogue file and not saved; none if it was another. */
+    std::optional<UserDataChanges> unsavedOf(const std::shared_future<QByteArray> &catalogue);
+
+    /** The lists of tags and folders as they were last. */
+    UserDataChanges lists();
+
+    /** See UserDataDatabase::recall(). */
+    QVector<UserData> recall(const QVector<UserData> &newcomers);
+
+    int absentDesigns();
+
+signals:
+    /** Something was lost on the way: the store is to be told again all there is. */
+    void snapshotWanted();
+
+private:
+    using Task = std::function<void(UserDataDatabase &)>;
+
+    void tell(Task task);
+    template <class Answer, class Question>
+    Answer ask(Question question);
+    void open();
+    void work();
+    bool attempt(const Task &task);
+    void logOnce(const QString &failure);
+    void replaceDamaged();
+
+    QString m_path;
+    QThread m_thread;
+    // All below belongs to that thread.
+    QObject m_worker;
+    QTimer m_retryTimer;
+    std::unique_ptr<UserDataDatabase> m_database;
+    std::deque<Task> m_tasks;
+    QString m_failure;
+    bool m_tasksDropped = false;
+    bool m_unusable = false;
+};
