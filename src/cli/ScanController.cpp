@@ -23,6 +23,7 @@ void ScanController::loadOrMakeCatalogue()
         }
     }
     loadProject();
+    rememberUserData();
 }
 
 void ScanController::expectFolders() const

@@ -62,6 +62,9 @@ public:
     /** MD5 digest of the bytes last read or written; empty before. Waits until it is known. */
     QByteArray lastSeenHash() const;
 
+    /** The same for those who can wait elsewhere; not valid before anything was seen. */
+    std::shared_future<QByteArray> lastSeenDigest() const { return m_hash; }
+
     /**
      * Writes @p bytes to a new file beside the catalogue and returns its path. Bytes that
      * are kept already are not kept twice. Throws CatalogueUnsavedError.

@@ -17,7 +17,28 @@
 #include "properties/changes/BulkOperation.h"
 #include "properties/undo/GUndoStack.h"
 #include <QFileInfo>
+#include <QSet>
 #include <utility>
+
+namespace {
+
+using Files = QList<QSharedPointer<IFile>>;
+
+Files newcomers(const Files &before, const Files &after)
+{
+    QSet<const IFile *> known;
+    known.reserve(before.size());
+    for (const QSharedPointer<IFile> &file : before)
+        known.insert(file.data());
+    Files fresh;
+    for (const QSharedPointer<IFile> &file : after) {
+        if (!known.contains(file.data()))
+            fresh.append(file);
+    }
+    return fresh;
+}
+
+} // namespace
 
 ProjectController::ProjectController()
     : m_listener(&emptyProgressListener), m_file(GlobalSettings().catalogueFilePath())
@@ -41,6 +62,7 @@ void ProjectController::loadOrCreateProject()
     DataFolder::prepare(QFileInfo(m_file.path()).absolutePath());
     try {
         loadProject();
+        rememberUserData();
         return;
     } catch (const ErrorDoesNotExist &) {
         // The first start.
@@ -49,7 +71,24 @@ void ProjectController::loadOrCreateProject()
         gWarning("ProjectController") << "failed to read project, creating new one";
         recoverProject();
     }
+    openMemory();
+    m_memory->restoreLists();
     saveProject();
+    m_memory->adopt(m_file.lastSeenDigest());
+}
+
+void ProjectController::openMemory()
+{
+    m_memory = std::make_unique<UserDataMemory>(m_project, QFileInfo(m_file.path()).path() +
+                                                               QStringLiteral("/user-data.sqlite"));
+}
+
+void ProjectController::rememberUserData()
+{
+    openMemory();
+    m_recoveredEdits = m_memory->applyUnsaved(m_file.lastSeenDigest());
+    if (m_recoveredEdits)
+        m_project->undoStack()->resetClean();
 }
 
 void ProjectController::loadProject()
@@ -60,6 +99,7 @@ void ProjectController::loadProject()
 
 void ProjectController::createProject()
 {
+    m_memory.reset();
     m_selectionModel.reset();
     m_project = QSharedPointer<Project>::create();
     m_selectionModel = std::make_unique<FilterSelectionModel>(m_project);
@@ -88,7 +128,11 @@ void ProjectController::saveProjectIfModified()
 void ProjectController::saveProject()
 {
     keepWhatOthersWrote();
+    if (m_memory)
+        m_memory->collect();
     m_file.write(DataModelWriter().toBytes(m_project.data()));
+    if (m_memory)
+        m_memory->settle(m_file.lastSeenDigest());
 }
 
 void ProjectController::keepWhatOthersWrote()
@@ -162,6 +206,8 @@ void ProjectController::reload(const QByteArray &bytes)
             m_project->undoStack()->resetClean();
         throw;
     }
+    if (m_memory)
+        m_memory->adopt(m_file.lastSeenDigest());
 }
 
 void ProjectController::keep(const QByteArray &bytes, CatalogueFile::Fate fate, int designs)
@@ -193,21 +239,30 @@ void ProjectController::removeSelectedDirectory()
 
 void ProjectController::scanSmartFolders()
 {
+    // What leaves the catalogue now may have been edited a moment ago.
+    if (m_memory)
+        m_memory->collect();
     m_lastScan = SyncCounts();
     m_lastReport = ScanReport();
     BulkOperation bulk;
-    {
-        FileSync sync(m_project, m_listener, m_usage);
-        sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
-        m_lastScan = sync.counts();
-        m_lastReport = sync.report();
-        if (sync.numChangedFiles() > 0) {
-            m_project->undoStack()->resetClean();
-            PreviewCache::instance().clear();
-        }
-    }
+    synchronise();
     bulk.finish();
     saveProjectIfModified();
+}
+
+void ProjectController::synchronise()
+{
+    const auto before = m_project->files();
+    FileSync sync(m_project, m_listener, m_usage);
+    sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
+    m_lastScan = sync.counts();
+    m_lastReport = sync.report();
+    if (sync.numChangedFiles() == 0)
+        return;
+    if (m_memory)
+        m_memory->giveBack(newcomers(before, m_project->files()));
+    m_project->undoStack()->resetClean();
+    PreviewCache::instance().clear();
 }
 
 QStringList ProjectController::sortAndRemoveSubdirectories(QStringList list)

@@ -7,6 +7,7 @@
 #include "catalogue/sync/CatalogueFile.h"
 #include "catalogue/sync/ScanReport.h"
 #include "catalogue/sync/SyncCounts.h"
+#include "catalogue/userdata/UserDataMemory.h"
 #include <memory>
 #include <QCoreApplication>
 #include <QList>
@@ -98,6 +99,12 @@ public:
      */
     void reloadProjectIfNewerOnDisk();
 
+    /** What people wrote, beside the catalogue; null for one that was only looked into. */
+    UserDataMemory *memory() const { return m_memory.get(); }
+
+    /** Whether edits were brought back that had not been saved when the program ended. */
+    bool hasRecoveredEdits() const { return m_recoveredEdits; }
+
     /** What had to give way since the last call. */
     QList<Kept> takeKept();
 
@@ -120,7 +127,16 @@ public:
     /** The outermost folders of @p list, in the order of all lists shown to the user. */
     static QStringList sortAndRemoveSubdirectories(QStringList list);
 
+protected:
+    /**
+     * Begins to remember what is edited, and applies what was edited on the very catalogue
+     * that was loaded and not saved. Done already by loadOrCreateProject().
+     */
+    void rememberUserData();
+
 private:
+    void openMemory();
+    void synchronise();
     void createProject();
     void recoverProject();
     void saveProject();
@@ -135,6 +151,8 @@ private:
     CatalogueFile m_file;
     FileStamp m_damaged; ///< that of a newer catalogue that was no whole one
     std::unique_ptr<FilterSelectionModel> m_selectionModel;
+    std::unique_ptr<UserDataMemory> m_memory;
+    bool m_recoveredEdits = false;
     SyncCounts m_lastScan;
     QList<Kept> m_kept;
     ScanReport m_lastReport;
