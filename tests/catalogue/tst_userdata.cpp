@@ -5,6 +5,7 @@
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
 
+#include <cstdio>
 #include <functional>
 #include <memory>
 #include <QProcess>
@@ -29,7 +30,8 @@ QString wordsOf(const ProjectController &controller, const QString &path)
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<QByteArray(const QByteArray &)>)
+using Change = std::function<QByteArray(const QByteArray &)>;
+Q_DECLARE_METATYPE(Change)
 
 class UserDataTest : public QObject
 {
@@ -41,6 +43,7 @@ private slots:
     void killedProgramLosesNothing();
     void catalogueOfOthersWins();
     void failedSaveLeavesEditsUnsaved();
+    void failedSaveOfMovedDesigns();
     void designsGetBackWhatWasWritten_data();
     void designsGetBackWhatWasWritten();
     void newestWordsGoToCopies();
@@ -49,6 +52,8 @@ private slots:
     void uselessStoreIsMadeAnew_data();
     void uselessStoreIsMadeAnew();
     void storeInTheWayStopsNobody();
+    void storeThatComesBackIsHeard();
+    void storeRemovedMeanwhileIsMadeAnew();
     void storeIsForTheUserAlone();
     void lookingLeavesNoTrace();
 
@@ -61,6 +66,7 @@ private:
     void edit(const QString &name, const QString &tag, const QString &notes, bool favorite);
     void editAndKill();
     QString words(const QString &name) const { return wordsOf(*m_controller, path(name)); }
+    void endWithoutSave(const std::function<void()> &lastDoings);
     bool loseCatalogue() const { return QFile::remove(m_folder->catalogueFile()); }
 
     std::unique_ptr<CatalogueFolder> m_folder;
@@ -176,20 +182,41 @@ void UserDataTest::catalogueOfOthersWins()
     QCOMPARE(words("b.dst"), QStringLiteral("early|by hand|"));
 }
 
-void UserDataTest::failedSaveLeavesEditsUnsaved()
+/** Ends the program after @p lastDoings, of which no save succeeds, and leaves the catalogue. */
+void UserDataTest::endWithoutSave(const std::function<void()> &lastDoings)
 {
-    const QString data = m_folder->dataFile(QString());
     const QByteArray before = CatalogueFolder::read(m_folder->catalogueFile());
-    edit("a.dst", "late", "typed", true);
     // A folder in the place of the catalogue cannot be replaced by a file.
     QVERIFY(loseCatalogue());
     QVERIFY(QDir().mkpath(m_folder->catalogueFile() + "/in the way"));
-    QVERIFY_EXCEPTION_THROWN(m_controller->saveProjectIfModified(), Error);
+    QVERIFY_EXCEPTION_THROWN(lastDoings(), Error);
     m_controller.reset();
     QVERIFY(QDir(m_folder->catalogueFile()).removeRecursively());
     QVERIFY(CatalogueFolder::write(m_folder->catalogueFile(), before));
+}
+
+void UserDataTest::failedSaveLeavesEditsUnsaved()
+{
+    edit("a.dst", "late", "typed", true);
+    endWithoutSave([this] { m_controller->saveProjectIfModified(); });
     start();
     QCOMPARE(words("a.dst"), QStringLiteral("late|typed|*"));
+}
+
+void UserDataTest::failedSaveOfMovedDesigns()
+{
+    edit("a.dst", "late", "typed", true);
+    QVERIFY(QFile::rename(path("a.dst"), path("moved.dst")));
+    QVERIFY(QFile::rename(path("b.dst"), path("../b.dst")));
+    endWithoutSave([this] { m_controller->scanSmartFolders(); });
+    start();
+    // The catalogue knows the old places only, and nothing of them is absent.
+    QCOMPARE(words("a.dst"), QStringLiteral("late|typed|*"));
+    QCOMPARE(words("b.dst"), QStringLiteral("early|first|"));
+    QCOMPARE(m_controller->memory()->absentDesigns(), 0);
+    m_controller->scanSmartFolders();
+    QCOMPARE(words("moved.dst"), QStringLiteral("late|typed|*"));
+    QCOMPARE(m_controller->memory()->absentDesigns(), 1);
 }
 
 void UserDataTest::designsGetBackWhatWasWritten_data()
@@ -289,7 +316,6 @@ void UserDataTest::absentDesignsAreForgotten()
 
 void UserDataTest::uselessStoreIsMadeAnew_data()
 {
-    using Change = std::function<QByteArray(const QByteArray &)>;
     QTest::addColumn<Change>("change");
     QTest::addColumn<int>("keptAside");
 
@@ -305,7 +331,7 @@ void UserDataTest::uselessStoreIsMadeAnew_data()
 
 void UserDataTest::uselessStoreIsMadeAnew()
 {
-    QFETCH(std::function<QByteArray(const QByteArray &)>, change);
+    QFETCH(Change, change);
     QFETCH(int, keptAside);
     m_controller.reset();
     const QByteArray whole = CatalogueFolder::read(store());
@@ -338,6 +364,34 @@ void UserDataTest::storeInTheWayStopsNobody()
     m_controller->scanSmartFolders();
     QCOMPARE(m_controller->memory()->absentDesigns(), 0);
     m_controller->saveProjectIfModified();
+    restart();
+    QCOMPARE(words("a.dst"), QStringLiteral("late|typed|*"));
+}
+
+void UserDataTest::storeThatComesBackIsHeard()
+{
+    editAndKill();
+    const QString away = store() + ".away";
+    QVERIFY(QFile::rename(store(), away));
+    QVERIFY(QFile::link(m_folder->designs(), store()));
+    start();
+    m_controller->memory()->setInterval(std::chrono::milliseconds(10));
+    QCOMPARE(words("a.dst"), QStringLiteral("||"));
+    QCOMPARE(std::rename(qPrintable(away), qPrintable(store())), 0);
+    QTRY_COMPARE(words("a.dst"), QStringLiteral("late,\"quoted\"\n|written last|*"));
+    QVERIFY(m_controller->isModified());
+}
+
+void UserDataTest::storeRemovedMeanwhileIsMadeAnew()
+{
+    m_controller->memory()->setInterval(std::chrono::milliseconds(10));
+    QVERIFY(QFile::remove(store()));
+    edit("a.dst", "late", "typed", true);
+    const auto known = [this] {
+        UserDataDatabase database(store());
+        return !database.catalogue().isEmpty() && !database.unsaved().isEmpty();
+    };
+    QTRY_VERIFY(known());
     restart();
     QCOMPARE(words("a.dst"), QStringLiteral("late|typed|*"));
 }

@@ -87,8 +87,6 @@ void ProjectController::rememberUserData()
 {
     openMemory();
     m_recoveredEdits = m_memory->applyUnsaved(m_file.lastSeenDigest());
-    if (m_recoveredEdits)
-        m_project->undoStack()->resetClean();
 }
 
 void ProjectController::loadProject()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <QMetaType>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -36,3 +37,6 @@ struct UserDataChanges
         return designs.isEmpty() && gone.isEmpty() && !allTags && !smartFolders;
     }
 };
+
+// The store tells of it on its own thread.
+Q_DECLARE_METATYPE(UserDataChanges)

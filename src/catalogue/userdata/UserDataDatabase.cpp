@@ -1,10 +1,9 @@
 #include "catalogue/userdata/UserDataDatabase.h"
 
-#include "base/files/FileStamp.h"
-#include "base/files/FileTools.h"
 #include "base/files/PrivateAccess.h"
 #include "catalogue/userdata/UserDataError.h"
 
+#include <QFile>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,15 +21,15 @@ const QString Catalogue = QStringLiteral("catalogue");
 const QString UnsavedLists = QStringLiteral("unsaved lists");
 
 // An entry without anything stands for an edit that has taken away all there was.
-constexpr const char *Tables[] = {
+constexpr const char *Designs =
     "CREATE TABLE designs (id INTEGER PRIMARY KEY AUTOINCREMENT, hash TEXT NOT NULL,"
     " path TEXT NOT NULL, tags TEXT NOT NULL, notes TEXT NOT NULL, favorite INTEGER NOT NULL,"
-    " present INTEGER NOT NULL, unsaved INTEGER NOT NULL, UNIQUE (hash, path))",
-    "CREATE INDEX designs_by_path ON designs (path)",
+    " present INTEGER NOT NULL, unsaved INTEGER NOT NULL, UNIQUE (hash, path))";
+constexpr const char *DesignsByPath = "CREATE INDEX designs_by_path ON designs (path)";
+constexpr const char *Lists =
     "CREATE TABLE lists (name TEXT NOT NULL, position INTEGER NOT NULL, entry TEXT NOT NULL,"
-    " PRIMARY KEY (name, position))",
-    "CREATE TABLE state (key TEXT PRIMARY KEY, value)",
-};
+    " PRIMARY KEY (name, position))";
+constexpr const char *States = "CREATE TABLE state (key TEXT PRIMARY KEY, value)";
 
 constexpr char IsWritten[] = "NOT (tags = '[]' AND notes = '' AND favorite = 0)";
 
@@ -67,14 +66,9 @@ UserData rowOf(const QSqlQuery &query)
 UserDataDatabase::UserDataDatabase(const QString &path)
     : m_path(path), m_connection(QUuid::createUuid().toString())
 {
-    try {
-        if (FileStamp::isMissing(path))
-            FileTools::writeAll(path, {}, FileTools::Binary, FileReplacement::UntilRestart,
-                                FileReplacement::Private);
-        PrivateAccess::takeFromOthers(path);
-    } catch (const Error &error) {
-        throw UserDataError(error.toString(), UserDataError::Failed);
-    }
+    // Closed to others before anything is in it, and never over one that comes this moment.
+    QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    PrivateAccess::takeFromOthers(path);
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
     m_database.setDatabaseName(path);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000"));
@@ -168,7 +162,7 @@ void UserDataDatabase::createTables()
     if (version == SchemaVersion)
         return;
     inTransaction([this] {
-        for (const char *table : Tables)
+        for (const char *table : {Designs, DesignsByPath, Lists, States})
             run(table);
         run("PRAGMA user_version = 1");
     });
@@ -183,7 +177,10 @@ void UserDataDatabase::record(const UserDataChanges &changes)
 {
     inTransaction([&] {
         recordDesigns(changes);
-        leave(changes);
+        QSqlQuery leave = prepare("UPDATE designs SET present = 0, unsaved = 1 WHERE path = ?"
+                                  " AND present = 1");
+        for (const QString &path : changes.gone)
+            run(leave, {path});
         if (changes.allTags || changes.smartFolders)
             writeState(UnsavedLists, true);
         writeLists(changes);
@@ -211,35 +208,15 @@ void UserDataDatabase::recordDesigns(const UserDataChanges &changes)
     }
 }
 
-void UserDataDatabase::leave(const UserDataChanges &changes)
-{
-    QHash<QString, const UserData *> entered;
-    for (const UserData &design : changes.designs)
-        entered.insert(design.contentHash, &design);
-    QSqlQuery find = prepare("SELECT hash, path, tags, notes, favorite FROM designs"
-                             " WHERE path = ? AND present = 1");
-    QSqlQuery forget = prepare("DELETE FROM designs WHERE path = ? AND hash = ?");
-    QSqlQuery wait = prepare("UPDATE designs SET present = 0 WHERE path = ?");
-    for (const QString &path : changes.gone) {
-        run(find, {path});
-        QVector<UserData> moved;
-        while (find.next()) {
-            const UserData design = rowOf(find);
-            const UserData *now = entered.value(design.contentHash);
-            if (design.isEmpty() || (now && now->saysTheSame(design)))
-                moved.append(design);
-        }
-        find.finish();
-        for (const UserData &design : qAsConst(moved))
-            run(forget, {path, design.contentHash});
-        run(wait, {path});
-    }
-}
-
 void UserDataDatabase::settle(const QByteArray &catalogue)
 {
     inTransaction([&] {
         run(QByteArray("DELETE FROM designs WHERE unsaved = 1 AND NOT ").append(IsWritten));
+        // What has moved is not absent: the same is written at its new place.
+        run("DELETE FROM designs WHERE unsaved = 1 AND present = 0 AND EXISTS"
+            " (SELECT 1 FROM designs AS now WHERE now.hash = designs.hash"
+            " AND now.present = 1 AND now.unsaved = 1 AND now.tags = designs.tags"
+            " AND now.notes = designs.notes AND now.favorite = designs.favorite)");
         run("UPDATE designs SET unsaved = 0 WHERE unsaved = 1");
         writeState(UnsavedLists, false);
         writeState(Catalogue, catalogue);
@@ -295,8 +272,9 @@ void UserDataDatabase::adopt(const UserDataChanges &all, const QByteArray &catal
 UserDataChanges UserDataDatabase::unsaved()
 {
     UserDataChanges changes;
+    // Also of what has left since: no catalogue file knows of that.
     QSqlQuery query = prepare("SELECT hash, path, tags, notes, favorite FROM designs"
-                              " WHERE unsaved = 1 AND present = 1 ORDER BY id");
+                              " WHERE unsaved = 1 ORDER BY present, id");
     run(query);
     while (query.next())
         changes.designs.append(rowOf(query));

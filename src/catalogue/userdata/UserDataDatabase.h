@@ -38,7 +38,7 @@ public:
      */
     void adopt(const UserDataChanges &all, const QByteArray &catalogue);
 
-    /** The edits that were not saved. */
+    /** The edits that were not saved, also to designs that have left the catalogue since. */
     UserDataChanges unsaved();
 
     /** The lists as they were last. */
@@ -62,7 +62,6 @@ private:
     void createTables();
     void checkIsWhole();
     void recordDesigns(const UserDataChanges &changes);
-    void leave(const UserDataChanges &changes);
     void writeLists(const UserDataChanges &changes);
     void writeList(const QString &name, const QStringList &entries);
     QStringList list(const QString &name);

@@ -42,11 +42,14 @@ UserDataMemory::UserDataMemory(const QSharedPointer<Project> &project, const QSt
     : m_project(project), m_store(std::make_unique<UserDataStore>(path)),
       m_tracker(std::make_unique<UserDataTracker>(project))
 {
+    qRegisterMetaType<UserDataChanges>();
     m_tracker->everything();
     QObject::connect(m_tracker.get(), &UserDataTracker::found, m_store.get(),
                      &UserDataStore::record);
     QObject::connect(m_store.get(), &UserDataStore::snapshotWanted, m_tracker.get(),
                      [this] { tellAgain(); });
+    QObject::connect(m_store.get(), &UserDataStore::unsavedFound, m_tracker.get(),
+                     [this](const UserDataChanges &unsaved) { apply(unsaved); });
 }
 
 UserDataMemory::~UserDataMemory()
@@ -67,34 +70,54 @@ void UserDataMemory::setInterval(std::chrono::milliseconds interval)
 bool UserDataMemory::applyUnsaved(const Digest &catalogue)
 {
     m_catalogue = catalogue;
-    const auto unsaved = m_store->unsavedOf(catalogue);
-    if (!unsaved) {
-        adopt(catalogue);
+    if (const auto unsaved = m_store->unsavedOf(catalogue))
+        return apply(*unsaved);
+    m_store->adoptOther(m_tracker->everything(), catalogue);
+    return false;
+}
+
+bool UserDataMemory::apply(const UserDataChanges &unsaved)
+{
+    if (unsaved.isEmpty())
         return false;
-    }
-    bool changed = false;
-    if (unsaved->allTags && m_project->allTags() != *unsaved->allTags) {
-        m_project->setAllTags(*unsaved->allTags);
-        changed = true;
-    }
-    if (unsaved->smartFolders && m_project->smartFolders() != *unsaved->smartFolders) {
-        m_project->smartFoldersProp()->setValueWithoutUndoAndAnnounceChange(*unsaved->smartFolders);
-        changed = true;
-    }
+    bool changed = applyLists(unsaved);
     QHash<QString, UserData> byPath;
-    for (const UserData &data : unsaved->designs)
+    for (const UserData &data : unsaved.designs)
         byPath.insert(data.path, data);
-    if (!byPath.isEmpty()) {
-        const auto files = m_project->files();
-        for (const QSharedPointer<IFile> &file : files) {
-            const auto data = byPath.constFind(file->absoluteFilePath());
-            if (data == byPath.constEnd() || bears(*data, *file))
-                continue;
-            write(*data, *file);
+    UserDataChanges applied;
+    const auto files = m_project->files();
+    for (const QSharedPointer<IFile> &file : files) {
+        const auto found = byPath.find(file->absoluteFilePath());
+        if (found == byPath.end())
+            continue;
+        found->contentHash = file->contentHashProp()->value();
+        applied.designs.append(*found);
+        if (!bears(*found, *file)) {
+            write(*found, *file);
             changed = true;
         }
+        byPath.erase(found);
     }
+    // These had entered in a scan that was not saved.
+    applied.gone = byPath.keys();
     m_tracker->everything();
+    m_store->record(applied);
+    if (changed)
+        m_project->undoStack()->resetClean();
+    return changed;
+}
+
+bool UserDataMemory::applyLists(const UserDataChanges &unsaved)
+{
+    bool changed = false;
+    if (unsaved.allTags && m_project->allTags() != *unsaved.allTags) {
+        m_project->setAllTags(*unsaved.allTags);
+        changed = true;
+    }
+    if (unsaved.smartFolders && m_project->smartFolders() != *unsaved.smartFolders) {
+        m_project->smartFoldersProp()->setValueWithoutUndoAndAnnounceChange(*unsaved.smartFolders);
+        changed = true;
+    }
     return changed;
 }
 

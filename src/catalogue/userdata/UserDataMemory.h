@@ -12,6 +12,7 @@
 
 class UserDataStore;
 class UserDataTracker;
+struct UserDataChanges;
 
 /**
  * The second memory of what people have written to their designs, beside the catalogue:
@@ -37,7 +38,8 @@ public:
 
     /**
      * Gives the project, just loaded from the file @p catalogue, the edits that were made on
-     * that very file and never saved. Returns whether it has changed.
+     * that very file and never saved. Returns whether it has changed, and counts as modified.
+     * What the disk does not hand out now is applied as soon as it does.
      */
     bool applyUnsaved(const Digest &catalogue);
 
@@ -64,6 +66,8 @@ public:
     void forgetAbsentDesigns();
 
 private:
+    bool apply(const UserDataChanges &unsaved);
+    bool applyLists(const UserDataChanges &unsaved);
     void tellAgain();
     void addTags(const QStringList &tags);
 

@@ -1,6 +1,5 @@
 #include "catalogue/userdata/UserDataStore.h"
 
-#include "base/files/FileStamp.h"
 #include "base/GDebug.h"
 #include "catalogue/userdata/UserDataDatabase.h"
 #include "catalogue/userdata/UserDataError.h"
@@ -8,6 +7,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <utility>
 
 namespace {
 
@@ -64,6 +64,17 @@ void UserDataStore::adopt(const UserDataChanges &all,
     tell([all, catalogue](UserDataDatabase &database) { database.adopt(all, catalogue.get()); });
 }
 
+void UserDataStore::adoptOther(const UserDataChanges &all,
+                               const std::shared_future<QByteArray> &catalogue)
+{
+    tell([this, all, catalogue](UserDataDatabase &database) {
+        if (database.catalogue() == catalogue.get())
+            emit unsavedFound(database.unsaved());
+        else
+            database.adopt(all, catalogue.get());
+    });
+}
+
 void UserDataStore::forgetAbsentDesigns()
 {
     tell([](UserDataDatabase &database) { database.forgetAbsentDesigns(); });
@@ -112,7 +123,10 @@ Answer UserDataStore::ask(Question question)
         &m_worker,
         [&] {
             work();
-            attempt([&](UserDataDatabase &database) { answer = question(database); });
+            const Task task = [&](UserDataDatabase &database) { answer = question(database); };
+            // Nobody asks again; a moment's trouble shall not pass for an answer.
+            if (!attempt(task))
+                attempt(task);
         },
         Qt::BlockingQueuedConnection);
     return answer;
@@ -148,17 +162,21 @@ bool UserDataStore::attempt(const Task &task)
     if (m_unusable)
         return true;
     try {
-        if (!m_database)
+        noticeLoss();
+        if (!m_database) {
             m_database = std::make_unique<UserDataDatabase>(m_path);
+            m_opened = FileStamp::of(m_path);
+        }
         task(*m_database);
         m_failure.clear();
         return true;
     } catch (const UserDataError &error) {
         logOnce(error.toString());
-        if (error.kind() == UserDataError::Newer)
-            m_unusable = true;
-        if (error.kind() == UserDataError::Damaged)
-            replaceDamaged();
+        // A fresh start knows nothing of what went wrong.
+        m_database.reset();
+        if (error.kind() == UserDataError::Damaged && replaceDamaged())
+            return attempt(task);
+        m_unusable = error.kind() != UserDataError::Failed;
     } catch (const std::exception &error) {
         logOnce(QString::fromLocal8Bit(error.what()));
     }
@@ -172,19 +190,36 @@ void UserDataStore::logOnce(const QString &failure)
     m_failure = failure;
 }
 
-void UserDataStore::replaceDamaged()
+/** Whoever has removed the file shall not have what is edited from now on go nowhere. */
+void UserDataStore::noticeLoss()
 {
+    if (!m_database)
+        return;
+    const FileStamp now = FileStamp::of(m_path);
+    const bool other =
+        now.exists() && (now.inode != m_opened.inode || now.device != m_opened.device);
+    if (!other && !FileStamp::isMissing(m_path))
+        return;
     m_database.reset();
+    m_tasksDropped = true;
+}
+
+/** Moves the file out of the way; false when it would be found damaged again and again. */
+bool UserDataStore::replaceDamaged()
+{
+    if (std::exchange(m_replaced, true))
+        return false;
     const QFileInfo file(m_path);
     const QString stem = file.path() + QLatin1Char('/') + file.completeBaseName() +
                          QStringLiteral(".damaged-") +
                          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString aside = stem + QLatin1Char('.') + file.suffix();
-    for (int i = 2; !FileStamp::isMissing(aside); ++i)
+    for (int i = 2; FileStamp::of(aside).exists(); ++i)
         aside = QStringLiteral("%1-%2.%3").arg(stem).arg(i).arg(file.suffix());
-    // What cannot be moved out of the way would be found damaged again and again.
-    m_unusable = !QFile::rename(m_path, aside);
+    if (!QFile::rename(m_path, aside))
+        return false;
     // It belongs to the file that was there.
     QFile::remove(m_path + QStringLiteral("-journal"));
     m_tasksDropped = true;
+    return true;
 }

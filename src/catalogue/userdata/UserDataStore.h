@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/files/FileStamp.h"
 #include "catalogue/userdata/UserData.h"
 
 #include <chrono>
@@ -42,10 +43,16 @@ public:
     /** Brings the store into line with the catalogue file; @p all tells every design. */
     void adopt(const UserDataChanges &all, const std::shared_future<QByteArray> &catalogue);
 
+    /** The same, unless edits were made on this very file: those are told then. */
+    void adoptOther(const UserDataChanges &all, const std::shared_future<QByteArray> &catalogue);
+
     /** Forgets all designs that are not in the catalogue. */
     void forgetAbsentDesigns();
 
-    /** The edits that were made on this catalogue file and not saved; none if it was another. */
+    /**
+     * The edits that were made on this catalogue file and not saved; none if it was another,
+     * or if that cannot be told for now.
+     */
     std::optional<UserDataChanges> unsavedOf(const std::shared_future<QByteArray> &catalogue);
 
     /** The lists of tags and folders as they were last. */
@@ -57,6 +64,9 @@ public:
     int absentDesigns();
 
 signals:
+    /** Edits on the catalogue file of adoptOther() that were not saved. */
+    void unsavedFound(const UserDataChanges &edits);
+
     /** Something was lost on the way: the store is to be told again all there is. */
     void snapshotWanted();
 
@@ -70,7 +80,8 @@ private:
     void work();
     bool attempt(const Task &task);
     void logOnce(const QString &failure);
-    void replaceDamaged();
+    void noticeLoss();
+    bool replaceDamaged();
 
     QString m_path;
     QThread m_thread;
@@ -78,8 +89,10 @@ private:
     QObject m_worker;
     QTimer m_retryTimer;
     std::unique_ptr<UserDataDatabase> m_database;
+    FileStamp m_opened;
     std::deque<Task> m_tasks;
     QString m_failure;
     bool m_tasksDropped = false;
+    bool m_replaced = false; ///< once is enough: what is damaged anew is no accident
     bool m_unusable = false;
 };
