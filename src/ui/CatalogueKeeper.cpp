@@ -153,6 +153,18 @@ void CatalogueKeeper::tellKept()
     }
 }
 
+void CatalogueKeeper::tellStart(bool folderWasMissing)
+{
+    tellKept();
+    if (m_controller->hasRecoveredEdits())
+        m_notices->tell({QStringLiteral("recovered"),
+                         Notice::Information,
+                         tr("Changes that had not been saved when the program ended are back."),
+                         {}});
+    if (folderWasMissing)
+        tellFolderWasMissing();
+}
+
 void CatalogueKeeper::tellFolderWasMissing()
 {
     const QString folder = QFileInfo(m_controller->projectFilePath()).path();

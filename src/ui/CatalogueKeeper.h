@@ -43,8 +43,11 @@ public:
     /** Tells what had to give way since the last time. */
     void tellKept();
 
-    /** Tells that the folder of the catalogue was missing and had to be made anew. */
-    void tellFolderWasMissing();
+    /**
+     * Tells what had to be done when the catalogue was loaded.
+     * @param folderWasMissing whether its folder had to be made anew
+     */
+    void tellStart(bool folderWasMissing);
 
     /**
      * Saves what is modified, and asks the user what to do as long as that fails. False when
@@ -54,6 +57,7 @@ public:
 
 private:
     QString trySave();
+    void tellFolderWasMissing();
     void tellUnreadable(const QString &reason);
     void withdrawWhatIsRight();
     void retryLater(std::chrono::milliseconds lastAttempt);

@@ -17,7 +17,6 @@
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/PreviewBrowser.h"
 #include "ui/CatalogueKeeper.h"
-#include "ui/CatalogueQuestions.h"
 #include "ui/CenterView.h"
 #include "ui/FolderChangeNotice.h"
 #include "ui/LeftSidebar.h"
@@ -100,9 +99,7 @@ MainWindow::MainWindow() : GMainWindow(nullptr, false)
         updateUI();
     else
         filter()->setDirectory(folders.first());
-    m_keeper->tellKept();
-    if (folderWasMissing)
-        m_keeper->tellFolderWasMissing();
+    m_keeper->tellStart(folderWasMissing);
 }
 
 MainWindow::~MainWindow()
@@ -117,34 +114,6 @@ MainWindow::~MainWindow()
 }
 
 /** True when the folder of the catalogue was missing though it should have been there. */
-bool MainWindow::loadCatalogue(QWidget *splash)
-{
-    bool folderWasMissing = false;
-    const auto ask = [splash](const Error &error) {
-        // It would lie over the question.
-        splash->hide();
-        if (!CatalogueQuestions::wantsToTryAgain(error))
-            throw AbortException();
-        splash->show();
-    };
-    for (;;) {
-        m_controller = std::make_unique<ProjectController>();
-        try {
-            m_controller->loadOrCreateProject();
-            return folderWasMissing;
-        } catch (const CatalogueFolderMissingError &error) {
-            // Where drives are mounted, the user may seldom make a folder.
-            folderWasMissing = QDir().mkpath(GlobalSettings().applicationDataPath());
-            if (!folderWasMissing)
-                ask(error);
-        } catch (const CatalogueUnusableError &error) {
-            ask(error);
-        } catch (const CatalogueUnsavedError &error) {
-            ask(error);
-        }
-    }
-}
-
 IFilterModel *MainWindow::filter() const
 {
     return m_controller->selectionModel()->filter();
@@ -231,18 +200,6 @@ void MainWindow::readSettings(GSettings &settings)
     m_rightPanelAction->setChecked(settings.value(rightPanelKey(), true).toBool());
     m_left->restoreWidgetState(settings);
     m_right->restoreWidgetState(settings);
-}
-
-bool MainWindow::confirmClose()
-{
-    finishEdit();
-    return m_keeper->saveBeforeEnd();
-}
-
-bool MainWindow::saveForSessionEnd()
-{
-    finishEdit();
-    return m_keeper->saveAnyway();
 }
 
 void MainWindow::cancelWork()

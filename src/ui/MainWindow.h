@@ -22,6 +22,7 @@ class TransferNotice;
 class SavedSearches;
 class StatusLine;
 class ScanNotice;
+class UserDataMemory;
 
 /** The one window of the product: owns the catalogue's controller and turns commands into calls. */
 class MainWindow : public GMainWindow
@@ -49,6 +50,9 @@ public:
     bool loadFile(const QString &name) override;
     bool saveFile(const QString &name) override;
     bool isModified() const override;
+
+    /** What is known of designs that are not in the catalogue; of the window. */
+    UserDataMemory *memory() const;
 
     /** Shows designs in the grid and offers folders that the catalogue does not know. */
     void showPaths(const QStringList &paths) override;

@@ -1,0 +1,56 @@
+// What MainWindow does with the catalogue as a whole.
+
+#include "base/GlobalSettings.h"
+#include "catalogue/records/CatalogueErrors.h"
+#include "catalogue/sync/ProjectController.h"
+#include "ui/CatalogueKeeper.h"
+#include "ui/CatalogueQuestions.h"
+#include "ui/MainWindow.h"
+
+#include <QDir>
+#include <QSplashScreen>
+
+bool MainWindow::loadCatalogue(QWidget *splash)
+{
+    bool folderWasMissing = false;
+    const auto ask = [splash](const Error &error) {
+        // It would lie over the question.
+        splash->hide();
+        if (!CatalogueQuestions::wantsToTryAgain(error))
+            throw AbortException();
+        splash->show();
+    };
+    for (;;) {
+        m_controller = std::make_unique<ProjectController>();
+        try {
+            m_controller->loadOrCreateProject();
+            return folderWasMissing;
+        } catch (const CatalogueFolderMissingError &error) {
+            // Where drives are mounted, the user may seldom make a folder.
+            folderWasMissing = QDir().mkpath(GlobalSettings().applicationDataPath());
+            if (!folderWasMissing)
+                ask(error);
+        } catch (const CatalogueUnusableError &error) {
+            ask(error);
+        } catch (const CatalogueUnsavedError &error) {
+            ask(error);
+        }
+    }
+}
+
+UserDataMemory *MainWindow::memory() const
+{
+    return m_controller->memory();
+}
+
+bool MainWindow::confirmClose()
+{
+    finishEdit();
+    return m_keeper->saveBeforeEnd();
+}
+
+bool MainWindow::saveForSessionEnd()
+{
+    finishEdit();
+    return m_keeper->saveAnyway();
+}
