@@ -62,8 +62,10 @@ static void initializeProduct()
         lock.tryLock();
         return window;
     });
-    HooplineApplication::setPreferencesPresenter(
-        [](QWidget *parent) { PreferencesDialog(parent).exec(); });
+    HooplineApplication::setPreferencesPresenter([](QWidget *parent) {
+        const auto *window = qobject_cast<MainWindow *>(parent);
+        PreferencesDialog(parent, window ? window->memory() : nullptr).exec();
+    });
 }
 
 namespace {

@@ -3,21 +3,24 @@
 #include "app/application/HooplineApplication.h"
 #include "base/BuildConfig.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/userdata/UserDataMemory.h"
 #include "online/AutoUpdater.h"
 #include "online/metrics/Metrics.h"
 #include "ui_PreferencesDialog.h"
+#include "widgets/controls/GMessageBox.h"
 
 #include <QDesktopServices>
 #include <QUrl>
 
-PreferencesDialog::PreferencesDialog(QWidget *parent)
-    : QDialog(parent, Qt::Sheet), m_ui(std::make_unique<Ui::PreferencesDialog>())
+PreferencesDialog::PreferencesDialog(QWidget *parent, UserDataMemory *memory)
+    : QDialog(parent, Qt::Sheet), m_ui(std::make_unique<Ui::PreferencesDialog>()), m_memory(memory)
 {
     m_ui->setupUi(this);
     GlobalSettings settings;
     m_ui->appDataDirectory->setText(settings.applicationDataPath());
     m_ui->appDataDirectory->setCursorPosition(0);
     m_ui->useImperialUnits->setChecked(settings.imperialUnits());
+    updateAbsentDesigns();
     updatePrivacyTab();
 }
 
@@ -47,6 +50,34 @@ void PreferencesDialog::on_useImperialUnits_clicked(bool checked)
 void PreferencesDialog::on_openAppDataDirectory_clicked()
 {
     QDesktopServices::openUrl(QUrl(QStringLiteral("file:///") + m_ui->appDataDirectory->text()));
+}
+
+void PreferencesDialog::updateAbsentDesigns()
+{
+    m_ui->absentDesignsLabel->setVisible(m_memory);
+    m_ui->forgetAbsentDesigns->setVisible(m_memory);
+    if (!m_memory)
+        return;
+    const int designs = m_memory->absentDesigns();
+    m_ui->absentDesignsLabel->setText(
+        designs > 0 ? tr("The tags, notes and stars of %n design(s) that left the catalogue are "
+                         "remembered. Designs that come back get them back.",
+                         nullptr, designs)
+                    : tr("The tags, notes and stars of designs that leave the catalogue are "
+                         "remembered. For now there are none."));
+    m_ui->forgetAbsentDesigns->setEnabled(designs > 0);
+}
+
+void PreferencesDialog::on_forgetAbsentDesigns_clicked()
+{
+    const auto answer = GMessageBox::question(
+        tr("Do you want to forget the tags, notes and stars of %n design(s)?", nullptr,
+           m_memory->absentDesigns()),
+        tr("This cannot be undone. Designs in the catalogue keep theirs."), this);
+    if (answer != QMessageBox::Yes)
+        return;
+    m_memory->forgetAbsentDesigns();
+    updateAbsentDesigns();
 }
 
 void PreferencesDialog::on_autoUpdatesCheckBox_clicked(bool checked)

@@ -2,8 +2,12 @@
 #include "app/TestWindow.h"
 #include "base/BuildConfig.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/records/File.h"
+#include "catalogue/records/Project.h"
+#include "catalogue/userdata/UserDataMemory.h"
 #include "online/AutoUpdater.h"
 #include "online/metrics/Metrics.h"
+#include "support/MessageBoxes.h"
 #include "ui/PreferencesDialog.h"
 
 #include <QCheckBox>
@@ -12,6 +16,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QtTest>
 
 class tst_preferences : public QObject
@@ -25,6 +30,8 @@ private slots:
     void appliesTracking();
     void showsTheRealIdentifier();
     void textIsNotClipped();
+    void forgetsAbsentDesigns_data();
+    void forgetsAbsentDesigns();
 
 private:
     template <typename T>
@@ -95,6 +102,42 @@ void tst_preferences::showsTheRealIdentifier()
     QVERIFY(label->text().contains(QStringLiteral("Random user indentifier (%1)").arg(identifier)));
     QVERIFY(label->text().contains(
         QStringLiteral("href=\"%1\"").arg(QLatin1String(BuildConfig::PrivacyUrl))));
+}
+
+void tst_preferences::forgetsAbsentDesigns_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("left");
+
+    QTest::newRow("no") << int(QMessageBox::No) << 1;
+    QTest::newRow("yes") << int(QMessageBox::Yes) << 0;
+}
+
+void tst_preferences::forgetsAbsentDesigns()
+{
+    QFETCH(int, button);
+    QFETCH(int, left);
+    const QTemporaryDir folder;
+    const auto project = QSharedPointer<Project>::create();
+    const auto file = QSharedPointer<File>::create(project.data());
+    file->setAbsoluteFilePath(QStringLiteral("/designs/rose.dst"));
+    file->setContentHash(QByteArray(16, 'h'));
+    file->setNotes(QStringLiteral("years of evenings"));
+    project->setFiles({file});
+    UserDataMemory memory(project, folder.filePath(QStringLiteral("user-data.sqlite")));
+    memory.adopt(std::async(std::launch::deferred, [] { return QByteArray("hash"); }).share());
+    project->setFiles({});
+
+    PreferencesDialog dialog(nullptr, &memory);
+    auto *forget = child<QPushButton>(dialog, "forgetAbsentDesigns");
+    const auto *label = child<QLabel>(dialog, "absentDesignsLabel");
+    QVERIFY2(label->text().contains(QLatin1Char('1')), qPrintable(label->text()));
+    MessageBoxes boxes{QMessageBox::StandardButton(button)};
+    forget->click();
+    QCOMPARE(boxes.count(), 1);
+    QCOMPARE(memory.absentDesigns(), left);
+    QCOMPARE(forget->isEnabled(), left > 0);
+    QCOMPARE(label->text().contains(QLatin1Char('1')), left > 0);
 }
 
 void tst_preferences::textIsNotClipped()

@@ -122,6 +122,10 @@
         <source>Save a copy...</source>
         <translation>Kopie sichern …</translation>
     </message>
+    <message>
+        <source>Changes that had not been saved when the program ended are back.</source>
+        <translation>Änderungen, die beim Ende des Programms noch nicht gesichert waren, sind wieder da.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogueQuestions</name>
@@ -1800,6 +1804,32 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Forget…</source>
+        <translation>Vergessen…</translation>
+    </message>
+    <message numerus="yes">
+        <source>The tags, notes and stars of %n design(s) that left the catalogue are remembered. Designs that come back get them back.</source>
+        <translation>
+            <numerusform>Die Schlagwörter, Notizen und Sterne von %n Stickmuster, das den Katalog verlassen hat, sind aufgehoben. Wenn es wiederkommt, bekommt es sie zurück.</numerusform>
+            <numerusform>Die Schlagwörter, Notizen und Sterne von %n Stickmustern, die den Katalog verlassen haben, sind aufgehoben. Wenn sie wiederkommen, bekommen sie sie zurück.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The tags, notes and stars of designs that leave the catalogue are remembered. For now there are none.</source>
+        <translation>Die Schlagwörter, Notizen und Sterne von Stickmustern, die den Katalog verlassen, werden aufgehoben. Zurzeit gibt es keine.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to forget the tags, notes and stars of %n design(s)?</source>
+        <translation>
+            <numerusform>Sollen die Schlagwörter, Notizen und Sterne von %n Stickmuster vergessen werden?</numerusform>
+            <numerusform>Sollen die Schlagwörter, Notizen und Sterne von %n Stickmustern vergessen werden?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This cannot be undone. Designs in the catalogue keep theirs.</source>
+        <translation>Das lässt sich nicht rückgängig machen. Stickmuster im Katalog behalten ihre.</translation>
     </message>
 </context>
 <context>

@@ -181,6 +181,23 @@
     </message>
 </context>
 <context>
+    <name>PreferencesDialog</name>
+    <message numerus="yes">
+        <source>The tags, notes and stars of %n design(s) that left the catalogue are remembered. Designs that come back get them back.</source>
+        <translation>
+            <numerusform>The tags, notes and star of %n design that left the catalogue are remembered. Designs that come back get them back.</numerusform>
+            <numerusform>The tags, notes and stars of %n designs that left the catalogue are remembered. Designs that come back get them back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to forget the tags, notes and stars of %n design(s)?</source>
+        <translation>
+            <numerusform>Do you want to forget the tags, notes and star of %n design?</numerusform>
+            <numerusform>Do you want to forget the tags, notes and stars of %n designs?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PropertiesBox</name>
     <message numerus="yes">
         <source>%n files selected</source>

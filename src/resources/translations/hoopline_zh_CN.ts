@@ -121,6 +121,10 @@
         <source>Save a copy...</source>
         <translation>保存副本…</translation>
     </message>
+    <message>
+        <source>Changes that had not been saved when the program ended are back.</source>
+        <translation>程序结束时尚未保存的更改已恢复。</translation>
+    </message>
 </context>
 <context>
     <name>CatalogueQuestions</name>
@@ -1780,6 +1784,30 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Ok</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>Forget…</source>
+        <translation>忘记…</translation>
+    </message>
+    <message numerus="yes">
+        <source>The tags, notes and stars of %n design(s) that left the catalogue are remembered. Designs that come back get them back.</source>
+        <translation>
+            <numerusform>已记住 %n 个离开目录的花样的标签、备注和收藏。花样回到目录时会恢复这些内容。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The tags, notes and stars of designs that leave the catalogue are remembered. For now there are none.</source>
+        <translation>离开目录的花样的标签、备注和收藏会被记住。目前没有。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to forget the tags, notes and stars of %n design(s)?</source>
+        <translation>
+            <numerusform>要忘记 %n 个花样的标签、备注和收藏吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This cannot be undone. Designs in the catalogue keep theirs.</source>
+        <translation>此操作无法撤销。目录中的花样不受影响。</translation>
     </message>
 </context>
 <context>
