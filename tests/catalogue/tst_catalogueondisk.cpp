@@ -1,3 +1,4 @@
+#include "catalogue/backups/BackupFolder.h"
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/IFile.h"
 #include "catalogue/sync/ProjectController.h"
@@ -134,7 +135,7 @@ void TestCatalogueOnDisk::keepsADamagedCatalogue()
     const QRegularExpression name("^hoopline-organizer\\.damaged-\\d{8}-\\d{6}\\.xml$");
     QVERIFY2(name.match(QFileInfo(kept.first().file).fileName()).hasMatch(),
              qPrintable(kept.first().file));
-    QCOMPARE(CatalogueFolder::read(kept.first().file), damagedCatalogue);
+    QCOMPARE(BackupFolder::read(kept.first().file), damagedCatalogue);
     QCOMPARE(m_controller->project()->files().first()->notes(), QString("precious"));
 
     ProjectController again;
@@ -147,7 +148,7 @@ void TestCatalogueOnDisk::keepsADamagedCatalogue()
         again.loadOrCreateProject();
     }
     QCOMPARE(dataFiles().size(), 3);
-    QCOMPARE(CatalogueFolder::read(kept.first().file), damagedCatalogue);
+    QCOMPARE(BackupFolder::read(kept.first().file), damagedCatalogue);
 }
 
 void TestCatalogueOnDisk::replacesNothingThatItCannotKeep()
@@ -203,7 +204,7 @@ void TestCatalogueOnDisk::keepsEditsBeforeItTakesOverAnother()
     const auto kept = m_controller->takeKept();
     QCOMPARE(kept.size(), 1);
     QCOMPARE(kept.first().fate, CatalogueFile::Unsaved);
-    QVERIFY(CatalogueFolder::read(kept.first().file).contains("edited"));
+    QVERIFY(BackupFolder::read(kept.first().file).contains("edited"));
     // Without such edits nothing has to be kept.
     put(catalogueWith("third"), 5);
     m_controller->reloadProjectIfNewerOnDisk();
@@ -241,7 +242,7 @@ void TestCatalogueOnDisk::outlivesDamageFromOutside()
     QVERIFY(!isModified());
     QVERIFY(saved().contains("<string>whole</string>"));
     const auto kept = m_controller->takeKept();
-    QCOMPARE(CatalogueFolder::read(kept.last().file), bytes);
+    QCOMPARE(BackupFolder::read(kept.last().file), bytes);
 }
 
 void TestCatalogueOnDisk::keepsWhatStandsInTheWayOfASave_data()
@@ -280,7 +281,7 @@ void TestCatalogueOnDisk::keepsWhatStandsInTheWayOfASave()
     const auto kept = m_controller->takeKept();
     QCOMPARE(kept.size(), 1);
     QCOMPARE(int(kept.first().fate), fate);
-    QCOMPARE(CatalogueFolder::read(kept.first().file), bytes);
+    QCOMPARE(BackupFolder::read(kept.first().file), bytes);
     // What it has written itself, it needs not keep.
     m_controller->project()->addTag("again");
     QFile(path()).setFileTime(QDateTime::currentDateTime().addDays(-1),

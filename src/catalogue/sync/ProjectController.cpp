@@ -16,6 +16,7 @@
 #include "preview/cache/PreviewCache.h"
 #include "properties/changes/BulkOperation.h"
 #include "properties/undo/GUndoStack.h"
+#include <QDateTime>
 #include <QFileInfo>
 #include <QSet>
 #include <utility>
@@ -41,7 +42,8 @@ Files newcomers(const Files &before, const Files &after)
 } // namespace
 
 ProjectController::ProjectController()
-    : m_listener(&emptyProgressListener), m_file(GlobalSettings().catalogueFilePath())
+    : m_listener(&emptyProgressListener), m_file(GlobalSettings().catalogueFilePath()),
+      m_backups(BackupFolder::pathBeside(m_file.path()))
 {
 }
 
@@ -73,7 +75,8 @@ void ProjectController::loadOrCreateProject()
     }
     openMemory();
     m_memory->restoreLists();
-    saveProject();
+    // A damaged catalogue is kept already, and must not displace a good backup.
+    writeProject();
     m_memory->adopt(m_file.lastSeenDigest());
 }
 
@@ -126,6 +129,12 @@ void ProjectController::saveProjectIfModified()
 void ProjectController::saveProject()
 {
     keepWhatOthersWrote();
+    backUp();
+    writeProject();
+}
+
+void ProjectController::writeProject()
+{
     if (m_memory)
         m_memory->collect();
     m_file.write(DataModelWriter().toBytes(m_project.data()));
@@ -141,12 +150,61 @@ void ProjectController::keepWhatOthersWrote()
         const QByteArray bytes = m_file.peek();
         if (m_file.isLastSeen(bytes))
             return;
-        keep(bytes, isWhole(bytes) ? CatalogueFile::Replaced : CatalogueFile::Damaged);
+        keepAside(bytes, isWhole(bytes) ? CatalogueFile::Replaced : CatalogueFile::Damaged);
     } catch (const ErrorDoesNotExist &) {
         // It was removed; what is in memory takes its place.
     } catch (const CatalogueUnusableError &error) {
         throw CatalogueUnsavedError(error.toString(), error.toString());
     }
+}
+
+/** Among the backups; beside the catalogue where that fails, and what is no whole catalogue. */
+void ProjectController::keepAside(const QByteArray &bytes, CatalogueFile::Fate fate)
+{
+    QString backup;
+    tryBackup([&] { backup = m_backups.keepMoment(bytes, QDateTime::currentDateTime()); });
+    if (backup.isEmpty() || fate == CatalogueFile::Damaged)
+        keep(bytes, fate);
+    else
+        m_kept.append({fate, backup, -1});
+}
+
+void ProjectController::backUp()
+{
+    const QDate today = QDate::currentDate();
+    // What somebody else wrote is kept already, and may be no whole catalogue.
+    if (!m_file.lastSeen().exists() || !m_file.isAsLastSeen() || m_backups.hasDay(today))
+        return;
+    tryBackup([&] { m_backups.keepDay(m_file.peek(), today); });
+}
+
+/** Without a backup the save goes on: what was edited last is what would be missed most. */
+void ProjectController::tryBackup(const std::function<void()> &backup)
+{
+    m_backupFailure.clear();
+    try {
+        backup();
+    } catch (const ErrorDoesNotExist &) {
+        // There is nothing to be kept.
+    } catch (const Error &error) {
+        m_backupFailure = error.toString();
+        gWarning("ProjectController") << QLatin1Char('"') + m_backupFailure + QLatin1Char('"');
+    }
+}
+
+QString ProjectController::restore(const QString &backup)
+{
+    DataModelReader reader;
+    reader.parse(m_project.data(), BackupFolder::read(backup), backup);
+    if (m_memory)
+        m_memory->collect();
+    const QByteArray present = DataModelWriter().toBytes(m_project.data());
+    QString kept = m_backups.keepMoment(present, QDateTime::currentDateTime());
+    replaceContents(reader, present);
+    m_project->undoStack()->resetClean();
+    PreviewCache::instance().clear();
+    saveProjectIfModified();
+    return kept;
 }
 
 void ProjectController::saveCopy(const QString &path) const
@@ -195,7 +253,16 @@ void ProjectController::reload(const QByteArray &bytes)
     const bool modified = isModified();
     const QByteArray present = DataModelWriter().toBytes(m_project.data());
     if (modified)
-        keep(present, CatalogueFile::Unsaved);
+        keepAside(present, CatalogueFile::Unsaved);
+    replaceContents(reader, present);
+    if (m_memory)
+        m_memory->adopt(m_file.lastSeenDigest());
+}
+
+/** Takes over what was read; the project is as it was, @p present, when it is faulty. */
+void ProjectController::replaceContents(DataModelReader &reader, const QByteArray &present)
+{
+    const bool modified = isModified();
     try {
         reader.fill();
     } catch (...) {
@@ -204,8 +271,6 @@ void ProjectController::reload(const QByteArray &bytes)
             m_project->undoStack()->resetClean();
         throw;
     }
-    if (m_memory)
-        m_memory->adopt(m_file.lastSeenDigest());
 }
 
 void ProjectController::keep(const QByteArray &bytes, CatalogueFile::Fate fate, int designs)

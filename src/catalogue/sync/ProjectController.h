@@ -2,18 +2,22 @@
 
 #include "base/IProgressAbortListener.h"
 #include "base/UsageEventSink.h"
+#include "catalogue/backups/BackupFolder.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/CatalogueFile.h"
 #include "catalogue/sync/ScanReport.h"
 #include "catalogue/sync/SyncCounts.h"
 #include "catalogue/userdata/UserDataMemory.h"
+#include <functional>
 #include <memory>
 #include <QCoreApplication>
 #include <QList>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
+
+class DataModelReader;
 
 /**
  * Owns the one catalogue of the program and decides when it is loaded, saved,
@@ -108,6 +112,21 @@ public:
     /** What had to give way since the last call. */
     QList<Kept> takeKept();
 
+    /** The backups of the catalogue, beside it. */
+    const BackupFolder &backups() const { return m_backups; }
+
+    /** Why no backup could be made when it was due; empty when all is well. */
+    QString backupFailure() const { return m_backupFailure; }
+
+    /**
+     * Puts what is in a backup, or in a copy of a catalogue, into the place of the catalogue
+     * and saves it. What was there is kept among the backups, in the file returned.
+     * @throws Error when the file is no whole catalogue of a version that is known, or the
+     *         present state could not be kept: then nothing has changed
+     * @throws CatalogueUnsavedError when it cannot be saved; it is shown and counts as modified
+     */
+    QString restore(const QString &backup);
+
     /** Adds smart folders, given by absolute path, and scans. @throws Error as the scan */
     void addDirectories(const QStringList &directories);
 
@@ -141,6 +160,11 @@ private:
     void recoverProject();
     void saveProject();
     void keepWhatOthersWrote();
+    void keepAside(const QByteArray &bytes, CatalogueFile::Fate fate);
+    void backUp();
+    void tryBackup(const std::function<void()> &backup);
+    void writeProject();
+    void replaceContents(DataModelReader &reader, const QByteArray &present);
     bool isWhole(const QByteArray &bytes) const;
     void reload(const QByteArray &bytes);
     void keep(const QByteArray &bytes, CatalogueFile::Fate fate, int designs = -1);
@@ -149,6 +173,8 @@ private:
     IProgressAbortListener *m_listener;
     UsageEventSink m_usage;
     CatalogueFile m_file;
+    BackupFolder m_backups;
+    QString m_backupFailure;
     FileStamp m_damaged; ///< that of a newer catalogue that was no whole one
     std::unique_ptr<FilterSelectionModel> m_selectionModel;
     std::unique_ptr<UserDataMemory> m_memory;
