@@ -1,6 +1,7 @@
 #include "cli/Command.h"
 
 #include "base/Spelling.h"
+#include "cli/BackupCommand.h"
 #include "cli/CatalogueChoice.h"
 #include "cli/CommandError.h"
 #include "cli/CompletionsCommand.h"
@@ -12,6 +13,7 @@
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/NoteCommand.h"
+#include "cli/RestoreCommand.h"
 #include "cli/ScanCommand.h"
 #include "cli/TagCommand.h"
 #include "cli/ThumbnailsCommand.h"
@@ -52,6 +54,8 @@ Commands allCommands()
     commands.push_back(std::make_unique<FavoriteCommand>());
     commands.push_back(std::make_unique<ExportCommand>());
     commands.push_back(std::make_unique<ImportCommand>());
+    commands.push_back(std::make_unique<BackupCommand>());
+    commands.push_back(std::make_unique<RestoreCommand>());
     commands.push_back(std::make_unique<CompletionsCommand>());
     return commands;
 }

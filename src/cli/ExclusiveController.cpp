@@ -4,6 +4,7 @@
 #include "catalogue/sync/DataFolder.h"
 #include "cli/CatalogueChoice.h"
 #include "cli/CommandError.h"
+#include "cli/Console.h"
 #include <QFile>
 #include <QFileInfo>
 
@@ -63,12 +64,20 @@ void ExclusiveController::saveProjectIfModified()
                            tr("The catalogue was changed meanwhile. Nothing was saved."));
     if (m_lock.isHeld()) {
         // An organiser that was started meanwhile waits for the lock.
-        ProjectController::saveProjectIfModified();
+        save();
         return;
     }
     const OrganiserGuard guard;
     if (isOrganiserRunning(guard))
         throw CommandError(CatalogueInUse,
                            tr("Hoopline Organizer was started meanwhile. Nothing was saved."));
+    save();
+}
+
+void ExclusiveController::save()
+{
     ProjectController::saveProjectIfModified();
+    if (!backupFailure().isEmpty())
+        Console::reportError(
+            tr("No backup of the catalogue could be made: %1").arg(backupFailure()));
 }

@@ -34,5 +34,7 @@ protected:
     static bool isOrganiserRunning(const OrganiserGuard &guard);
 
 private:
+    void save();
+
     FileLock m_lock;
 };

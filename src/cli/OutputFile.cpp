@@ -45,12 +45,13 @@ void OutputFile::check(const QString &name, const QStringList &sources, bool rep
         throw Error(tr("'%1' exists; --force replaces it").arg(name));
 }
 
-void OutputFile::write(const QString &name, const QByteArray &bytes)
+void OutputFile::write(const QString &name, const QByteArray &bytes,
+                       FileReplacement::Durability durability, FileReplacement::Access access)
 {
     const QString path = LocalPath::of(name);
     const QString folder = QFileInfo(path).path();
     // A folder that is made by mistake would be harder to find than an error.
     if (!QFileInfo::exists(folder))
         throw Error(tr("Failed to write %1: the folder '%2' is not there").arg(name, folder));
-    FileTools::writeAll(path, bytes, FileTools::Binary, FileReplacement::UntilRestart);
+    FileTools::writeAll(path, bytes, FileTools::Binary, durability, access);
 }

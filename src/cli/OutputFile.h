@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/files/FileReplacement.h"
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
@@ -17,5 +18,7 @@ public:
     static void check(const QString &name, const QStringList &sources, bool replace);
 
     /** @throws Error when the file cannot be written; what was there before stays then */
-    static void write(const QString &name, const QByteArray &bytes);
+    static void write(const QString &name, const QByteArray &bytes,
+                      FileReplacement::Durability durability = FileReplacement::UntilRestart,
+                      FileReplacement::Access access = FileReplacement::AsBefore);
 };

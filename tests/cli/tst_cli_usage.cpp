@@ -35,6 +35,8 @@ void CliUsageTest::answersHelp_data()
     QTest::newRow("scan") << QStringList{"scan", "--help"};
     QTest::newRow("inspect") << QStringList{"inspect", "--help"};
     QTest::newRow("list") << QStringList{"list", "--help"};
+    QTest::newRow("backup") << QStringList{"backup", "--help"};
+    QTest::newRow("restore") << QStringList{"restore", "--help"};
     QTest::newRow("behind other arguments") << QStringList{"inspect", "a.dst", "--json", "--help"};
 }
 
@@ -72,6 +74,9 @@ void CliUsageTest::refusesWrongUsage_data()
     QTest::newRow("mistake in the search") << QStringList{"list", "--search", "rose fits:1x"};
     QTest::newRow("unfinished search") << QStringList{"list", "--search", "tag:"};
     QTest::newRow("unknown order") << QStringList{"list", "--sort", "beauty"};
+    QTest::newRow("two backups") << QStringList{"backup", "a", "b"};
+    QTest::newRow("restore nothing") << QStringList{"restore"};
+    QTest::newRow("restore two") << QStringList{"restore", "a", "b"};
     QTest::newRow("empty folder") << QStringList{"list", "--folder", ""};
     QTest::newRow("count and files") << QStringList{"list", "--count", "-0"};
     QTest::newRow("unknown field") << QStringList{"list", "--format", "{nmae}"};
