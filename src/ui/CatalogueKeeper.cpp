@@ -20,6 +20,7 @@ constexpr int LeastPause = 20; // times as long as the last attempt
 
 const QString Unsaved = QStringLiteral("unsaved");
 const QString Unreadable = QStringLiteral("unreadable");
+const QString NoBackup = QStringLiteral("no backup");
 
 /** Why @p attempt has failed; null when it has not. */
 template <class Attempt>
@@ -147,10 +148,40 @@ void CatalogueKeeper::tellKept()
         m_notices->tell({catalogue.file,
                          Notice::Information,
                          text,
-                         {{DesktopInteraction::revealActionTextString(), [file = catalogue.file] {
-                               DesktopInteraction::revealInFinder(file);
-                           }}}});
+                         {{DesktopInteraction::revealActionTextString(),
+                           [file = catalogue.file] { DesktopInteraction::revealInFinder(file); }},
+                          backupsAction()}});
     }
+    tellBackupFailure();
+}
+
+Notice::Action CatalogueKeeper::backupsAction()
+{
+    return {tr("Backups…"), [this] { emit backupsWanted(); }};
+}
+
+void CatalogueKeeper::tellBackupFailure()
+{
+    const QString failure = m_controller->backupFailure();
+    if (failure == m_backupFailure)
+        return;
+    m_backupFailure = failure;
+    if (failure.isEmpty())
+        m_notices->withdraw(NoBackup);
+    else
+        m_notices->tell({NoBackup,
+                         Notice::Information,
+                         tr("No backup of the catalogue could be made: %1").arg(failure),
+                         {}});
+}
+
+void CatalogueKeeper::tellRestored(const QString &title)
+{
+    m_notices->tell(
+        {QStringLiteral("restored"),
+         Notice::Information,
+         tr("The backup of %1 was restored. What was there before is kept as a backup.").arg(title),
+         {backupsAction()}});
 }
 
 void CatalogueKeeper::tellStart(bool folderWasMissing)

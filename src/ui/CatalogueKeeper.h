@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Notice.h"
+
 #include <chrono>
 #include <QObject>
 #include <QString>
@@ -40,8 +42,11 @@ public:
     /** Tells of a save that somebody else has tried. */
     void tellUnsaved(const QString &reason);
 
-    /** Tells what had to give way since the last time. */
+    /** Tells what had to give way since the last time, and why there is no backup of today. */
     void tellKept();
+
+    /** Tells that a backup has taken the place of the catalogue. @param title its name */
+    void tellRestored(const QString &title);
 
     /**
      * Tells what had to be done when the catalogue was loaded.
@@ -55,8 +60,14 @@ public:
      */
     bool saveBeforeEnd();
 
+signals:
+    /** The user wants to see the backups. */
+    void backupsWanted();
+
 private:
     QString trySave();
+    void tellBackupFailure();
+    Notice::Action backupsAction();
     void tellFolderWasMissing();
     void tellUnreadable(const QString &reason);
     void withdrawWhatIsRight();
@@ -71,4 +82,5 @@ private:
     QTimer m_retryTimer;
     bool m_paused = false;
     bool m_givenUp = false;
+    QString m_backupFailure; ///< as told last
 };

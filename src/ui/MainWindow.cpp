@@ -144,6 +144,7 @@ void MainWindow::createPanes()
     m_center = new CenterView(this, m_project, model);
     m_right = new RightSidebar(this, m_project, model->selection());
     m_keeper = std::make_unique<CatalogueKeeper>(m_controller.get(), m_notices, this);
+    connect(m_keeper.get(), &CatalogueKeeper::backupsWanted, this, &MainWindow::showBackups);
     m_splitter->addWidget(m_left);
     m_splitter->addWidget(m_center);
     m_splitter->addWidget(m_right);

@@ -66,6 +66,8 @@ public slots:
     void addDirectory();
     void rescanDirectories();
     void exportSelectedFiles();
+    /** Lists the backups of the catalogue and restores the one that is chosen. */
+    void showBackups();
     void findDuplicates();
 
 protected:
@@ -77,6 +79,7 @@ protected:
 
 private:
     bool loadCatalogue(QWidget *splash);
+    bool restore(const QString &backup);
     void createPanes();
     void createActions();
     void createMenus();
@@ -110,6 +113,7 @@ private:
     GAction *m_transferAction = nullptr;
     QAction *m_leftPanelAction = nullptr;
     QAction *m_rightPanelAction = nullptr;
+    GAction *m_backupsAction = nullptr;
     QMenu *m_fileMenu = nullptr;
     QMenu *m_viewMenu = nullptr;
     QMenu *m_helpMenu = nullptr;

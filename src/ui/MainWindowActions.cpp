@@ -72,6 +72,7 @@ void MainWindow::createActions()
     m_transferAction = new GAction(icon("exportToUsb"), tr("Transfer to machine"), this,
                                    SLOT(exportSelectedFiles()));
     m_transferAction->setShortcut(withModifier(Qt::CTRL, Qt::Key_T));
+    m_backupsAction = new GAction(tr("&Backups..."), this, SLOT(showBackups()));
     m_rescanAction = new GAction(icon("sync"), tr("&Rescan"), this, SLOT(rescanDirectories()));
     m_rescanAction->setShortcuts(QKeySequence::Refresh);
 
@@ -114,6 +115,7 @@ void MainWindow::createFileMenu()
                           &PreviewBrowser::revealCurrent, Qt::CTRL | Qt::SHIFT | Qt::Key_R);
     m_fileMenu->addAction(m_transferAction);
     m_fileMenu->addSeparator();
+    m_fileMenu->addAction(m_backupsAction);
 }
 
 void MainWindow::createEditMenu()

@@ -3,12 +3,14 @@
 
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/backups/BackupFolder.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/Metrics.h"
 #include "online/UpdateDialog.h"
 #include "preview/grid/PreviewSheet.h"
 #include "support/DstDesign.h"
+#include "ui/BackupsDialog.h"
 #include "ui/CenterView.h"
 #include "ui/design/DesignWindow.h"
 #include "ui/design/PlaybackBar.h"
@@ -226,6 +228,11 @@ void tst_accessibility::servesKeyboardAndScreenReader_data()
     row("transfer", [] {
         const auto noVolumes = [] { return QList<Mount>(); };
         return new ExportDialog(nullptr, projectOfSize(2)->files(), noVolumes);
+    });
+    row("backups", [this] {
+        BackupFolder folder(m_directory.filePath(QStringLiteral("backups")));
+        folder.keepDay("no catalogue", QDate(2026, 11, 23));
+        return new BackupsDialog(folder, nullptr);
     });
     row("preferences", [] { return new PreferencesDialog(nullptr); });
     row("feedback", [] { return new FeedbackDialog(nullptr); });
