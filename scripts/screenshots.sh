@@ -231,6 +231,7 @@ open_menu() {
     for ((i = 0; i < $1; i++)); do key Right; done
 }
 open_preferences() { open_menu 0; key Up; key Up; key Return; sleep 0.8; }
+open_backups() { open_menu 0; key Up; key Up; key Up; key Return; sleep 1.5; }
 open_update() { open_menu 3; key Up; key Up; key Return; sleep 1.5; }
 open_about() { open_menu 3; key Up; key Return; sleep 0.8; }
 
@@ -446,6 +447,9 @@ dialog_shots() {
     shot_top "preferences-settings$suffix"
     key ctrl+Tab
     shot_top "preferences-privacy$suffix"
+    key Escape
+    open_backups
+    shot_top "backups$suffix"
     key Escape
     open_about
     shot_top "about$suffix"

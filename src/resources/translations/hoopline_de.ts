@@ -40,6 +40,100 @@
     </message>
 </context>
 <context>
+    <name>BackupCommand</name>
+    <message>
+        <source>Keep a copy of the catalogue.</source>
+        <translation>Eine Kopie des Katalogs aufheben.</translation>
+    </message>
+    <message>
+        <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself.</source>
+        <translation>Hebt eine Kopie des zuletzt gespeicherten Katalogs auf: in DATEI, komprimiert, wenn der Name auf .gz endet, oder ohne Angabe einer Datei bei den Sicherungen, die das Programm selbst anlegt.</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there.</source>
+        <translation>Eine vorhandene Datei ersetzen.</translation>
+    </message>
+    <message>
+        <source>Only one file can be given.</source>
+        <translation>Es kann nur eine Datei angegeben werden.</translation>
+    </message>
+    <message>
+        <source>The catalogue is damaged; no backup was made.</source>
+        <translation>Der Katalog ist beschädigt; es wurde keine Sicherung angelegt.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupFolder</name>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>Lesen von %1 fehlgeschlagen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>BackupsDialog</name>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>There are no backups yet. Before the first change of a day the catalogue is kept here as it was.</source>
+        <translation>Es gibt noch keine Sicherungen. Vor der ersten Änderung eines Tages wird der Katalog hier so aufgehoben, wie er war.</translation>
+    </message>
+    <message>
+        <source>The catalogue as it was before the first change of a day, or when something else took its place. What is there now is kept when you restore one.</source>
+        <translation>Der Katalog, wie er vor der ersten Änderung eines Tages war oder als etwas anderes an seine Stelle trat. Was jetzt da ist, wird beim Zurückholen aufgehoben.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>date and time</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>Stickmuster</translation>
+    </message>
+    <message>
+        <source>Tagged</source>
+        <translation>Mit Schlagwort</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Designs with at least one tag</source>
+        <translation>Stickmuster mit mindestens einem Schlagwort</translation>
+    </message>
+    <message>
+        <source>Designs with notes</source>
+        <translation>Stickmuster mit Notizen</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Zurückholen…</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>Do you want to restore this backup?</source>
+        <translation>Soll diese Sicherung zurückgeholt werden?</translation>
+    </message>
+    <message>
+        <source>Tags, notes and stars will be as on %1. What is there now is kept as a backup.</source>
+        <translation>Schlagwörter, Notizen und Sterne werden so wie am %1. Was jetzt da ist, wird als Sicherung aufgehoben.</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueChoice</name>
     <message>
         <source>Work on this catalogue rather than the organizer&apos;s.</source>
@@ -125,6 +219,18 @@
     <message>
         <source>Changes that had not been saved when the program ended are back.</source>
         <translation>Änderungen, die beim Ende des Programms noch nicht gesichert waren, sind wieder da.</translation>
+    </message>
+    <message>
+        <source>Backups…</source>
+        <translation>Sicherungen…</translation>
+    </message>
+    <message>
+        <source>No backup of the catalogue could be made: %1</source>
+        <translation>Der Katalog konnte nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The backup of %1 was restored. What was there before is kept as a backup.</source>
+        <translation>Die Sicherung vom %1 wurde zurückgeholt. Was vorher da war, ist als Sicherung aufgehoben.</translation>
     </message>
 </context>
 <context>
@@ -1256,6 +1362,13 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>GzipFormat</name>
+    <message>
+        <source>The compressed file is damaged.</source>
+        <translation>Die komprimierte Datei ist beschädigt.</translation>
+    </message>
+</context>
+<context>
     <name>ImportCommand</name>
     <message>
         <source>%1 is not in the catalogue</source>
@@ -1597,6 +1710,14 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>&amp;Properties</source>
         <translation>&amp;Eigenschaften</translation>
+    </message>
+    <message>
+        <source>&amp;Backups…</source>
+        <translation>&amp;Sicherungen…</translation>
+    </message>
+    <message>
+        <source>The backup could not be restored.</source>
+        <translation>Die Sicherung konnte nicht zurückgeholt werden.</translation>
     </message>
 </context>
 <context>
@@ -2093,6 +2214,29 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>RestoreCommand</name>
+    <message>
+        <source>Put a backup into the place of the catalogue.</source>
+        <translation>Eine Sicherung an die Stelle des Katalogs setzen.</translation>
+    </message>
+    <message>
+        <source>Puts a backup, or another copy of a catalogue, into the place of the catalogue. The catalogue that was there is kept among the backups, and its path printed.</source>
+        <translation>Setzt eine Sicherung oder eine andere Kopie eines Katalogs an die Stelle des Katalogs. Der bisherige Katalog wird bei den Sicherungen aufgehoben und sein Pfad ausgegeben.</translation>
+    </message>
+    <message>
+        <source>No file given.</source>
+        <translation>Keine Datei angegeben.</translation>
+    </message>
+    <message>
+        <source>Only one file can be given.</source>
+        <translation>Es kann nur eine Datei angegeben werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no whole catalogue.</source>
+        <translation>„%1“ ist kein vollständiger Katalog.</translation>
+    </message>
+</context>
+<context>
     <name>SavedSearches</name>
     <message>
         <source>A saved search needs a name.</source>
@@ -2166,6 +2310,10 @@ Optionen:
     <message>
         <source>Tell it as JSON objects, a line each.</source>
         <translation>Es als JSON-Objekte sagen, je eines pro Zeile.</translation>
+    </message>
+    <message>
+        <source>No backup of the catalogue could be made: %1</source>
+        <translation>Der Katalog konnte nicht gesichert werden: %1</translation>
     </message>
 </context>
 <context>

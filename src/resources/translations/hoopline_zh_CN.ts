@@ -40,6 +40,100 @@
     </message>
 </context>
 <context>
+    <name>BackupCommand</name>
+    <message>
+        <source>Keep a copy of the catalogue.</source>
+        <translation>保留目录的副本。</translation>
+    </message>
+    <message>
+        <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself.</source>
+        <translation>保留上次保存的目录的副本：保存到 FILE（名称以 .gz 结尾时压缩）；未指定文件时，保存到程序自动创建的备份中。</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there.</source>
+        <translation>替换已有的文件。</translation>
+    </message>
+    <message>
+        <source>Only one file can be given.</source>
+        <translation>只能指定一个文件。</translation>
+    </message>
+    <message>
+        <source>The catalogue is damaged; no backup was made.</source>
+        <translation>目录已损坏；未创建备份。</translation>
+    </message>
+    <message>
+        <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
+        <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
+    </message>
+</context>
+<context>
+    <name>BackupFolder</name>
+    <message>
+        <source>Failed to read %1: %2</source>
+        <translation>读取 %1 失败：%2</translation>
+    </message>
+</context>
+<context>
+    <name>BackupsDialog</name>
+    <message>
+        <source>Backups</source>
+        <translation>备份</translation>
+    </message>
+    <message>
+        <source>There are no backups yet. Before the first change of a day the catalogue is kept here as it was.</source>
+        <translation>还没有备份。每天首次更改之前，目录会按原样保留在此处。</translation>
+    </message>
+    <message>
+        <source>The catalogue as it was before the first change of a day, or when something else took its place. What is there now is kept when you restore one.</source>
+        <translation>每天首次更改之前的目录，或被其他内容取代时的目录。恢复备份时，当前内容会被保留。</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>date and time</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>花样</translation>
+    </message>
+    <message>
+        <source>Tagged</source>
+        <translation>有标签</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Designs with at least one tag</source>
+        <translation>至少有一个标签的花样</translation>
+    </message>
+    <message>
+        <source>Designs with notes</source>
+        <translation>有备注的花样</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>恢复…</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>Do you want to restore this backup?</source>
+        <translation>要恢复此备份吗？</translation>
+    </message>
+    <message>
+        <source>Tags, notes and stars will be as on %1. What is there now is kept as a backup.</source>
+        <translation>标签、备注和收藏将恢复为 %1 的状态。当前内容会保留为备份。</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueChoice</name>
     <message>
         <source>Work on this catalogue rather than the organizer&apos;s.</source>
@@ -124,6 +218,18 @@
     <message>
         <source>Changes that had not been saved when the program ended are back.</source>
         <translation>程序结束时尚未保存的更改已恢复。</translation>
+    </message>
+    <message>
+        <source>Backups…</source>
+        <translation>备份…</translation>
+    </message>
+    <message>
+        <source>No backup of the catalogue could be made: %1</source>
+        <translation>无法备份目录：%1</translation>
+    </message>
+    <message>
+        <source>The backup of %1 was restored. What was there before is kept as a backup.</source>
+        <translation>已恢复 %1 的备份。之前的内容已保留为备份。</translation>
     </message>
 </context>
 <context>
@@ -1238,6 +1344,13 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>GzipFormat</name>
+    <message>
+        <source>The compressed file is damaged.</source>
+        <translation>压缩文件已损坏。</translation>
+    </message>
+</context>
+<context>
     <name>ImportCommand</name>
     <message>
         <source>%1 is not in the catalogue</source>
@@ -1579,6 +1692,14 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>&amp;Properties</source>
         <translation>属性(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Backups…</source>
+        <translation>备份(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>The backup could not be restored.</source>
+        <translation>无法恢复备份。</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2191,29 @@ Options:
     </message>
 </context>
 <context>
+    <name>RestoreCommand</name>
+    <message>
+        <source>Put a backup into the place of the catalogue.</source>
+        <translation>用备份替换目录。</translation>
+    </message>
+    <message>
+        <source>Puts a backup, or another copy of a catalogue, into the place of the catalogue. The catalogue that was there is kept among the backups, and its path printed.</source>
+        <translation>用备份或目录的其他副本替换目录。原有目录会保留在备份中，并输出其路径。</translation>
+    </message>
+    <message>
+        <source>No file given.</source>
+        <translation>未指定文件。</translation>
+    </message>
+    <message>
+        <source>Only one file can be given.</source>
+        <translation>只能指定一个文件。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no whole catalogue.</source>
+        <translation>“%1”不是完整的目录。</translation>
+    </message>
+</context>
+<context>
     <name>SavedSearches</name>
     <message>
         <source>A saved search needs a name.</source>
@@ -2143,6 +2287,10 @@ Options:
     <message>
         <source>Tell it as JSON objects, a line each.</source>
         <translation>以 JSON 对象输出，每个占一行。</translation>
+    </message>
+    <message>
+        <source>No backup of the catalogue could be made: %1</source>
+        <translation>无法备份目录：%1</translation>
     </message>
 </context>
 <context>
