@@ -30,6 +30,7 @@ void ExclusiveController::open()
             throw CommandError(CatalogueInUse, OrganiserGuard::runningText());
     }
     loadProject();
+    rememberUserData();
 }
 
 void ExclusiveController::takeLock()

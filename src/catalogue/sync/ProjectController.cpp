@@ -74,14 +74,19 @@ void ProjectController::loadOrCreateProject()
         recoverProject();
     }
     openMemory();
-    m_memory->restoreLists();
+    if (m_memory)
+        m_memory->restoreLists();
     // A damaged catalogue is kept already, and must not displace a good backup.
     writeProject();
-    m_memory->adopt(m_file.lastSeenDigest());
+    if (m_memory)
+        m_memory->adopt(m_file.lastSeenDigest());
 }
 
 void ProjectController::openMemory()
 {
+    // In a folder of the user's choice nothing is left behind.
+    if (GlobalSettings::usesOtherCatalogue())
+        return;
     m_memory = std::make_unique<UserDataMemory>(m_project, QFileInfo(m_file.path()).path() +
                                                                QStringLiteral("/user-data.sqlite"));
 }
@@ -89,7 +94,7 @@ void ProjectController::openMemory()
 void ProjectController::rememberUserData()
 {
     openMemory();
-    m_recoveredEdits = m_memory->applyUnsaved(m_file.lastSeenDigest());
+    m_recoveredEdits = m_memory && m_memory->applyUnsaved(m_file.lastSeenDigest());
 }
 
 void ProjectController::loadProject()
@@ -162,7 +167,8 @@ void ProjectController::keepWhatOthersWrote()
 void ProjectController::keepAside(const QByteArray &bytes, CatalogueFile::Fate fate)
 {
     QString backup;
-    tryBackup([&] { backup = m_backups.keepMoment(bytes, QDateTime::currentDateTime()); });
+    if (!GlobalSettings::usesOtherCatalogue())
+        tryBackup([&] { backup = m_backups.keepMoment(bytes, QDateTime::currentDateTime()); });
     if (backup.isEmpty() || fate == CatalogueFile::Damaged)
         keep(bytes, fate);
     else
@@ -173,7 +179,8 @@ void ProjectController::backUp()
 {
     const QDate today = QDate::currentDate();
     // What somebody else wrote is kept already, and may be no whole catalogue.
-    if (!m_file.lastSeen().exists() || !m_file.isAsLastSeen() || m_backups.hasDay(today))
+    if (GlobalSettings::usesOtherCatalogue() || !m_file.lastSeen().exists() ||
+        !m_file.isAsLastSeen() || m_backups.hasDay(today))
         return;
     tryBackup([&] { m_backups.keepDay(m_file.peek(), today); });
 }

@@ -1031,6 +1031,10 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>Hoopline Organizer was started meanwhile. Nothing was saved.</source>
         <translation>Hoopline Organizer wurde inzwischen gestartet. Es wurde nichts gespeichert.</translation>
     </message>
+    <message>
+        <source>No backup of the catalogue could be made: %1</source>
+        <translation>Der Katalog konnte nicht gesichert werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>ExportCommand</name>
@@ -2310,10 +2314,6 @@ Optionen:
     <message>
         <source>Tell it as JSON objects, a line each.</source>
         <translation>Es als JSON-Objekte sagen, je eines pro Zeile.</translation>
-    </message>
-    <message>
-        <source>No backup of the catalogue could be made: %1</source>
-        <translation>Der Katalog konnte nicht gesichert werden: %1</translation>
     </message>
 </context>
 <context>

@@ -1018,6 +1018,10 @@ Commands; each has a --help of its own:</source>
         <source>Hoopline Organizer was started meanwhile. Nothing was saved.</source>
         <translation>在此期间启动了 Hoopline Organizer。未保存任何内容。</translation>
     </message>
+    <message>
+        <source>No backup of the catalogue could be made: %1</source>
+        <translation>无法备份目录：%1</translation>
+    </message>
 </context>
 <context>
     <name>ExportCommand</name>
@@ -2287,10 +2291,6 @@ Options:
     <message>
         <source>Tell it as JSON objects, a line each.</source>
         <translation>以 JSON 对象输出，每个占一行。</translation>
-    </message>
-    <message>
-        <source>No backup of the catalogue could be made: %1</source>
-        <translation>无法备份目录：%1</translation>
     </message>
 </context>
 <context>
