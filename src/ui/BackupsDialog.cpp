@@ -1,6 +1,7 @@
 #include "ui/BackupsDialog.h"
 
 #include "base/GDebug.h"
+#include "base/GTranslationLoader.h"
 #include "widgets/controls/DesktopInteraction.h"
 #include "widgets/controls/GMessageBox.h"
 
@@ -59,7 +60,7 @@ qint64 BackupsDialog::Job::memoryNeed() const
 
 QString BackupsDialog::title(const BackupName &name)
 {
-    const QLocale locale;
+    const QLocale locale = GTranslationLoader::instance()->locale();
     const QString date = locale.toString(name.date, QLocale::LongFormat);
     return name.isOfDay() ? date
                           : tr("%1, %2", "date and time")
@@ -160,7 +161,7 @@ void BackupsDialog::show(QTreeWidgetItem *item, const Result &result)
         updateButtons();
         return;
     }
-    const QLocale locale;
+    const QLocale locale = GTranslationLoader::instance()->locale();
     item->setText(DesignsColumn, locale.toString(result.summary->designs));
     item->setText(TaggedColumn, locale.toString(result.summary->tagged));
     item->setText(NotesColumn, locale.toString(result.summary->notes));
