@@ -98,7 +98,7 @@ void BackupsDialog::fill()
 void BackupsDialog::createButtons()
 {
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    m_restore = buttons->addButton(tr("Restore…"), QDialogButtonBox::ActionRole);
+    m_restore = buttons->addButton(tr("Restore..."), QDialogButtonBox::ActionRole);
     m_restore->setObjectName(QStringLiteral("restore"));
     connect(m_restore, &QPushButton::clicked, this, &BackupsDialog::restore);
     if (!m_entries.isEmpty()) {

@@ -157,7 +157,7 @@ void CatalogueKeeper::tellKept()
 
 Notice::Action CatalogueKeeper::backupsAction()
 {
-    return {tr("Backups…"), [this] { emit backupsWanted(); }};
+    return {tr("Backups..."), [this] { emit backupsWanted(); }};
 }
 
 void CatalogueKeeper::tellBackupFailure()

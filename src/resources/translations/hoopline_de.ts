@@ -117,8 +117,8 @@
         <translation>Stickmuster mit Notizen</translation>
     </message>
     <message>
-        <source>Restore…</source>
-        <translation>Zurückholen…</translation>
+        <source>Restore...</source>
+        <translation>Zurückholen …</translation>
     </message>
     <message>
         <source>damaged</source>
@@ -221,8 +221,8 @@
         <translation>Änderungen, die beim Ende des Programms noch nicht gesichert waren, sind wieder da.</translation>
     </message>
     <message>
-        <source>Backups…</source>
-        <translation>Sicherungen…</translation>
+        <source>Backups...</source>
+        <translation>Sicherungen …</translation>
     </message>
     <message>
         <source>No backup of the catalogue could be made: %1</source>
@@ -1716,8 +1716,8 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>&amp;Eigenschaften</translation>
     </message>
     <message>
-        <source>&amp;Backups…</source>
-        <translation>&amp;Sicherungen…</translation>
+        <source>&amp;Backups...</source>
+        <translation>&amp;Sicherungen …</translation>
     </message>
     <message>
         <source>The backup could not be restored.</source>
@@ -1931,8 +1931,8 @@ Befehle; jeder hat eine eigene --help:</translation>
         <translation>OK</translation>
     </message>
     <message>
-        <source>Forget…</source>
-        <translation>Vergessen…</translation>
+        <source>Forget...</source>
+        <translation>Vergessen …</translation>
     </message>
     <message numerus="yes">
         <source>The tags, notes and stars of %n design(s) that left the catalogue are remembered. Designs that come back get them back.</source>

@@ -117,7 +117,7 @@
         <translation>有备注的花样</translation>
     </message>
     <message>
-        <source>Restore…</source>
+        <source>Restore...</source>
         <translation>恢复…</translation>
     </message>
     <message>
@@ -220,7 +220,7 @@
         <translation>程序结束时尚未保存的更改已恢复。</translation>
     </message>
     <message>
-        <source>Backups…</source>
+        <source>Backups...</source>
         <translation>备份…</translation>
     </message>
     <message>
@@ -1698,7 +1698,7 @@ Commands; each has a --help of its own:</source>
         <translation>属性(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Backups…</source>
+        <source>&amp;Backups...</source>
         <translation>备份(&amp;B)…</translation>
     </message>
     <message>
@@ -1911,7 +1911,7 @@ Commands; each has a --help of its own:</source>
         <translation>确定</translation>
     </message>
     <message>
-        <source>Forget…</source>
+        <source>Forget...</source>
         <translation>忘记…</translation>
     </message>
     <message numerus="yes">
