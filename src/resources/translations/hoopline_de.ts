@@ -985,8 +985,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n Stickmuster</numerusform>
-            <numerusform>%n Stickmuster</numerusform>
+            <numerusform>%Ln Stickmuster</numerusform>
+            <numerusform>%Ln Stickmuster</numerusform>
         </translation>
     </message>
 </context>
@@ -1065,8 +1065,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n Stickmuster</numerusform>
-            <numerusform>%n Stickmuster</numerusform>
+            <numerusform>%Ln Stickmuster</numerusform>
+            <numerusform>%Ln Stickmuster</numerusform>
         </translation>
     </message>
 </context>
@@ -1307,8 +1307,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n design(s) in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</source>
         <translation>
-            <numerusform>%n Stickmuster darin hat Schlagwörter, Notizen oder einen Stern; „hoopline-cli export“ bewahrt sie. --force entfernt die Ordner trotzdem. Es wurde nichts geändert.</numerusform>
-            <numerusform>%n Stickmuster darin haben Schlagwörter, Notizen oder einen Stern; „hoopline-cli export“ bewahrt sie. --force entfernt die Ordner trotzdem. Es wurde nichts geändert.</numerusform>
+            <numerusform>%Ln Stickmuster darin hat Schlagwörter, Notizen oder einen Stern; „hoopline-cli export“ bewahrt sie. --force entfernt die Ordner trotzdem. Es wurde nichts geändert.</numerusform>
+            <numerusform>%Ln Stickmuster darin haben Schlagwörter, Notizen oder einen Stern; „hoopline-cli export“ bewahrt sie. --force entfernt die Ordner trotzdem. Es wurde nichts geändert.</numerusform>
         </translation>
     </message>
     <message>
@@ -1338,8 +1338,8 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message numerus="yes">
         <source>%n design(s) left the catalogue</source>
         <translation>
-            <numerusform>%n Stickmuster hat den Katalog verlassen</numerusform>
-            <numerusform>%n Stickmuster haben den Katalog verlassen</numerusform>
+            <numerusform>%Ln Stickmuster hat den Katalog verlassen</numerusform>
+            <numerusform>%Ln Stickmuster haben den Katalog verlassen</numerusform>
         </translation>
     </message>
 </context>
@@ -2417,8 +2417,8 @@ Optionen:
     <message numerus="yes">
         <source>Stopped; %n new design(s) are still to be read.</source>
         <translation>
-            <numerusform>Abgebrochen; %n neues Stickmuster ist noch zu lesen.</numerusform>
-            <numerusform>Abgebrochen; %n neue Stickmuster sind noch zu lesen.</numerusform>
+            <numerusform>Abgebrochen; %Ln neues Stickmuster ist noch zu lesen.</numerusform>
+            <numerusform>Abgebrochen; %Ln neue Stickmuster sind noch zu lesen.</numerusform>
         </translation>
     </message>
     <message>

@@ -111,8 +111,8 @@
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n design</numerusform>
-            <numerusform>%n designs</numerusform>
+            <numerusform>%Ln design</numerusform>
+            <numerusform>%Ln designs</numerusform>
         </translation>
     </message>
 </context>
@@ -121,8 +121,8 @@
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n design</numerusform>
-            <numerusform>%n designs</numerusform>
+            <numerusform>%Ln design</numerusform>
+            <numerusform>%Ln designs</numerusform>
         </translation>
     </message>
 </context>
@@ -151,15 +151,15 @@
     <message numerus="yes">
         <source>%n design(s) in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</source>
         <translation>
-            <numerusform>%n design in there has tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</numerusform>
-            <numerusform>%n designs in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</numerusform>
+            <numerusform>%Ln design in there has tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</numerusform>
+            <numerusform>%Ln designs in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n design(s) left the catalogue</source>
         <translation>
-            <numerusform>%n design left the catalogue</numerusform>
-            <numerusform>%n designs left the catalogue</numerusform>
+            <numerusform>%Ln design left the catalogue</numerusform>
+            <numerusform>%Ln designs left the catalogue</numerusform>
         </translation>
     </message>
 </context>
@@ -278,8 +278,8 @@
     <message numerus="yes">
         <source>Stopped; %n new design(s) are still to be read.</source>
         <translation>
-            <numerusform>Stopped; %n new design is still to be read.</numerusform>
-            <numerusform>Stopped; %n new designs are still to be read.</numerusform>
+            <numerusform>Stopped; %Ln new design is still to be read.</numerusform>
+            <numerusform>Stopped; %Ln new designs are still to be read.</numerusform>
         </translation>
     </message>
 </context>

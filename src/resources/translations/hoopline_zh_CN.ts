@@ -973,7 +973,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n 个花样</numerusform>
+            <numerusform>%Ln 个花样</numerusform>
         </translation>
     </message>
 </context>
@@ -1052,7 +1052,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n design(s)</source>
         <translation>
-            <numerusform>%n 个花样</numerusform>
+            <numerusform>%Ln 个花样</numerusform>
         </translation>
     </message>
 </context>
@@ -1291,7 +1291,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n design(s) in there have tags, notes or a star, which &apos;hoopline-cli export&apos; keeps. --force removes the folders all the same. Nothing was changed.</source>
         <translation>
-            <numerusform>其中 %n 个花样带有标签、备注或收藏，可用“hoopline-cli export”保存。--force 仍会移除这些文件夹。未更改任何内容。</numerusform>
+            <numerusform>其中 %Ln 个花样带有标签、备注或收藏，可用“hoopline-cli export”保存。--force 仍会移除这些文件夹。未更改任何内容。</numerusform>
         </translation>
     </message>
     <message>
@@ -1321,7 +1321,7 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>%n design(s) left the catalogue</source>
         <translation>
-            <numerusform>%n 个花样已从花样库移除</numerusform>
+            <numerusform>%Ln 个花样已从花样库移除</numerusform>
         </translation>
     </message>
 </context>
@@ -2385,7 +2385,7 @@ Options:
     <message numerus="yes">
         <source>Stopped; %n new design(s) are still to be read.</source>
         <translation>
-            <numerusform>已停止；还有 %n 个新花样待读取。</numerusform>
+            <numerusform>已停止；还有 %Ln 个新花样待读取。</numerusform>
         </translation>
     </message>
     <message>
