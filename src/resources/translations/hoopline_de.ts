@@ -475,6 +475,11 @@ Befehle; jeder hat eine eigene --help:</translation>
         <source>no hoop fits</source>
         <translation>kein Rahmen passt</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <comment>caption of a value</comment>
+        <translation>%1:</translation>
+    </message>
 </context>
 <context>
     <name>DesignFormat</name>
@@ -2071,6 +2076,11 @@ Optionen:
     <message>
         <source>no file selected</source>
         <translation>keine Datei ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>caption of a value</comment>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>

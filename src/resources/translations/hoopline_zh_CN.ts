@@ -473,6 +473,11 @@ Commands; each has a --help of its own:</source>
         <source>no hoop fits</source>
         <translation>没有合适的绣框</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <comment>caption of a value</comment>
+        <translation>%1：</translation>
+    </message>
 </context>
 <context>
     <name>DesignFormat</name>
@@ -2048,6 +2053,11 @@ Options:
     <message>
         <source>no file selected</source>
         <translation>未选择文件</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>caption of a value</comment>
+        <translation>%1：</translation>
     </message>
 </context>
 <context>

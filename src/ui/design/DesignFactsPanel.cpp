@@ -62,7 +62,7 @@ QLabel *DesignFactsPanel::addFact(const QString &caption)
 {
     auto *value = new QLabel(this);
     value->setTextFormat(Qt::PlainText);
-    m_facts->addRow(caption + QLatin1Char(':'), value);
+    m_facts->addRow(tr("%1:", "caption of a value").arg(caption), value);
     return value;
 }
 

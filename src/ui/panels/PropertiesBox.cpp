@@ -31,7 +31,7 @@ constexpr int FileNameRow = 0;
 
 QLabel *createCaption(const QString &text)
 {
-    auto *label = new QLabel(text + QLatin1Char(':'));
+    auto *label = new QLabel(PropertiesBox::tr("%1:", "caption of a value").arg(text));
     label->setTextFormat(Qt::PlainText);
     return label;
 }
