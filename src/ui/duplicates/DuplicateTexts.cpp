@@ -52,7 +52,7 @@ QString DuplicateTexts::certainty(DuplicateGroup::Likeness likeness)
 QString DuplicateTexts::format(const IFile &file, bool imperial)
 {
     QStringList parts{QFileInfo(file.absoluteFilePath()).suffix().toUpper(),
-                      LocaleAwareFunctions::toString(file.designSize(), imperial)};
+                      LocaleAwareFunctions::toText(file.designSize(), imperial)};
     parts.removeAll(QString());
     return parts.join(dot());
 }
