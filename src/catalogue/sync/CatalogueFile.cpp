@@ -124,7 +124,7 @@ QString CatalogueFile::keep(const QByteArray &bytes, Fate fate) const
     }
     const QString date = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString path = folder.filePath(stem + date + suffix);
-    for (int i = 2; !FileStamp::isMissing(path); ++i)
+    for (int i = 2; FileStamp::of(path).exists(); ++i)
         path = folder.filePath(QStringLiteral("%1%2-%3%4").arg(stem, date).arg(i).arg(suffix));
     try {
         FileTools::writeAll(path, bytes, FileTools::Binary, FileReplacement::Durable,
