@@ -20,7 +20,7 @@ QSharedPointer<const SewingOrder> squareOrder()
     CatalogueFolder folder;
     const QString path = folder.design(QStringLiteral("a.dst"));
     DstDesign::square().writeTo(path);
-    return DesignReader::read(path).order;
+    return ReadDesign::fromFile(path).order;
 }
 
 DesignViewport viewport(const QSizeF &size, const QRectF &contents)
@@ -310,7 +310,7 @@ void tst_DesignView::tellsWhyAFileCannotBeRead()
     const QString path = folder.design(name.isEmpty() ? QStringLiteral("gone.dst") : name);
     if (!bytes.isEmpty())
         QVERIFY(CatalogueFolder::write(path, bytes));
-    const ReadDesign design = DesignReader::read(path);
+    const ReadDesign design = ReadDesign::fromFile(path);
     QCOMPARE(design.path, path);
     QCOMPARE(design.order.isNull(), !error.isEmpty());
     QCOMPARE(design.error.section(QLatin1Char('\n'), 0, 0), error);

@@ -1,6 +1,7 @@
 #include "preview/drawing/SewingOrder.h"
 
 #include <algorithm>
+#include <numeric>
 #include <QLineF>
 
 using Embroidery::EmbPattern;
@@ -135,6 +136,12 @@ SewingOrder::SewingOrder(const QSharedPointer<EmbPattern> &pattern)
 QPointF SewingOrder::pointAt(int i) const
 {
     return QPointF(double(m_pattern->getX(i)), double(m_pattern->getY(i)));
+}
+
+double SewingOrder::threadLength() const
+{
+    return std::accumulate(m_uses.begin(), m_uses.end(), 0.0,
+                           [](double sum, const ThreadUse &use) { return sum + use.length; });
 }
 
 int SewingOrder::useAt(int point) const

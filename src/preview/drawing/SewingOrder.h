@@ -64,6 +64,8 @@ public:
 
     /** The threads in the order of sewing; one that sews nothing is not among them. */
     const QVector<ThreadUse> &threadUses() const { return m_uses; }
+    /** Of all thread on the fabric, in tenths of a millimetre. */
+    double threadLength() const;
     /** Which use point `i` belongs to; -1 where nothing is sewn. */
     int useAt(int point) const;
 

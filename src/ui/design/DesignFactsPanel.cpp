@@ -1,11 +1,10 @@
 #include "ui/design/DesignFactsPanel.h"
 
+#include "catalogue/records/DesignTexts.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
-#include "ui/design/DesignTexts.h"
 #include "ui/design/ThreadTable.h"
 #include "ui/panels/ElidedLabel.h"
 
-#include <numeric>
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -17,13 +16,6 @@ constexpr int CaptionSpacing = 6;
 constexpr int RowSpacing = 2;
 constexpr double UnitsPerMillimetre = 10.0;
 const QString Unknown = QStringLiteral("-");
-
-double threadLength(const SewingOrder &order)
-{
-    const QVector<ThreadUse> &uses = order.threadUses();
-    return std::accumulate(uses.begin(), uses.end(), 0.0,
-                           [](double sum, const ThreadUse &use) { return sum + use.length; });
-}
 
 } // namespace
 
@@ -86,7 +78,7 @@ void DesignFactsPanel::setDesign(const QSharedPointer<const SewingOrder> &order,
     m_hoop->setText(hoop ? LocaleAwareFunctions::toText(*hoop, imperial) : tr("no hoop fits"));
     m_stitches->setText(DesignTexts::number(order->pointCount()));
     m_colors->setText(DesignTexts::number(order->threadUses().size()));
-    m_length->setText(DesignTexts::threadLength(threadLength(*order), imperial));
+    m_length->setText(DesignTexts::threadLength(order->threadLength(), imperial));
 }
 
 void DesignFactsPanel::setTrueSizeKnown(bool known)

@@ -2,7 +2,7 @@
 
 #include "app/frame/GAction.h"
 #include "base/GlobalSettings.h"
-#include "ui/design/DesignTexts.h"
+#include "catalogue/records/DesignTexts.h"
 #include "ui/design/DesignView.h"
 #include "ui/design/FabricButton.h"
 #include "widgets/style/GIcon.h"

@@ -1,7 +1,7 @@
 #include "ui/design/PlaybackBar.h"
 
 #include "app/frame/GAction.h"
-#include "ui/design/DesignTexts.h"
+#include "catalogue/records/DesignTexts.h"
 #include "ui/design/Playback.h"
 #include "ui/design/SewingSlider.h"
 #include "widgets/style/GIcon.h"

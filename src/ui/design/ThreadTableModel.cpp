@@ -1,6 +1,6 @@
 #include "ui/design/ThreadTableModel.h"
 
-#include "ui/design/DesignTexts.h"
+#include "catalogue/records/DesignTexts.h"
 
 #include <QGuiApplication>
 #include <QIcon>

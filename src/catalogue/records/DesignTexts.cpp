@@ -1,4 +1,4 @@
-#include "ui/design/DesignTexts.h"
+#include "catalogue/records/DesignTexts.h"
 
 #include "base/GTranslationLoader.h"
 
