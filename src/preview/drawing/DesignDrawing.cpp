@@ -12,6 +12,9 @@ namespace {
 
 // What is left of a thread's colour when another one stands out.
 constexpr double PaleShare = 0.2;
+// Of the grey values of a thread and what it lies on.
+constexpr int LeastContrast = 32;
+constexpr double DarkenedShare = 0.8;
 // For jumps on paper, in tenths of a millimetre.
 constexpr double JumpWidth = 1.0;
 // Stroking many lines that cross each other at once takes an image's painter long, and
@@ -50,7 +53,9 @@ QRgb DesignDrawing::faded(QRgb color, int use) const
 
 QRgb DesignDrawing::colorOf(int use) const
 {
-    return m_order->threadUses().at(use).thread->getRGB();
+    const QRgb color = m_order->threadUses().at(use).thread->getRGB();
+    const bool isPale = qGray(m_style.fabric.rgb()) - qGray(color) < LeastContrast;
+    return m_style.darkensPale && isPale ? mixed(color, Qt::black, DarkenedShare) : color;
 }
 
 template <class Draw>

@@ -17,11 +17,13 @@ struct DrawingStyle
     bool jumps = false;
     /** The one thread use that is to stand out, all others being pale; -1 for none. */
     int highlightedUse = -1;
+    /** Whether threads that would hardly show on the fabric are drawn darker. */
+    bool darkensPale = false;
 
     bool operator==(const DrawingStyle &other) const
     {
         return fabric == other.fabric && jumps == other.jumps &&
-               highlightedUse == other.highlightedUse;
+               highlightedUse == other.highlightedUse && darkensPale == other.darkensPale;
     }
 };
 
