@@ -2,11 +2,13 @@
 
 #include "app/application/HooplineApplication.h"
 #include "app/frame/GAction.h"
+#include "catalogue/sync/ProjectController.h"
 #include "preview/grid/PreviewBrowser.h"
 #include "ui/CenterView.h"
 #include "ui/LeftSidebar.h"
 #include "ui/MainWindow.h"
 #include "ui/RightSidebar.h"
+#include "ui/SheetCommands.h"
 #include "ui/SortMenu.h"
 #include "widgets/controls/DesktopInteraction.h"
 #include "widgets/controls/GToolBar.h"
@@ -114,6 +116,8 @@ void MainWindow::createFileMenu()
     m_fileMenu->addAction(DesktopInteraction::revealActionTextString(), m_center->browser(),
                           &PreviewBrowser::revealCurrent, Qt::CTRL | Qt::SHIFT | Qt::Key_R);
     m_fileMenu->addAction(m_transferAction);
+    m_fileMenu->addSeparator();
+    (new SheetCommands(this, m_controller->selectionModel(), m_notices))->addTo(m_fileMenu);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_backupsAction);
 }

@@ -19,6 +19,7 @@
 #include "ui/MainWindow.h"
 #include "ui/NoticeBar.h"
 #include "ui/PreferencesDialog.h"
+#include "ui/print/SheetDialog.h"
 #include "ui/ProgressDialog.h"
 #include "ui/RightSidebar.h"
 #include "ui/StatusLine.h"
@@ -235,6 +236,10 @@ void tst_accessibility::servesKeyboardAndScreenReader_data()
         return new BackupsDialog(folder, nullptr);
     });
     row("preferences", [] { return new PreferencesDialog(nullptr); });
+    row("print", [] {
+        return new SheetDialog(SheetDialog::Print, {}, {SheetDesign::of(QStringLiteral("/no.dst"))},
+                               nullptr);
+    });
     row("feedback", [] { return new FeedbackDialog(nullptr); });
     row("crash report", [] {
         return new FeedbackDialog(nullptr, {}, {QStringLiteral("log")}, QStringLiteral("text"));

@@ -213,7 +213,8 @@ void tst_mainwindow::offersItsCommands()
     QCOMPARE(menus,
              (QStringList{QStringLiteral("&Add folder...|&Remove folder|Re&scan\tF5|-|&Open design|"
                                          "Show in file manager|Transfer to machine|-|"
-                                         "&Backups...|Preferences...|Quit"),
+                                         "&Print...|&Export as PDF...|-|&Backups...|"
+                                         "Preferences...|Quit"),
                           QStringLiteral("Select all|Select &nothing\tCtrl+D|-|&Favorite\tF|"
                                          "Edit &tags|-|Sea&rch\tCtrl+F|Save search|-|"
                                          "Find &duplicates..."),
