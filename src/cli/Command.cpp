@@ -15,6 +15,7 @@
 #include "cli/NoteCommand.h"
 #include "cli/RestoreCommand.h"
 #include "cli/ScanCommand.h"
+#include "cli/SheetCommand.h"
 #include "cli/TagCommand.h"
 #include "cli/ThumbnailsCommand.h"
 
@@ -49,6 +50,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<ListCommand>());
     commands.push_back(std::make_unique<DuplicatesCommand>());
     commands.push_back(std::make_unique<ThumbnailsCommand>());
+    commands.push_back(std::make_unique<SheetCommand>());
     commands.push_back(std::make_unique<TagCommand>());
     commands.push_back(std::make_unique<NoteCommand>());
     commands.push_back(std::make_unique<FavoriteCommand>());

@@ -32,6 +32,10 @@ public:
      */
     DesignSelection(const CommandLine &line, const QStringList &names, Default whenNone);
 
+    /** Whether the user names the designs; absolute names, in his order. */
+    bool isByName() const { return m_byName; }
+    const QStringList &paths() const { return m_paths; }
+
     /** Tells each name that is not in the catalogue. @throws Error when there is any */
     Files from(const ProjectController &controller) const;
 

@@ -21,8 +21,9 @@ namespace {
 constexpr int CriticalMessagesOnly = 4;
 
 /**
- * Only a scan paints pixmaps, which need the classes around windows; these make a runtime
- * folder for the user where there is none, and all other commands leave no trace.
+ * Only a scan paints pixmaps and only a sheet has fonts, which need the classes around
+ * windows; these make a runtime folder for the user where there is none, and all other
+ * commands leave no trace.
  */
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
@@ -30,7 +31,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
         return std::any_of(argv + 1, argv + argc,
                            [&](const char *given) { return qstrcmp(given, argument) == 0; });
     };
-    if (has("scan") && !has("--dry-run"))
+    if ((has("scan") && !has("--dry-run")) || has("sheet"))
         return std::make_unique<QGuiApplication>(argc, argv);
     return std::make_unique<QCoreApplication>(argc, argv);
 }
