@@ -3,7 +3,7 @@
 # Drives the program under a virtual display over samples/ and saves a picture of
 # every window and state there. The README's and the manual's pictures come from
 # here. Profiles are throw-away; nothing of whoever runs this is touched.
-# The sections, all when none is named: main transfer duplicates light dark de zh-CN scales progress crash.
+# The sections, all when none is named: main transfer duplicates print light dark de zh-CN scales progress crash.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/lib-setup.sh"
 
@@ -549,6 +549,23 @@ duplicates_shots() {
     stop
 }
 
+# print_shots SUFFIX ARGUMENT...: what is printed, beforehand.
+print_shots() {
+    use_profile "print$1"
+    ${colours:-true}
+    fill_profile
+    start "${@:2}"
+    resize 1280 820
+    key ctrl+p
+    sleep 1.5
+    shot_top "print$1"
+    key Down
+    sleep 1.5
+    shot_top "print-work$1"
+    key Escape
+    stop
+}
+
 # wants SECTION: whether it was asked for.
 wants() { [ -z "$sections" ] || [[ " $sections " == *" $1 "* ]]; }
 
@@ -559,6 +576,7 @@ use_light
 ! wants main || main_window_shots
 ! wants transfer || transfer_shots
 ! wants duplicates || duplicates_shots ""
+! wants print || print_shots ""
 ! wants light || window_shots ""
 ! wants dark || dark_shots
 for language in de zh-CN; do

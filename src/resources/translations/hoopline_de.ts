@@ -417,6 +417,27 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>ContactSheet</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 Stich</numerusform>
+            <numerusform>%1 Stiche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 Farbe</numerusform>
+            <numerusform>%1 Farben</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Csv</name>
     <message>
         <source>A quotation mark has no partner.</source>
@@ -512,33 +533,6 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>larger than %1 MB</source>
         <translation>größer als %1 MB</translation>
-    </message>
-</context>
-<context>
-    <name>DesignReader</name>
-    <message>
-        <source>The file cannot be read: %1</source>
-        <translation>Die Datei lässt sich nicht lesen: %1</translation>
-    </message>
-    <message>
-        <source>There are no stitches in this design.</source>
-        <translation>Dieses Stickmuster hat keine Stiche.</translation>
-    </message>
-    <message>
-        <source>The file is no longer there.</source>
-        <translation>Die Datei ist nicht mehr da.</translation>
-    </message>
-    <message>
-        <source>This is not a file.</source>
-        <translation>Das ist keine Datei.</translation>
-    </message>
-    <message>
-        <source>The file is damaged or not what its name says.</source>
-        <translation>Die Datei ist beschädigt oder nicht das, was ihr Name sagt.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this design.</source>
-        <translation>Für dieses Stickmuster reicht der Arbeitsspeicher nicht.</translation>
     </message>
 </context>
 <context>
@@ -1843,6 +1837,13 @@ Befehle; jeder hat eine eigene --help:</translation>
     </message>
 </context>
 <context>
+    <name>PdfFile</name>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>PlaybackBar</name>
     <message>
         <source>One stitch back</source>
@@ -2221,6 +2222,33 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>ReadDesign</name>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>There are no stitches in this design.</source>
+        <translation>Dieses Stickmuster hat keine Stiche.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>Die Datei ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or not what its name says.</source>
+        <translation>Die Datei ist beschädigt oder nicht das, was ihr Name sagt.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this design.</source>
+        <translation>Für dieses Stickmuster reicht der Arbeitsspeicher nicht.</translation>
+    </message>
+</context>
+<context>
     <name>Reconnection</name>
     <message>
         <source>Looking for moved designs</source>
@@ -2557,6 +2585,297 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>SheetCommand</name>
+    <message>
+        <source>Put pictures of designs onto pages of a PDF.</source>
+        <translation>Bilder von Stickmustern auf die Seiten einer PDF-Datei bringen.</translation>
+    </message>
+    <message>
+        <source>Makes a PDF with a contact sheet of all designs of the catalogue, or of those that are chosen, or with a work sheet for each. Designs that are named need not be in the catalogue and come in the order of their names; a dash reads the names from standard input.</source>
+        <translation>Macht eine PDF-Datei mit einem Kontaktbogen aller Stickmuster des Katalogs oder der ausgewählten, oder mit einem Arbeitsblatt für jedes. Genannte Stickmuster müssen nicht im Katalog sein und kommen in der Reihenfolge ihrer Nennung; ein Strich liest die Namen von der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Where the PDF goes to.</source>
+        <translation>Wohin die PDF-Datei geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there.</source>
+        <translation>Eine vorhandene Datei ersetzen.</translation>
+    </message>
+    <message>
+        <source>A work sheet for each design rather than a contact sheet of all.</source>
+        <translation>Ein Arbeitsblatt für jedes Stickmuster statt eines Kontaktbogens aller.</translation>
+    </message>
+    <message>
+        <source>One of %1; A4 if not given.</source>
+        <translation>Eines von %1; A4, wenn nicht angegeben.</translation>
+    </message>
+    <message>
+        <source>The paper lies on its longer side.</source>
+        <translation>Das Papier liegt quer.</translation>
+    </message>
+    <message>
+        <source>Title of a contact sheet.</source>
+        <translation>Titel eines Kontaktbogens.</translation>
+    </message>
+    <message>
+        <source>Columns of a contact sheet; 4 if not given.</source>
+        <translation>Spalten eines Kontaktbogens; 4, wenn nicht angegeben.</translation>
+    </message>
+    <message>
+        <source>What stands under each picture of a contact sheet: some of %1, with commas between them, or nothing.</source>
+        <translation>Was auf einem Kontaktbogen unter jedem Bild steht: einige von %1, mit Kommas dazwischen, oder nichts.</translation>
+    </message>
+    <message>
+        <source>A contact sheet with a heading for each folder.</source>
+        <translation>Ein Kontaktbogen mit einer Überschrift für jeden Ordner.</translation>
+    </message>
+    <message>
+        <source>Work sheets without a page in true size.</source>
+        <translation>Arbeitsblätter ohne eine Seite in wahrer Größe.</translation>
+    </message>
+    <message>
+        <source>Pages without numbers.</source>
+        <translation>Seiten ohne Seitenzahlen.</translation>
+    </message>
+    <message>
+        <source>Unknown fact &apos;%1&apos;; there are %2.</source>
+        <translation>Unbekannte Angabe „%1“; es gibt %2.</translation>
+    </message>
+    <message>
+        <source>Unknown paper &apos;%1&apos;; there are %2.</source>
+        <translation>Unbekanntes Papier „%1“; es gibt %2.</translation>
+    </message>
+    <message>
+        <source>The columns must be a number from 1 to %1.</source>
+        <translation>Die Spalten müssen eine Zahl von 1 bis %1 sein.</translation>
+    </message>
+    <message>
+        <source>No PDF given; --pdf OUT.pdf tells where it goes to.</source>
+        <translation>Keine PDF-Datei angegeben; --pdf OUT.pdf sagt, wohin sie geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>There are no designs to show.</source>
+        <translation>Es gibt keine Stickmuster zu zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>SheetCommands</name>
+    <message>
+        <source>Designs</source>
+        <translation>Stickmuster</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>&amp;Export as PDF...</source>
+        <translation>Als PDF &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>There are no designs to print.</source>
+        <translation>Es gibt keine Stickmuster zu drucken.</translation>
+    </message>
+    <message>
+        <source>A sheet shows the selected designs, or all that the grid shows.</source>
+        <translation>Ein Bogen zeigt die ausgewählten Stickmuster oder alle, die zu sehen sind.</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled. Pages that are on their way may still be printed.</source>
+        <translation>Der Druck wurde abgebrochen. Seiten, die schon unterwegs sind, werden vielleicht noch gedruckt.</translation>
+    </message>
+    <message>
+        <source>The designs could not be printed.</source>
+        <translation>Die Stickmuster konnten nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation>Als PDF exportieren</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Die Datei ersetzen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was written: %n page(s).</source>
+        <translation>
+            <numerusform>%1 wurde geschrieben: %n Seite.</numerusform>
+            <numerusform>%1 wurde geschrieben: %n Seiten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The PDF could not be written.</source>
+        <translation>Die PDF-Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>SheetDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation>Als PDF exportieren</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+</context>
+<context>
+    <name>SheetForm</name>
+    <message>
+        <source>Sheet</source>
+        <translation>Bogen</translation>
+    </message>
+    <message>
+        <source>&amp;Contact sheet: pictures in rows</source>
+        <translation>&amp;Kontaktbogen: Bilder in Reihen</translation>
+    </message>
+    <message>
+        <source>&amp;Work sheet for each design</source>
+        <translation>&amp;Arbeitsblatt für jedes Stickmuster</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>Stickmuster</translation>
+    </message>
+    <message>
+        <source>&amp;Selected (%1)</source>
+        <translation>Aus&amp;gewählte (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;All shown (%1)</source>
+        <translation>Alle &amp;sichtbaren (%1)</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>S&amp;ize:</source>
+        <translation>F&amp;ormat:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>A&amp;usrichtung:</translation>
+    </message>
+    <message>
+        <source>Page &amp;numbers</source>
+        <translation>Seiten&amp;zahlen</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>Col&amp;umns:</source>
+        <translation>S&amp;palten:</translation>
+    </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>Na&amp;me</translation>
+    </message>
+    <message>
+        <source>Design si&amp;ze</source>
+        <translation>G&amp;röße</translation>
+    </message>
+    <message>
+        <source>Stitc&amp;hes</source>
+        <translation>Stic&amp;he</translation>
+    </message>
+    <message>
+        <source>Co&amp;lors</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs</source>
+        <translation>Sch&amp;lagwörter</translation>
+    </message>
+    <message>
+        <source>Not&amp;es</source>
+        <translation>&amp;Notizen</translation>
+    </message>
+    <message>
+        <source>By &amp;folder, each with a heading</source>
+        <translation>Nach Ordnern, &amp;jeder mit Überschrift</translation>
+    </message>
+    <message>
+        <source>Work sheet</source>
+        <translation>Arbeitsblatt</translation>
+    </message>
+    <message>
+        <source>A page in t&amp;rue size, with the hoop</source>
+        <translation>Eine Seite in &amp;wahrer Größe, mit Rahmen</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Design %1 of %2, page %3 of %4</source>
+        <translation>Stickmuster %1 von %2, Seite %3 von %4</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPrinter</name>
+    <message>
+        <source>The printer has failed.</source>
+        <translation>Der Drucker hat versagt.</translation>
+    </message>
+</context>
+<context>
+    <name>SheetWriter</name>
+    <message>
+        <source>The pages cannot be written.</source>
+        <translation>Die Seiten können nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
@@ -2847,6 +3166,29 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>ThreadList</name>
+    <message>
+        <source>Color name</source>
+        <translation>Farbname</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Farbkarte</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>Stiche</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+</context>
+<context>
     <name>ThreadTable</name>
     <message>
         <source>Threads</source>
@@ -2992,6 +3334,25 @@ Optionen:
     </message>
 </context>
 <context>
+    <name>TrueSizePicture</name>
+    <message>
+        <source>Reduced to %1%: the design is larger than the paper</source>
+        <translation>Auf %1 % verkleinert: Das Stickmuster ist größer als das Papier</translation>
+    </message>
+    <message>
+        <source>True size; the design is larger than any hoop</source>
+        <translation>Wahre Größe; das Stickmuster ist größer als jeder Rahmen</translation>
+    </message>
+    <message>
+        <source>True size, without its hoop of %1, which is larger than the paper</source>
+        <translation>Wahre Größe, ohne den Rahmen von %1, der größer als das Papier ist</translation>
+    </message>
+    <message>
+        <source>True size in a hoop of %1</source>
+        <translation>Wahre Größe im Rahmen von %1</translation>
+    </message>
+</context>
+<context>
     <name>UnreadDesign</name>
     <message>
         <source>Not read yet</source>
@@ -3000,6 +3361,57 @@ Optionen:
     <message>
         <source>“Rescan” reads it.</source>
         <translation>„Neu einlesen“ liest es.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkSheet</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Design size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Hoop</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>no hoop fits</source>
+        <translation>kein Rahmen passt</translation>
+    </message>
+    <message>
+        <source>Number of stitches</source>
+        <translation>Stichzahl</translation>
+    </message>
+    <message>
+        <source>Number of colors</source>
+        <translation>Anzahl Farben</translation>
+    </message>
+    <message>
+        <source>Thread</source>
+        <translation>Garn</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Room to write</source>
+        <translation>Platz zum Schreiben</translation>
+    </message>
+    <message>
+        <source>2 inches, if the printer keeps the size</source>
+        <translation>2 Zoll, wenn der Drucker die Größe einhält</translation>
+    </message>
+    <message>
+        <source>50 mm, if the printer keeps the size</source>
+        <translation>50 mm, wenn der Drucker die Größe einhält</translation>
     </message>
 </context>
 </TS>

@@ -22,6 +22,23 @@
     </message>
 </context>
 <context>
+    <name>ContactSheet</name>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 stitch</numerusform>
+            <numerusform>%1 stitches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 color</numerusform>
+            <numerusform>%1 colors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DuplicateGroupsModel</name>
     <message numerus="yes">
         <source>%n file(s), %1</source>
@@ -280,6 +297,16 @@
         <translation>
             <numerusform>Stopped; %Ln new design is still to be read.</numerusform>
             <numerusform>Stopped; %Ln new designs are still to be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SheetCommands</name>
+    <message numerus="yes">
+        <source>%1 was written: %n page(s).</source>
+        <translation>
+            <numerusform>%1 was written: %n page.</numerusform>
+            <numerusform>%1 was written: %n pages.</numerusform>
         </translation>
     </message>
 </context>

@@ -415,6 +415,25 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>ContactSheet</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 针</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 种颜色</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Csv</name>
     <message>
         <source>A quotation mark has no partner.</source>
@@ -510,33 +529,6 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>larger than %1 MB</source>
         <translation>大于 %1 MB</translation>
-    </message>
-</context>
-<context>
-    <name>DesignReader</name>
-    <message>
-        <source>The file cannot be read: %1</source>
-        <translation>无法读取文件：%1</translation>
-    </message>
-    <message>
-        <source>There are no stitches in this design.</source>
-        <translation>此花样中没有针迹。</translation>
-    </message>
-    <message>
-        <source>The file is no longer there.</source>
-        <translation>文件已不存在。</translation>
-    </message>
-    <message>
-        <source>This is not a file.</source>
-        <translation>这不是文件。</translation>
-    </message>
-    <message>
-        <source>The file is damaged or not what its name says.</source>
-        <translation>文件已损坏，或与其名称所示的类型不符。</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this design.</source>
-        <translation>内存不足，无法打开此花样。</translation>
     </message>
 </context>
 <context>
@@ -1823,6 +1815,13 @@ Commands; each has a --help of its own:</source>
     </message>
 </context>
 <context>
+    <name>PdfFile</name>
+    <message>
+        <source>Failed to write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>PlaybackBar</name>
     <message>
         <source>One stitch back</source>
@@ -2198,6 +2197,33 @@ Options:
     </message>
 </context>
 <context>
+    <name>ReadDesign</name>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
+    <message>
+        <source>There are no stitches in this design.</source>
+        <translation>此花样中没有针迹。</translation>
+    </message>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>文件已不存在。</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>这不是文件。</translation>
+    </message>
+    <message>
+        <source>The file is damaged or not what its name says.</source>
+        <translation>文件已损坏，或与其名称所示的类型不符。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this design.</source>
+        <translation>内存不足，无法打开此花样。</translation>
+    </message>
+</context>
+<context>
     <name>Reconnection</name>
     <message>
         <source>Looking for moved designs</source>
@@ -2524,6 +2550,296 @@ Options:
     </message>
 </context>
 <context>
+    <name>SheetCommand</name>
+    <message>
+        <source>Put pictures of designs onto pages of a PDF.</source>
+        <translation>把花样的图片排到 PDF 的页面上。</translation>
+    </message>
+    <message>
+        <source>Makes a PDF with a contact sheet of all designs of the catalogue, or of those that are chosen, or with a work sheet for each. Designs that are named need not be in the catalogue and come in the order of their names; a dash reads the names from standard input.</source>
+        <translation>生成 PDF：目录中全部花样或所选花样的缩略图总览，或每个花样一份工作单。按名称给出的花样不必在目录中，并按给出的顺序排列；短横线表示从标准输入读取名称。</translation>
+    </message>
+    <message>
+        <source>Where the PDF goes to.</source>
+        <translation>PDF 的写入位置。</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there.</source>
+        <translation>替换已有的文件。</translation>
+    </message>
+    <message>
+        <source>A work sheet for each design rather than a contact sheet of all.</source>
+        <translation>为每个花样生成工作单，而不是全部花样的缩略图总览。</translation>
+    </message>
+    <message>
+        <source>One of %1; A4 if not given.</source>
+        <translation>可选 %1；未指定时为 A4。</translation>
+    </message>
+    <message>
+        <source>The paper lies on its longer side.</source>
+        <translation>纸张横向放置。</translation>
+    </message>
+    <message>
+        <source>Title of a contact sheet.</source>
+        <translation>缩略图总览的标题。</translation>
+    </message>
+    <message>
+        <source>Columns of a contact sheet; 4 if not given.</source>
+        <translation>缩略图总览的列数；未指定时为 4。</translation>
+    </message>
+    <message>
+        <source>What stands under each picture of a contact sheet: some of %1, with commas between them, or nothing.</source>
+        <translation>缩略图总览中每张图片下方的内容：从 %1 中选择若干项，以逗号分隔，或留空。</translation>
+    </message>
+    <message>
+        <source>A contact sheet with a heading for each folder.</source>
+        <translation>缩略图总览中为每个文件夹加标题。</translation>
+    </message>
+    <message>
+        <source>Work sheets without a page in true size.</source>
+        <translation>工作单不含实际大小的页面。</translation>
+    </message>
+    <message>
+        <source>Pages without numbers.</source>
+        <translation>页面不带页码。</translation>
+    </message>
+    <message>
+        <source>Unknown fact &apos;%1&apos;; there are %2.</source>
+        <translation>未知内容“%1”；可用的有 %2。</translation>
+    </message>
+    <message>
+        <source>Unknown paper &apos;%1&apos;; there are %2.</source>
+        <translation>未知纸张“%1”；可用的有 %2。</translation>
+    </message>
+    <message>
+        <source>The columns must be a number from 1 to %1.</source>
+        <translation>列数必须是 1 到 %1 之间的数字。</translation>
+    </message>
+    <message>
+        <source>No PDF given; --pdf OUT.pdf tells where it goes to.</source>
+        <translation>未指定 PDF；请用 --pdf OUT.pdf 指明写入位置。</translation>
+    </message>
+    <message>
+        <source>There are no designs to show.</source>
+        <translation>没有可显示的花样。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetCommands</name>
+    <message>
+        <source>Designs</source>
+        <translation>花样</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export as PDF...</source>
+        <translation>导出为 PDF(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>There are no designs to print.</source>
+        <translation>没有可打印的花样。</translation>
+    </message>
+    <message>
+        <source>A sheet shows the selected designs, or all that the grid shows.</source>
+        <translation>页面显示所选的花样，或当前显示的全部花样。</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled. Pages that are on their way may still be printed.</source>
+        <translation>打印已取消。已发送的页面可能仍会打印。</translation>
+    </message>
+    <message>
+        <source>The designs could not be printed.</source>
+        <translation>无法打印花样。</translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation>导出为 PDF</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF 文档 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>要替换该文件吗？</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was written: %n page(s).</source>
+        <translation>
+            <numerusform>已写入 %1：%n 页。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The PDF could not be written.</source>
+        <translation>无法写入 PDF。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+</context>
+<context>
+    <name>SheetDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation>导出为 PDF</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>打印…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+</context>
+<context>
+    <name>SheetForm</name>
+    <message>
+        <source>Sheet</source>
+        <translation>页面类型</translation>
+    </message>
+    <message>
+        <source>&amp;Contact sheet: pictures in rows</source>
+        <translation>缩略图总览：成行的图片(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Work sheet for each design</source>
+        <translation>每个花样一份工作单(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Designs</source>
+        <translation>花样</translation>
+    </message>
+    <message>
+        <source>&amp;Selected (%1)</source>
+        <translation>所选 (%1)(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;All shown (%1)</source>
+        <translation>显示的全部 (%1)(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>S&amp;ize:</source>
+        <translation>大小(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>方向(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Page &amp;numbers</source>
+        <translation>页码(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>缩略图总览</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>标题(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Col&amp;umns:</source>
+        <translation>列数(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>名称(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Design si&amp;ze</source>
+        <translation>花样尺寸(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Stitc&amp;hes</source>
+        <translation>针数(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Co&amp;lors</source>
+        <translation>颜色数(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs</source>
+        <translation>标签(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Not&amp;es</source>
+        <translation>备注(&amp;E)</translation>
+    </message>
+    <message>
+        <source>By &amp;folder, each with a heading</source>
+        <translation>按文件夹分组并加标题(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Work sheet</source>
+        <translation>工作单</translation>
+    </message>
+    <message>
+        <source>A page in t&amp;rue size, with the hoop</source>
+        <translation>含绣框的实际大小页面(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>Design %1 of %2, page %3 of %4</source>
+        <translation>花样 %1/%2，第 %3 页，共 %4 页</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+</context>
+<context>
+    <name>SheetPrinter</name>
+    <message>
+        <source>The printer has failed.</source>
+        <translation>打印机出现故障。</translation>
+    </message>
+</context>
+<context>
+    <name>SheetWriter</name>
+    <message>
+        <source>The pages cannot be written.</source>
+        <translation>无法写入页面。</translation>
+    </message>
+</context>
+<context>
     <name>SmartFolderCheck</name>
     <message>
         <source>Nothing was changed. With --prune the designs of such folders leave the catalogue.</source>
@@ -2807,6 +3123,29 @@ Options:
     </message>
 </context>
 <context>
+    <name>ThreadList</name>
+    <message>
+        <source>Color name</source>
+        <translation>颜色名称</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>色卡</translation>
+    </message>
+    <message>
+        <source>Stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+</context>
+<context>
     <name>ThreadTable</name>
     <message>
         <source>Threads</source>
@@ -2950,6 +3289,25 @@ Options:
     </message>
 </context>
 <context>
+    <name>TrueSizePicture</name>
+    <message>
+        <source>Reduced to %1%: the design is larger than the paper</source>
+        <translation>缩小到 %1%：花样大于纸张</translation>
+    </message>
+    <message>
+        <source>True size; the design is larger than any hoop</source>
+        <translation>实际大小；花样大于任何绣框</translation>
+    </message>
+    <message>
+        <source>True size, without its hoop of %1, which is larger than the paper</source>
+        <translation>实际大小，不含大于纸张的 %1 绣框</translation>
+    </message>
+    <message>
+        <source>True size in a hoop of %1</source>
+        <translation>%1 绣框中的实际大小</translation>
+    </message>
+</context>
+<context>
     <name>UnreadDesign</name>
     <message>
         <source>Not read yet</source>
@@ -2958,6 +3316,57 @@ Options:
     <message>
         <source>“Rescan” reads it.</source>
         <translation>“重新扫描”即可读取。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkSheet</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>Design size</source>
+        <translation>花样尺寸</translation>
+    </message>
+    <message>
+        <source>Hoop</source>
+        <translation>绣框</translation>
+    </message>
+    <message>
+        <source>no hoop fits</source>
+        <translation>没有合适的绣框</translation>
+    </message>
+    <message>
+        <source>Number of stitches</source>
+        <translation>针数</translation>
+    </message>
+    <message>
+        <source>Number of colors</source>
+        <translation>颜色数</translation>
+    </message>
+    <message>
+        <source>Thread</source>
+        <translation>绣线</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Room to write</source>
+        <translation>书写区</translation>
+    </message>
+    <message>
+        <source>2 inches, if the printer keeps the size</source>
+        <translation>2 英寸（若打印机保持原尺寸）</translation>
+    </message>
+    <message>
+        <source>50 mm, if the printer keeps the size</source>
+        <translation>50 毫米（若打印机保持原尺寸）</translation>
     </message>
 </context>
 </TS>
