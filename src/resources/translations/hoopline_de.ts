@@ -916,8 +916,8 @@ Befehle; jeder hat eine eigene --help:</translation>
 %1</translation>
     </message>
     <message>
-        <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan, without tags and notes.</source>
-        <translation>Dateien lassen sich aus dem Papierkorb zurückholen; der Katalog findet sie dann beim nächsten Einlesen, ohne Schlagwörter und Notizen.</translation>
+        <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan.</source>
+        <translation>Dateien lassen sich aus dem Papierkorb zurückholen; der Katalog findet sie dann beim nächsten Einlesen.</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) stayed where they were.</source>
@@ -2667,11 +2667,11 @@ Optionen:
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation>&amp;Drucken...</translation>
+        <translation>&amp;Drucken …</translation>
     </message>
     <message>
         <source>&amp;Export as PDF...</source>
-        <translation>Als PDF &amp;exportieren...</translation>
+        <translation>Als PDF &amp;exportieren …</translation>
     </message>
     <message>
         <source>There are no designs to print.</source>
@@ -2728,12 +2728,12 @@ Optionen:
         <translation>Als PDF exportieren</translation>
     </message>
     <message>
-        <source>Print…</source>
-        <translation>Drucken…</translation>
+        <source>Print...</source>
+        <translation>Drucken …</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <source>Export...</source>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>Previous page</source>

@@ -43,11 +43,11 @@
     <name>BackupCommand</name>
     <message>
         <source>Keep a copy of the catalogue.</source>
-        <translation>保留目录的副本。</translation>
+        <translation>保留花样库的副本。</translation>
     </message>
     <message>
         <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself.</source>
-        <translation>保留上次保存的目录的副本：保存到 FILE（名称以 .gz 结尾时压缩）；未指定文件时，保存到程序自动创建的备份中。</translation>
+        <translation>保留上次保存的花样库的副本：保存到 FILE（名称以 .gz 结尾时压缩）；未指定文件时，保存到程序自动创建的备份中。</translation>
     </message>
     <message>
         <source>Replace a file that is there.</source>
@@ -59,7 +59,7 @@
     </message>
     <message>
         <source>The catalogue is damaged; no backup was made.</source>
-        <translation>目录已损坏；未创建备份。</translation>
+        <translation>花样库已损坏；未创建备份。</translation>
     </message>
     <message>
         <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
@@ -81,11 +81,11 @@
     </message>
     <message>
         <source>There are no backups yet. Before the first change of a day the catalogue is kept here as it was.</source>
-        <translation>还没有备份。每天首次更改之前，目录会按原样保留在此处。</translation>
+        <translation>还没有备份。每天首次更改之前，花样库会按原样保留在此处。</translation>
     </message>
     <message>
         <source>The catalogue as it was before the first change of a day, or when something else took its place. What is there now is kept when you restore one.</source>
-        <translation>每天首次更改之前的目录，或被其他内容取代时的目录。恢复备份时，当前内容会被保留。</translation>
+        <translation>每天首次更改之前的花样库，或被其他内容取代时的花样库。恢复备份时，当前内容会被保留。</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>No backup of the catalogue could be made: %1</source>
-        <translation>无法备份目录：%1</translation>
+        <translation>无法备份花样库：%1</translation>
     </message>
     <message>
         <source>The backup of %1 was restored. What was there before is kept as a backup.</source>
@@ -906,8 +906,8 @@ Commands; each has a --help of its own:</source>
 %1</translation>
     </message>
     <message>
-        <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan, without tags and notes.</source>
-        <translation>文件可以从回收站还原；下次重新扫描时花样库会再次找到它们，但不再带有标签和备注。</translation>
+        <source>Files can be taken back out of the trash; the catalogue then finds them with the next rescan.</source>
+        <translation>文件可以从回收站还原；下次重新扫描时花样库会再次找到它们。</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) stayed where they were.</source>
@@ -1017,7 +1017,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>No backup of the catalogue could be made: %1</source>
-        <translation>无法备份目录：%1</translation>
+        <translation>无法备份花样库：%1</translation>
     </message>
 </context>
 <context>
@@ -1921,12 +1921,12 @@ Commands; each has a --help of its own:</source>
     <message numerus="yes">
         <source>The tags, notes and stars of %n design(s) that left the catalogue are remembered. Designs that come back get them back.</source>
         <translation>
-            <numerusform>已记住 %n 个离开目录的花样的标签、备注和收藏。花样回到目录时会恢复这些内容。</numerusform>
+            <numerusform>已记住 %n 个离开花样库的花样的标签、备注和收藏。花样回到花样库时会恢复这些内容。</numerusform>
         </translation>
     </message>
     <message>
         <source>The tags, notes and stars of designs that leave the catalogue are remembered. For now there are none.</source>
-        <translation>离开目录的花样的标签、备注和收藏会被记住。目前没有。</translation>
+        <translation>离开花样库的花样的标签、备注和收藏会被记住。目前没有。</translation>
     </message>
     <message numerus="yes">
         <source>Do you want to forget the tags, notes and stars of %n design(s)?</source>
@@ -1936,7 +1936,7 @@ Commands; each has a --help of its own:</source>
     </message>
     <message>
         <source>This cannot be undone. Designs in the catalogue keep theirs.</source>
-        <translation>此操作无法撤销。目录中的花样不受影响。</translation>
+        <translation>此操作无法撤销。花样库中的花样不受影响。</translation>
     </message>
 </context>
 <context>
@@ -2234,11 +2234,11 @@ Options:
     <name>RestoreCommand</name>
     <message>
         <source>Put a backup into the place of the catalogue.</source>
-        <translation>用备份替换目录。</translation>
+        <translation>用备份替换花样库。</translation>
     </message>
     <message>
         <source>Puts a backup, or another copy of a catalogue, into the place of the catalogue. The catalogue that was there is kept among the backups, and its path printed.</source>
-        <translation>用备份或目录的其他副本替换目录。原有目录会保留在备份中，并输出其路径。</translation>
+        <translation>用备份或花样库的其他副本替换花样库。原有花样库会保留在备份中，并输出其路径。</translation>
     </message>
     <message>
         <source>No file given.</source>
@@ -2250,7 +2250,7 @@ Options:
     </message>
     <message>
         <source>&apos;%1&apos; is no whole catalogue.</source>
-        <translation>“%1”不是完整的目录。</translation>
+        <translation>“%1”不是完整的花样库。</translation>
     </message>
 </context>
 <context>
@@ -2557,7 +2557,7 @@ Options:
     </message>
     <message>
         <source>Makes a PDF with a contact sheet of all designs of the catalogue, or of those that are chosen, or with a work sheet for each. Designs that are named need not be in the catalogue and come in the order of their names; a dash reads the names from standard input.</source>
-        <translation>生成 PDF：目录中全部花样或所选花样的缩略图总览，或每个花样一份工作单。按名称给出的花样不必在目录中，并按给出的顺序排列；短横线表示从标准输入读取名称。</translation>
+        <translation>生成 PDF：花样库中全部花样或所选花样的缩略图总览，或每个花样一份工作单。按名称给出的花样不必在花样库中，并按给出的顺序排列；短横线表示从标准输入读取名称。</translation>
     </message>
     <message>
         <source>Where the PDF goes to.</source>
@@ -2632,11 +2632,11 @@ Options:
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation>打印(&amp;P)...</translation>
+        <translation>打印(&amp;P)…</translation>
     </message>
     <message>
         <source>&amp;Export as PDF...</source>
-        <translation>导出为 PDF(&amp;E)...</translation>
+        <translation>导出为 PDF(&amp;E)…</translation>
     </message>
     <message>
         <source>There are no designs to print.</source>
@@ -2692,11 +2692,11 @@ Options:
         <translation>导出为 PDF</translation>
     </message>
     <message>
-        <source>Print…</source>
+        <source>Print...</source>
         <translation>打印…</translation>
     </message>
     <message>
-        <source>Export…</source>
+        <source>Export...</source>
         <translation>导出…</translation>
     </message>
     <message>

@@ -138,7 +138,7 @@ bool DuplicatesDialog::confirms(const IFile &kept, const Files &others)
                 .arg(QDir::toNativeSeparators(kept.absoluteFilePath())) +
             QStringLiteral("\n\n") +
             tr("Files can be taken back out of the trash; the catalogue then finds them with the "
-               "next rescan, without tags and notes."));
+               "next rescan."));
     return question.exec() == QMessageBox::Yes;
 }
 

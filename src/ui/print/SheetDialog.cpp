@@ -33,7 +33,7 @@ SheetDialog::SheetDialog(Purpose purpose, const QVector<SheetDesign> &selected,
     new FocusReturn(this);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     QPushButton *go =
-        buttons->addButton(prints ? tr("Print…") : tr("Export…"), QDialogButtonBox::AcceptRole);
+        buttons->addButton(prints ? tr("Print...") : tr("Export..."), QDialogButtonBox::AcceptRole);
     go->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &SheetDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SheetDialog::reject);
