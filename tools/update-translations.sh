@@ -13,7 +13,7 @@ folder=${1:-src/resources/translations}
 lupdate=${LUPDATE:-$(command -v lupdate || echo /usr/lib/qt5/bin/lupdate)}
 frame=(src/base src/app/addons src/app/application src/app/frame src/online src/properties
     src/widgets)
-product=(src/app/*.cpp src/catalogue src/cli src/drives src/preview src/sheets src/ui)
+product=(src/app/*.cpp src/catalogue src/cli src/drives src/preview src/ui)
 
 # update COLLECTION SOURCE...
 update() {

@@ -11,8 +11,8 @@
 #include "cli/Interrupt.h"
 #include "cli/LocalPath.h"
 #include "cli/OutputFile.h"
-#include "sheets/PdfFile.h"
-#include "sheets/SheetDesign.h"
+#include "preview/sheets/PdfFile.h"
+#include "preview/sheets/SheetDesign.h"
 #include <QFileInfo>
 #include <QHash>
 

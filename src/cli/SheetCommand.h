@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/Command.h"
-#include "sheets/SheetOptions.h"
+#include "preview/sheets/SheetOptions.h"
 #include <QCoreApplication>
 
 /** Puts designs onto pages of a PDF. */

@@ -7,7 +7,7 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"
-#include "sheets/PdfFile.h"
+#include "preview/sheets/PdfFile.h"
 #include "ui/NoticeBar.h"
 #include "ui/print/SheetDialog.h"
 #include "ui/print/SheetPrinter.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sheets/SheetDesign.h"
+#include "preview/sheets/SheetDesign.h"
 
 #include <QObject>
 #include <QVector>

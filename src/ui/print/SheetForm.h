@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sheets/SheetOptions.h"
+#include "preview/sheets/SheetOptions.h"
 
 #include <QList>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "ui/print/SheetPages.h"
 
 #include "catalogue/records/DesignTexts.h"
-#include "sheets/PaperUnits.h"
+#include "preview/sheets/PaperUnits.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sheets/DesignQueue.h"
-#include "sheets/Sheet.h"
+#include "preview/sheets/DesignQueue.h"
+#include "preview/sheets/Sheet.h"
 
 #include <memory>
 #include <optional>

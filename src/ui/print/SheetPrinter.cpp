@@ -1,8 +1,8 @@
 #include "ui/print/SheetPrinter.h"
 
 #include "base/Error.h"
-#include "sheets/PaperUnits.h"
-#include "sheets/SheetWriter.h"
+#include "preview/sheets/PaperUnits.h"
+#include "preview/sheets/SheetWriter.h"
 
 #include <QPrintDialog>
 #include <QPrinter>

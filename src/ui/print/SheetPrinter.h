@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sheets/SheetDesign.h"
-#include "sheets/SheetOptions.h"
+#include "preview/sheets/SheetDesign.h"
+#include "preview/sheets/SheetOptions.h"
 
 #include <memory>
 #include <QCoreApplication>

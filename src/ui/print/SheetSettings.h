@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sheets/SheetOptions.h"
+#include "preview/sheets/SheetOptions.h"
 
 /** What the user has chosen for the last sheet. */
 namespace SheetSettings {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sheets/ContactSheetLayout.h"
-#include "sheets/Sheet.h"
+#include "preview/sheets/ContactSheetLayout.h"
+#include "preview/sheets/Sheet.h"
 
 #include <QCoreApplication>
 #include <QFont>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sheets/DrawnDesign.h"
-#include "sheets/SheetOptions.h"
+#include "preview/sheets/DrawnDesign.h"
+#include "preview/sheets/SheetOptions.h"
 
 #include <memory>
 #include <QSizeF>

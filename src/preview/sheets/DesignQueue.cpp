@@ -1,4 +1,4 @@
-#include "sheets/DesignQueue.h"
+#include "preview/sheets/DesignQueue.h"
 
 #include <algorithm>
 #include <QThread>

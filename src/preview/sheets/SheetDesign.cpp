@@ -1,4 +1,4 @@
-#include "sheets/SheetDesign.h"
+#include "preview/sheets/SheetDesign.h"
 
 #include "base/GlobalSettings.h"
 #include "catalogue/records/IFile.h"

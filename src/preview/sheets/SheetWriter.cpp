@@ -1,10 +1,10 @@
-#include "sheets/SheetWriter.h"
+#include "preview/sheets/SheetWriter.h"
 
 #include "base/Error.h"
 #include "base/IProgressAbortListener.h"
 #include "base/threads/ResponsiveWait.h"
-#include "sheets/DesignQueue.h"
-#include "sheets/PaperUnits.h"
+#include "preview/sheets/DesignQueue.h"
+#include "preview/sheets/PaperUnits.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>

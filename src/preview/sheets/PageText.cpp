@@ -1,6 +1,6 @@
-#include "sheets/PageText.h"
+#include "preview/sheets/PageText.h"
 
-#include "sheets/PaperUnits.h"
+#include "preview/sheets/PaperUnits.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
-#include "sheets/ThreadList.h"
+#include "preview/sheets/ThreadList.h"
 
 #include "catalogue/records/DesignTexts.h"
-#include "sheets/PageFlow.h"
-#include "sheets/PageText.h"
-#include "sheets/PaperUnits.h"
+#include "preview/sheets/PageFlow.h"
+#include "preview/sheets/PageText.h"
+#include "preview/sheets/PaperUnits.h"
 
 #include <numeric>
 #include <QPainter>

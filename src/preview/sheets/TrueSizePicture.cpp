@@ -1,4 +1,4 @@
-#include "sheets/TrueSizePicture.h"
+#include "preview/sheets/TrueSizePicture.h"
 
 #include "catalogue/records/DesignTexts.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
@@ -6,7 +6,7 @@
 #include "preview/drawing/DesignDrawing.h"
 #include "preview/drawing/HoopOutline.h"
 #include "preview/drawing/StitchRaster.h"
-#include "sheets/PaperUnits.h"
+#include "preview/sheets/PaperUnits.h"
 
 #include <algorithm>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "sheets/DrawnDesign.h"
+#include "preview/sheets/DrawnDesign.h"
 
 #include "preview/drawing/DesignDrawing.h"
 #include "preview/drawing/ReadDesign.h"

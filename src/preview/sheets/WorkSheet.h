@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sheets/PageFlow.h"
-#include "sheets/Sheet.h"
+#include "preview/sheets/PageFlow.h"
+#include "preview/sheets/Sheet.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "preview/drawing/SewingOrder.h"
-#include "sheets/SheetDesign.h"
+#include "preview/sheets/SheetDesign.h"
 
 #include <QImage>
 #include <QSharedPointer>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/threads/OrderedWorkers.h"
-#include "sheets/DrawnDesign.h"
+#include "preview/sheets/DrawnDesign.h"
 
 #include <chrono>
 #include <optional>

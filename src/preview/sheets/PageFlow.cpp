@@ -1,4 +1,4 @@
-#include "sheets/PageFlow.h"
+#include "preview/sheets/PageFlow.h"
 
 #include <QPainter>
 

@@ -1,9 +1,9 @@
 #include "preview/drawing/SewingOrder.h"
-#include "sheets/ContactSheetLayout.h"
-#include "sheets/PageFlow.h"
-#include "sheets/PageText.h"
-#include "sheets/PaperUnits.h"
-#include "sheets/TrueSizePicture.h"
+#include "preview/sheets/ContactSheetLayout.h"
+#include "preview/sheets/PageFlow.h"
+#include "preview/sheets/PageText.h"
+#include "preview/sheets/PaperUnits.h"
+#include "preview/sheets/TrueSizePicture.h"
 #include <algorithm>
 #include <numeric>
 #include <QPainter>

@@ -1,12 +1,12 @@
-#include "sheets/WorkSheet.h"
+#include "preview/sheets/WorkSheet.h"
 
 #include "catalogue/records/DesignTexts.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "embroidery/HoopSizes.h"
-#include "sheets/PageText.h"
-#include "sheets/PaperUnits.h"
-#include "sheets/ThreadList.h"
-#include "sheets/TrueSizePicture.h"
+#include "preview/sheets/PageText.h"
+#include "preview/sheets/PaperUnits.h"
+#include "preview/sheets/ThreadList.h"
+#include "preview/sheets/TrueSizePicture.h"
 
 #include <algorithm>
 #include <QPainter>

@@ -1,8 +1,8 @@
-#include "sheets/Sheet.h"
+#include "preview/sheets/Sheet.h"
 
-#include "sheets/ContactSheet.h"
-#include "sheets/PaperUnits.h"
-#include "sheets/WorkSheet.h"
+#include "preview/sheets/ContactSheet.h"
+#include "preview/sheets/PaperUnits.h"
+#include "preview/sheets/WorkSheet.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "sheets/ContactSheet.h"
+#include "preview/sheets/ContactSheet.h"
 
 #include "catalogue/records/DesignTexts.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
-#include "sheets/PageText.h"
-#include "sheets/PaperUnits.h"
+#include "preview/sheets/PageText.h"
+#include "preview/sheets/PaperUnits.h"
 
 #include <algorithm>
 #include <QHash>

@@ -1,9 +1,9 @@
-#include "sheets/PdfFile.h"
+#include "preview/sheets/PdfFile.h"
 
 #include "base/Error.h"
 #include "base/files/FileReplacement.h"
-#include "sheets/PaperUnits.h"
-#include "sheets/SheetWriter.h"
+#include "preview/sheets/PaperUnits.h"
+#include "preview/sheets/SheetWriter.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "sheets/ContactSheetLayout.h"
+#include "preview/sheets/ContactSheetLayout.h"
 
 #include <algorithm>
 

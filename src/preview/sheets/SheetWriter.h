@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sheets/Sheet.h"
+#include "preview/sheets/Sheet.h"
 
 #include <functional>
 #include <QCoreApplication>
