@@ -1,5 +1,6 @@
 #include "catalogue/userdata/UserDataStore.h"
 
+#include "base/files/FileTools.h"
 #include "base/GDebug.h"
 #include "catalogue/userdata/UserDataDatabase.h"
 #include "catalogue/userdata/UserDataError.h"
@@ -169,14 +170,19 @@ bool UserDataStore::attempt(const Task &task)
         }
         task(*m_database);
         m_failure.clear();
+        m_suspected = false;
         return true;
     } catch (const UserDataError &error) {
         logOnce(error.toString());
         // A fresh start knows nothing of what went wrong.
         m_database.reset();
-        if (error.kind() == UserDataError::Damaged && replaceDamaged())
-            return attempt(task);
-        m_unusable = error.kind() != UserDataError::Failed;
+        if (error.kind() == UserDataError::Damaged && isReadable()) {
+            // A page that the disk did not hand out looks like a damaged one: look again.
+            if (!std::exchange(m_suspected, true) || replaceDamaged())
+                return attempt(task);
+            m_unusable = true;
+        }
+        m_unusable = m_unusable || error.kind() == UserDataError::Newer;
     } catch (const std::exception &error) {
         logOnce(QString::fromLocal8Bit(error.what()));
     }
@@ -202,6 +208,16 @@ void UserDataStore::noticeLoss()
         return;
     m_database.reset();
     m_tasksDropped = true;
+}
+
+bool UserDataStore::isReadable() const
+{
+    try {
+        FileTools::readAll(m_path);
+        return true;
+    } catch (const Error &) {
+        return false;
+    }
 }
 
 /** Moves the file out of the way; false when it would be found damaged again and again. */

@@ -81,6 +81,7 @@ private:
     bool attempt(const Task &task);
     void logOnce(const QString &failure);
     void noticeLoss();
+    bool isReadable() const;
     bool replaceDamaged();
 
     QString m_path;
@@ -93,6 +94,7 @@ private:
     std::deque<Task> m_tasks;
     QString m_failure;
     bool m_tasksDropped = false;
-    bool m_replaced = false; ///< once is enough: what is damaged anew is no accident
+    bool m_suspected = false; ///< of being damaged, by whoever looked last
+    bool m_replaced = false;  ///< once is enough: what is damaged anew is no accident
     bool m_unusable = false;
 };
