@@ -16,6 +16,8 @@
 #include "preview/cache/PreviewCache.h"
 #include "properties/changes/BulkOperation.h"
 #include "properties/undo/GUndoStack.h"
+#include <algorithm>
+#include <iterator>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QSet>
@@ -23,19 +25,29 @@
 
 namespace {
 
-using Files = QList<QSharedPointer<IFile>>;
+using Record = QSharedPointer<IFile>;
+using Files = QList<Record>;
 
-Files newcomers(const Files &before, const Files &after)
+QSet<Record> filesOnceRead(const Files &files)
 {
-    QSet<const IFile *> known;
-    known.reserve(before.size());
-    for (const QSharedPointer<IFile> &file : before)
-        known.insert(file.data());
-    Files fresh;
-    for (const QSharedPointer<IFile> &file : after) {
-        if (!known.contains(file.data()))
-            fresh.append(file);
+    QSet<Record> read;
+    read.reserve(files.size());
+    for (const Record &file : files) {
+        if (!file->contentHash().isEmpty())
+            read.insert(file);
     }
+    return read;
+}
+
+/** Those whose content was met for the first time, and that bear nothing of their own. */
+Files newcomers(const QSet<Record> &readBefore, const Files &files)
+{
+    Files fresh;
+    std::copy_if(files.begin(), files.end(), std::back_inserter(fresh),
+                 [&readBefore](const Record &file) {
+                     return !readBefore.contains(file) && !file->isFavorite() &&
+                            file->notes().isEmpty() && file->tags().isEmpty();
+                 });
     return fresh;
 }
 
@@ -322,7 +334,7 @@ void ProjectController::scanSmartFolders()
 
 void ProjectController::synchronise()
 {
-    const auto before = m_project->files();
+    const auto readBefore = filesOnceRead(m_project->files());
     FileSync sync(m_project, m_listener, m_usage);
     sync.syncFilesWithDisk(Embroidery::EmbroideryIO::supportedFormats());
     m_lastScan = sync.counts();
@@ -330,7 +342,7 @@ void ProjectController::synchronise()
     if (sync.numChangedFiles() == 0)
         return;
     if (m_memory)
-        m_memory->giveBack(newcomers(before, m_project->files()));
+        m_memory->giveBack(newcomers(readBefore, m_project->files()));
     m_project->undoStack()->resetClean();
     PreviewCache::instance().clear();
 }
