@@ -38,5 +38,7 @@ void ScanController::saveProjectIfModified()
         return;
     // A drive can be pulled out while its folders are walked.
     expectFolders();
+    if (!m_prune)
+        SmartFolderCheck::expectListed(lastReport());
     ExclusiveController::saveProjectIfModified();
 }

@@ -1,6 +1,7 @@
 #include "cli/SmartFolderCheck.h"
 
 #include "catalogue/records/Project.h"
+#include "catalogue/sync/ScanReport.h"
 #include "cli/CommandError.h"
 #include "cli/Console.h"
 #include "embroidery/EmbroideryIO.h"
@@ -69,6 +70,22 @@ void SmartFolderCheck::expectAll(const Project &project)
     if (problems.isEmpty())
         return;
     std::for_each(problems.begin(), problems.end(), Console::reportError);
+    refuse();
+}
+
+void SmartFolderCheck::expectListed(const ScanReport &report)
+{
+    for (const SkippedEntry &folder : report.skipped) {
+        const QString prefix = folder.path + QLatin1Char('/');
+        if (folder.kind != SkippedEntry::UndecodableName &&
+            std::any_of(report.removed.begin(), report.removed.end(),
+                        [&prefix](const QString &path) { return path.startsWith(prefix); }))
+            refuse();
+    }
+}
+
+void SmartFolderCheck::refuse()
+{
     throw CommandError(FolderMissing, tr("Nothing was changed. With --prune the designs of "
                                          "such folders leave the catalogue."));
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class Project;
+struct ScanReport;
 
 /**
  * Tells folders that cannot be trusted to show all they hold: a drive that is not plugged
@@ -22,6 +23,13 @@ public:
      */
     static void expectAll(const Project &project);
 
+    /**
+     * The same of a scan that has gone through them: a folder that could not be listed just
+     * then hides its designs as well. Who reports the scan names it.
+     */
+    static void expectListed(const ScanReport &report);
+
 private:
+    [[noreturn]] static void refuse();
     static QString problemOf(const QString &folder, const QStringList &knownDesigns);
 };
