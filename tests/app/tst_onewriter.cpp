@@ -136,7 +136,14 @@ void OneWriterTest::organizerWaitsForAScan()
 
 void OneWriterTest::killedOrganizerIsFollowedAtOnce()
 {
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 4; ++i) {
+        // A new folder for temporary files may get the number of an old one, and with it what
+        // bears its name in the kernel.
+        if (i > 1) {
+            const QString temporary = m_profile->filePath(QString::number(i));
+            QVERIFY(QDir().mkpath(temporary));
+            m_environment.insert("TMPDIR", temporary);
+        }
         QProcess organizer;
         start(organizer, PROGRAM);
         QTRY_COMPARE_WITH_TIMEOUT(lockHolder(), organizer.processId(), Patience);
