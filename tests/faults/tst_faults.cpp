@@ -284,5 +284,8 @@ QString FaultsTest::wordsMissing(Task task, const Outcome &outcome) const
     return QString();
 }
 
+// Under the eyes of a sanitizer a thousand runs take longer than QtTest has patience for.
+[[maybe_unused]] static const bool patient = qputenv("QTEST_FUNCTION_TIMEOUT", "1200000");
+
 QTEST_GUILESS_MAIN(FaultsTest)
 #include "tst_faults.moc"
