@@ -1,7 +1,7 @@
 #include "base/GlobalSettings.h"
 #include "catalogue/sync/FileSync.h"
 #include "embroidery/EmbroideryIO.h"
-#include "import/Stopwatch.h"
+#include "support/Stopwatch.h"
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "base/files/FileTools.h"
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"
-#include "import/Stopwatch.h"
+#include "support/Stopwatch.h"
 #include "preview/render/PreviewRenderer.h"
 #include <cmath>
 #include <QCryptographicHash>
