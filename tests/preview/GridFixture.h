@@ -53,7 +53,7 @@ public:
     /** In pixels of the viewport. */
     QRect cardRect(int index) const
     {
-        return view->mapFromScene(card(index)->sceneBoundingRect()).boundingRect();
+        return view->mapFromScene(scene->sheetLayout().rectOf(index)).boundingRect();
     }
     bool isInView(int index) const { return viewport()->rect().contains(cardRect(index)); }
 

@@ -42,7 +42,7 @@ void tst_GridKeyboard::initTestCase()
 void tst_GridKeyboard::movesAndSelects()
 {
     GridFixture grid(50);
-    QCOMPARE(grid.scene->columns(), 3);
+    QCOMPARE(grid.scene->sheetLayout().columns(), 3);
     // The last row, of two cards, begins with 48.
     const QList<QPair<Qt::Key, int>> way = {
         {Qt::Key_Down, 0},   {Qt::Key_Down, 3},     {Qt::Key_Right, 4},     {Qt::Key_End, 49},
@@ -55,9 +55,9 @@ void tst_GridKeyboard::movesAndSelects()
         QCOMPARE(grid.selected(), grid.range(step.second, step.second));
     }
     grid.view->zoomTo(0.5);
-    QVERIFY(grid.scene->columns() > 3);
+    QVERIFY(grid.scene->sheetLayout().columns() > 3);
     grid.press(Qt::Key_Down);
-    QCOMPARE(grid.current(), 11 + grid.scene->columns());
+    QCOMPARE(grid.current(), 11 + grid.scene->sheetLayout().columns());
 }
 
 void tst_GridKeyboard::startsWhereTheUserLooks()

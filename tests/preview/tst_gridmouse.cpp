@@ -17,6 +17,7 @@ private slots:
     void zoomStaysWhereTheUserLooks();
     void rubberBandScrollsAtTheEdge_data();
     void rubberBandScrollsAtTheEdge();
+    void selectionReachesBeyondTheView();
     void doubleClickOnAStarIsOneClick();
     void shortenedNameHasAToolTip();
     void paleThreadHasAGround();
@@ -114,6 +115,40 @@ void tst_gridmouse::rubberBandScrollsAtTheEdge()
     const int after = bar->value();
     QTest::qWait(60);
     QCOMPARE(bar->value(), after);
+}
+
+void tst_gridmouse::selectionReachesBeyondTheView()
+{
+    GridFixture grid(60);
+    QScrollBar *bar = grid.view->verticalScrollBar();
+    const auto show = [&](int index) {
+        bar->setValue(bar->value() + grid.cardRect(index).top());
+        grid.viewport()->repaint();
+    };
+    grid.press(Qt::Key_A, Qt::ControlModifier);
+    show(30);
+    // A click on one of several selects it alone, also among those that nobody sees.
+    grid.click(30);
+    QCOMPARE(grid.selected(), grid.range(30, 30));
+    show(57);
+    grid.click(57, Qt::ControlModifier);
+    QCOMPARE(grid.selected(), grid.range(30, 30) + grid.range(57, 57));
+    // A band drawn with Ctrl adds to it, one without begins anew, and so does the bare ground.
+    const QPoint ground = grid.cardRect(58).topLeft() - QPoint(4, 4);
+    const auto band = [&](Qt::KeyboardModifiers modifiers, const QPoint &to) {
+        QTest::mousePress(grid.viewport(), Qt::LeftButton, modifiers, ground);
+        QMouseEvent move(QEvent::MouseMove, to, grid.viewport()->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, modifiers);
+        QCoreApplication::sendEvent(grid.viewport(), &move);
+        QTest::mouseRelease(grid.viewport(), Qt::LeftButton, modifiers, to);
+    };
+    band(Qt::ControlModifier, grid.cardRect(58).center());
+    QCOMPARE(grid.selected(), grid.range(30, 30) + grid.range(57, 58));
+    band(Qt::NoModifier, grid.cardRect(58).center());
+    QCOMPARE(grid.selected(), grid.range(58, 58));
+    grid.press(Qt::Key_A, Qt::ControlModifier);
+    band(Qt::NoModifier, ground);
+    QVERIFY(grid.selected().isEmpty());
 }
 
 void tst_gridmouse::doubleClickOnAStarIsOneClick()

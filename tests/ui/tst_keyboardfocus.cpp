@@ -1,11 +1,11 @@
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
+#include "preview/grid/GridPreviewScene.h"
 #include "support/DstDesign.h"
 #include "ui/MainWindow.h"
 #include "ui/ProgressDialog.h"
 #include "widgets/controls/FocusReturn.h"
 
-#include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QLineEdit>
 #include <QPointer>
@@ -102,11 +102,12 @@ void tst_keyboardfocus::survivesQuickRescans()
     QVERIFY(QTest::qWaitForWindowActive(&window));
     window.filesDropped({m_directory.filePath(QStringLiteral("designs"))});
     auto *view = window.findChild<QGraphicsView *>();
+    auto *scene = window.findChild<GridPreviewScene *>();
     view->setFocus();
     for (int round = 0; round < Rounds; ++round) {
-        view->scene()->clearSelection();
+        scene->selectNone();
         QVERIFY(strike({QStringLiteral("F5"), QStringLiteral("ctrl+a")}));
-        QTRY_COMPARE(view->scene()->selectedItems().size(), Designs);
+        QTRY_COMPARE(scene->selectedFiles().size(), Designs);
     }
 }
 

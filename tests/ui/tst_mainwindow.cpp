@@ -3,7 +3,6 @@
 #include "base/Error.h"
 #include "base/GlobalSettings.h"
 #include "catalogue/watch/FolderWatcher.h"
-#include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PreviewBrowser.h"
 #include "support/DstDesign.h"
@@ -23,7 +22,6 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
-#include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
@@ -105,7 +103,7 @@ private:
     void open();
     QString createFolder(const QString &name, const QStringList &designs);
     QAction *action(const QString &text) const;
-    QGraphicsScene *scene() const;
+    GridPreviewScene *scene() const;
     DesignWindow *shownDesign() const;
     EmptyHint *hint() const { return m_window->findChild<EmptyHint *>(); }
     QString hintText() const { return hint()->findChild<QLabel *>()->text(); }
@@ -169,9 +167,9 @@ QAction *tst_mainwindow::action(const QString &text) const
     qFatal("no action %s", qPrintable(text));
 }
 
-QGraphicsScene *tst_mainwindow::scene() const
+GridPreviewScene *tst_mainwindow::scene() const
 {
-    return m_window->findChild<PreviewBrowser *>()->findChild<QGraphicsView *>()->scene();
+    return m_window->findChild<GridPreviewScene *>();
 }
 
 DesignWindow *tst_mainwindow::shownDesign() const
@@ -251,7 +249,7 @@ void tst_mainwindow::sortsAndRemembersIt()
         QString names;
         const auto *cards = m_window->findChild<GridPreviewScene *>();
         for (int i = 0; i < cards->count(); ++i)
-            names += QFileInfo(cards->cardAt(i)->file()->absoluteFilePath()).baseName();
+            names += QFileInfo(cards->fileAt(i)->absoluteFilePath()).baseName();
         return names;
     };
     open();
@@ -359,7 +357,7 @@ void tst_mainwindow::keepsCatalogueAndLayout()
     QCOMPARE(m_window->size(), QSize(1100, 720));
     QVERIFY(action(QStringLiteral("&Remove folder"))->isEnabled());
     action(QStringLiteral("Select all"))->trigger();
-    QCOMPARE(scene()->selectedItems().size(), 2);
+    QCOMPARE(scene()->selectedFiles().size(), 2);
     for (const char *key : {"mainWindowSplitter", "leftSidebarSplitter", "RightSideBarSplitter"})
         QVERIFY(GSettings().contains(QStringLiteral("windowSettings/%1").arg(QLatin1String(key))));
 }
@@ -458,9 +456,9 @@ void tst_mainwindow::emptySheetLeadsOutOfTheFilter()
 
     hintButton()->click();
     QVERIFY(!hint()->isVisible());
-    QCOMPARE(scene()->items().isEmpty(), false);
+    QVERIFY(scene()->count() > 0);
     action(QStringLiteral("Select all"))->trigger();
-    QCOMPARE(scene()->selectedItems().size(), 2);
+    QCOMPARE(scene()->selectedFiles().size(), 2);
     QVERIFY(search->text().isEmpty());
     QCOMPARE(m_window->focusWidget(), scene()->views().first());
 }
@@ -475,7 +473,7 @@ void tst_mainwindow::selectsWhatTheFilterShows()
     auto *search = m_window->findChild<QLineEdit *>(QStringLiteral("searchTextLineEdit"));
     QTest::keyClicks(search, QStringLiteral("rose"));
     action(QStringLiteral("Select all"))->trigger();
-    QCOMPARE(scene()->selectedItems().size(), 2);
+    QCOMPARE(scene()->selectedFiles().size(), 2);
 }
 
 void tst_mainwindow::opensADesignInItsWindow()
@@ -495,9 +493,9 @@ void tst_mainwindow::opensADesignInItsWindow()
     QVERIFY(design && QTest::qWaitForWindowActive(design));
     QVERIFY(design->windowTitle().contains(QStringLiteral("rose.dst")));
     // The grid goes along with it.
-    scene()->clearSelection();
+    scene()->selectNone();
     QTest::keyClick(design, Qt::Key_Right);
-    QCOMPARE(scene()->selectedItems().size(), 1);
+    QCOMPARE(scene()->selectedFiles().size(), 1);
     QTest::keyClick(design, Qt::Key_Escape);
     QVERIFY(!design->isVisible());
     m_window->activateWindow();
@@ -619,7 +617,7 @@ void tst_mainwindow::stoppedImportLeadsToTheRest()
              qPrintable(told));
     const auto buttons = m_window->findChild<NoticeBar *>()->findChildren<QPushButton *>();
     buttons.last()->click();
-    QCOMPARE(scene()->items().isEmpty(), false);
+    QVERIFY(scene()->count() > 0);
     action(QStringLiteral("&Rescan"))->trigger();
     QCOMPARE(notice(), QStringLiteral("Nothing has changed."));
 }

@@ -1,7 +1,6 @@
 #include "app/application/HooplineApplication.h"
 #include "base/files/FileLock.h"
 #include "base/GlobalSettings.h"
-#include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridGraphicsView.h"
 #include "support/DstDesign.h"
 #include "support/MessageBoxes.h"
@@ -90,8 +89,8 @@ QStringList OpeningTest::selected() const
 {
     QStringList names;
     for (int i = 0; i < scene()->count(); ++i) {
-        if (scene()->cardAt(i)->isSelected())
-            names.append(QFileInfo(scene()->cardAt(i)->file()->absoluteFilePath()).fileName());
+        if (scene()->isSelected(i))
+            names.append(QFileInfo(scene()->fileAt(i)->absoluteFilePath()).fileName());
     }
     return names;
 }
@@ -185,7 +184,7 @@ void OpeningTest::scrollsToTheDesign()
     auto *view = m_window->findChild<GridGraphicsView *>();
     const int index = scene()->currentIndex();
     QVERIFY(index >= 60);
-    QVERIFY(scene()->cardAt(index)->isSelected());
+    QVERIFY(scene()->isSelected(index));
     const QRect port(view->viewport()->mapToGlobal(QPoint()), view->viewport()->size());
     QVERIFY(port.contains(view->screenRectOf(index).center()));
 }

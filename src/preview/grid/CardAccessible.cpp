@@ -5,7 +5,7 @@
 #include "preview/grid/GridPreviewScene.h"
 
 CardAccessible::CardAccessible(GridGraphicsView *view, int index)
-    : m_view(view), m_index(index), m_file(card()->file())
+    : m_view(view), m_index(index), m_file(view->gridScene()->fileAt(index))
 {
 }
 
@@ -16,7 +16,8 @@ GridEmbroideryItem *CardAccessible::card() const
 
 bool CardAccessible::isValid() const
 {
-    return m_view && m_index < m_view->gridScene()->count() && card()->file() == m_file;
+    return m_view && m_index < m_view->gridScene()->count() &&
+           m_view->gridScene()->fileAt(m_index) == m_file;
 }
 
 QAccessibleInterface *CardAccessible::parent() const
@@ -55,7 +56,7 @@ QAccessible::State CardAccessible::state() const
     state.multiSelectable = true;
     state.extSelectable = true;
     state.focusable = true;
-    state.selected = card()->isSelected();
+    state.selected = m_view->gridScene()->isSelected(m_index);
     state.focused = m_view->hasFocus() && m_view->gridScene()->currentIndex() == m_index;
     const QWidget *viewport = m_view->viewport();
     const QRect shown(viewport->mapToGlobal(QPoint()), viewport->size());

@@ -69,7 +69,7 @@ QAccessibleInterface *GridAccessible::childAt(int x, int y) const
         return nullptr;
     }
     const QPoint pos = view()->viewport()->mapFromGlobal(QPoint(x, y));
-    return child(scene()->indexAt(view()->mapToScene(pos)));
+    return child(scene()->sheetLayout().indexAt(view()->mapToScene(pos)));
 }
 
 QAccessibleInterface *GridAccessible::focusChild() const

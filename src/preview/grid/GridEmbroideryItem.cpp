@@ -13,7 +13,7 @@
 #include <QFileInfo>
 #include <QFont>
 #include <QFontMetrics>
-#include <QGraphicsSceneContextMenuEvent>
+#include <QGraphicsSceneEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
@@ -33,7 +33,13 @@ int cardWidth(const GridEmbroideryItem::ItemLayout *layout)
     return layout->previewSize + 2 * layout->padding;
 }
 
-// Asked for every card at every step of the zoom, while the font hardly ever changes.
+const GridEmbroideryItem::ItemLayout *layoutAt(double scale)
+{
+    return scale <= LargestSmallGridScale ? &GridEmbroideryItem::SmallGrid
+                                          : &GridEmbroideryItem::NormalGrid;
+}
+
+// Asked for many cards at every step of the zoom, while the font hardly ever changes.
 int lineSpacing()
 {
     static QFont font;
@@ -62,13 +68,16 @@ QString singleLine(QString text)
 
 GridEmbroideryItem::GridEmbroideryItem(const QSharedPointer<IFile> &file, GridPreviewScene *scene,
                                        bool imperial)
-    : m_file(file), m_scene(scene), m_imperial(imperial)
+    : m_file(file), m_scene(scene), m_imperial(imperial),
+      m_favorite(new GridFavoriteItem(file, this))
 {
     static const QBrush whiteBrush(Qt::white);
-    setFlag(ItemIsSelectable);
     setAcceptHoverEvents(true);
     setBrush(whiteBrush);
     setPen(Qt::NoPen);
+    m_favorite->setPos(StarPosition);
+    m_file->absoluteFilePathProp()->registerObserver(this);
+    m_file->designSizeProp()->registerObserver(this);
     refreshLabels(imperial);
     scene->addItem(this);
 }
@@ -87,19 +96,23 @@ void GridEmbroideryItem::refreshLabels(bool imperial)
 void GridEmbroideryItem::setViewScaleFactor(double s)
 {
     m_viewScaleFactor = s;
-    m_layout = s <= LargestSmallGridScale ? &SmallGrid : &NormalGrid;
+    m_layout = layoutAt(s);
     layoutItem(m_layout, s);
+}
+
+QSizeF GridEmbroideryItem::sizeAt(double scale)
+{
+    const ItemLayout *layout = layoutAt(scale);
+    const double labelHeight =
+        lineSpacing() / scale * layout->lines + 2 * (layout->textMargin / scale);
+    return {double(cardWidth(layout)), cardWidth(layout) + labelHeight};
 }
 
 void GridEmbroideryItem::layoutItem(const ItemLayout *layout, double s)
 {
-    const int width = cardWidth(layout);
-    const double lineHeight = lineSpacing() / s;
-    const double margin = layout->textMargin / s;
-    const double labelHeight = lineHeight * layout->lines + 2 * margin;
-    m_maxLabelWidth = int(width * s) - 2 * layout->textMargin;
+    m_maxLabelWidth = int(cardWidth(layout) * s) - 2 * layout->textMargin;
     clearLabels();
-    setRect(0, 0, width, width + labelHeight);
+    setRect(QRectF(QPointF(), sizeAt(s)));
 }
 
 QString GridEmbroideryItem::fullName() const
@@ -141,40 +154,6 @@ void GridEmbroideryItem::fillLabels()
     if (m_layout->lines >= 2) {
         m_sizeLabel = LocaleAwareFunctions::toString(m_designSize, m_labelsImperial);
     }
-}
-
-void GridEmbroideryItem::setExposed(bool exposed)
-{
-    if (exposed == (m_favorite != nullptr)) {
-        return;
-    }
-    if (exposed) {
-        watchFile();
-        m_favorite = new GridFavoriteItem(m_file, this);
-        m_favorite->setPos(StarPosition);
-        m_favorite->setParentHovered(m_hovered);
-    } else {
-        unwatchFile();
-        clearLabels();
-        delete m_favorite;
-        m_favorite = nullptr;
-    }
-}
-
-void GridEmbroideryItem::watchFile()
-{
-    m_file->absoluteFilePathProp()->registerObserver(this);
-    m_file->designSizeProp()->registerObserver(this);
-    // What happened while nobody looked.
-    if (m_path != m_file->absoluteFilePath() || m_designSize != m_file->designSize()) {
-        refreshLabels(m_imperial);
-    }
-}
-
-void GridEmbroideryItem::unwatchFile()
-{
-    m_file->absoluteFilePathProp()->unregister(this);
-    m_file->designSizeProp()->unregister(this);
 }
 
 void GridEmbroideryItem::observedObjectChanged(const Observable *)
@@ -245,7 +224,7 @@ void GridEmbroideryItem::paintLabels(QPainter *painter)
 {
     const int width = cardWidth(m_layout);
     const QRectF box(0, width, width, rect().height() - width);
-    painter->fillRect(box, WidgetStyles::CardLabel(isSelected()));
+    painter->fillRect(box, WidgetStyles::CardLabel(m_scene->isSelected(m_index)));
 
     // The text keeps its size at any zoom.
     const QPoint corner = painter->worldTransform().map(box.topLeft()).toPoint();
@@ -276,17 +255,32 @@ void GridEmbroideryItem::paintFocusFrame(QPainter *painter)
 
 void GridEmbroideryItem::hoverEnterEvent(QGraphicsSceneHoverEvent *)
 {
-    m_hovered = true;
-    if (m_favorite != nullptr) {
-        m_favorite->setParentHovered(true);
-    }
+    m_favorite->setParentHovered(true);
 }
 
 void GridEmbroideryItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *)
 {
-    m_hovered = false;
-    if (m_favorite != nullptr) {
-        m_favorite->setParentHovered(false);
+    m_favorite->setParentHovered(false);
+}
+
+void GridEmbroideryItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    // What is selected can be dragged: only the release tells that it was a click.
+    const bool several = event->modifiers() & Qt::ControlModifier;
+    if (!several && !m_scene->isSelected(m_index)) {
+        m_scene->selectOnly(m_index);
+    }
+}
+
+void GridEmbroideryItem::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (event->scenePos() != event->buttonDownScenePos(Qt::LeftButton)) {
+        return;
+    }
+    if (event->modifiers() & Qt::ControlModifier) {
+        m_scene->setSelected(m_index, !m_scene->isSelected(m_index));
+    } else {
+        m_scene->selectOnly(m_index);
     }
 }
 

@@ -14,12 +14,9 @@ class GridFavoriteItem;
 class GridPreviewScene;
 
 /**
- * One card of the grid: the preview of a file, below it the file's name and the
- * size of the design, in a corner the star.
- *
- * Cards are many and few of them are on screen, so a card is a single item. It
- * paints its labels itself, and only while it is exposed has it a star, texts and
- * an eye on the file's properties.
+ * One card of the grid: the preview of a file, below it the file's name and the size of
+ * the design, in a corner the star. It paints its labels itself, and is there only while
+ * the view shows it.
  */
 class GridEmbroideryItem : public QGraphicsRectItem, public Observer, public PreviewCacheListener
 {
@@ -43,6 +40,12 @@ public:
 
     const QSharedPointer<IFile> &file() const { return m_file; }
 
+    /** Which one of the sheet it is. */
+    void setIndex(int index) { m_index = index; }
+
+    /** The size of every card, in scene units, where so many pixels are one. */
+    static QSizeF sizeAt(double scale);
+
     /** The name of the file, on one line. */
     QString fullName() const;
     /** In words what the card shows beside the name: the size, whether it is a favourite. */
@@ -54,9 +57,6 @@ public:
     /** Follows the view, which now draws `s` pixels per scene unit. */
     void setViewScaleFactor(double s);
 
-    /** Tells whether the card is in the part of the sheet that the view shows. */
-    void setExposed(bool exposed);
-
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                QWidget *widget = nullptr) override;
 
@@ -67,13 +67,13 @@ protected:
     void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override;
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
     void layoutItem(const ItemLayout *layout, double s);
     void fillLabels();
     void clearLabels();
-    void watchFile();
-    void unwatchFile();
     void paintPreview(QPainter *painter);
     void paintLabels(QPainter *painter);
     void paintFocusFrame(QPainter *painter);
@@ -86,12 +86,11 @@ private:
     bool m_labelsImperial = false;
     // As given at construction; a change of the file falls back to it.
     bool m_imperial;
-    bool m_hovered = false;
+    int m_index = -1;
     QString m_nameLabel;
     QString m_sizeLabel;
     int m_maxLabelWidth = 0;
     double m_viewScaleFactor = 1.0;
     const ItemLayout *m_layout = &NormalGrid;
-    // A child item, there while the card is exposed.
-    GridFavoriteItem *m_favorite = nullptr;
+    GridFavoriteItem *m_favorite; ///< a child item
 };

@@ -10,7 +10,6 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QPainterPath>
 
 namespace {
 
@@ -42,6 +41,7 @@ GridGraphicsView::GridGraphicsView(QWidget *parent)
     setAccessibleDescription(tr("The arrow keys choose a design, Return opens it, Space enlarges "
                                 "it, F marks it as a favorite."));
     connect(m_edgeScroller, &EdgeScroller::scrolled, this, &GridGraphicsView::continueRubberBand);
+    connect(this, &QGraphicsView::rubberBandChanged, this, &GridGraphicsView::selectInBand);
     updateBackground();
 }
 
@@ -128,15 +128,26 @@ void GridGraphicsView::continueRubberBand()
     EditorGraphicsView::mouseMoveEvent(&move);
 }
 
+void GridGraphicsView::selectInBand(const QRect &band)
+{
+    if (m_gridScene != nullptr && !band.isNull()) {
+        m_gridScene->selectArea(mapToScene(band).boundingRect(), m_extending);
+    }
+}
+
 void GridGraphicsView::keyPressEvent(QKeyEvent *event)
 {
     const bool control = event->modifiers() == Qt::ControlModifier;
     const bool plain = event->modifiers() == Qt::NoModifier;
     if (control && event->key() == Qt::Key_A) {
-        selectAll();
+        if (m_gridScene != nullptr) {
+            m_gridScene->selectAll();
+        }
     } else if ((control && event->key() == Qt::Key_D) ||
                (plain && event->key() == Qt::Key_Escape)) {
-        clearSelection();
+        if (m_gridScene != nullptr) {
+            m_gridScene->selectNone();
+        }
     } else if (event->key() == Qt::Key_Space) {
         emit openSelection();
     } else if (!handleCardKey(event)) {
@@ -178,7 +189,8 @@ bool GridGraphicsView::handleCardKey(QKeyEvent *event)
 void GridGraphicsView::moveByKey(int key, GridPreviewScene::Selecting selecting)
 {
     const int current = m_gridScene->currentIndex();
-    const GridNavigation navigation(m_gridScene->count(), m_gridScene->columns(), rowsPerPage());
+    const GridNavigation navigation(m_gridScene->count(), m_gridScene->sheetLayout().columns(),
+                                    rowsPerPage());
     const bool toAnEnd = key == Qt::Key_Home || key == Qt::Key_End;
     const int target =
         current >= 0 || toAnEnd ? navigation.target(key, current) : firstIndexInView();
@@ -192,19 +204,21 @@ void GridGraphicsView::moveByKey(int key, GridPreviewScene::Selecting selecting)
 
 int GridGraphicsView::rowsPerPage() const
 {
-    const double rowHeight = m_gridScene->rowHeight() * currentZoomValue();
+    const double rowHeight = m_gridScene->sheetLayout().rowHeight() * currentZoomValue();
     return rowHeight > 0.0 ? std::max(int(viewport()->height() / rowHeight), 1) : 1;
 }
 
 int GridGraphicsView::firstIndexInView() const
 {
-    const int index = m_gridScene->firstIndexBelow(mapToScene(QPoint()).y());
+    const int index = m_gridScene->sheetLayout().firstIndexBelow(mapToScene(QPoint()).y());
     return std::min(index, m_gridScene->count() - 1);
 }
 
 void GridGraphicsView::showCard(int index)
 {
-    ensureVisible(m_gridScene->cardAt(index)->sceneBoundingRect(), ScrollMargin, ScrollMargin);
+    // What is done with the card may come ahead of its being painted.
+    m_gridScene->cardAt(index);
+    ensureVisible(m_gridScene->sheetLayout().rectOf(index), ScrollMargin, ScrollMargin);
 }
 
 void GridGraphicsView::goTo(int index)
@@ -215,7 +229,7 @@ void GridGraphicsView::goTo(int index)
 
 QRect GridGraphicsView::screenRectOf(int index) const
 {
-    const QRectF card = m_gridScene->cardAt(index)->sceneBoundingRect();
+    const QRectF card = m_gridScene->sheetLayout().rectOf(index);
     const QRect shown = mapFromScene(card).boundingRect();
     return QRect(viewport()->mapToGlobal(shown.topLeft()), shown.size());
 }
@@ -268,8 +282,10 @@ void GridGraphicsView::mousePressEvent(QMouseEvent *event)
     // The frame is for those who have no pointer on the card.
     m_usedByKeys = false;
     m_gridScene->setFocusShown(false);
-    const int index = m_gridScene->indexAt(mapToScene(event->pos()));
-    const bool onCard = index >= 0 && itemAt(event->pos()) == m_gridScene->cardAt(index);
+    const int index = m_gridScene->sheetLayout().indexAt(mapToScene(event->pos()));
+    const GridEmbroideryItem *card = index >= 0 ? m_gridScene->cardAt(index) : nullptr;
+    const bool onCard = card != nullptr && itemAt(event->pos()) == card;
+    m_extending = event->modifiers() & Qt::ControlModifier;
     m_drag.forget();
     if (onCard) {
         m_drag.begin(event->pos());
@@ -281,6 +297,8 @@ void GridGraphicsView::mousePressEvent(QMouseEvent *event)
     }
     if (index >= 0) {
         m_gridScene->beginAt(index);
+    } else if (!m_extending) {
+        m_gridScene->selectNone();
     }
     EditorGraphicsView::mousePressEvent(event);
 }
@@ -313,10 +331,10 @@ void GridGraphicsView::dragDesigns()
         return;
     }
     // With Ctrl the press has left it as it was.
-    GridEmbroideryItem *card = m_gridScene->cardAt(index);
-    card->setSelected(true);
+    m_gridScene->setSelected(index, true);
     const QList<QSharedPointer<IFile>> files = m_gridScene->selectedFiles();
-    const QPixmap preview = PreviewCache::instance().previewImage(card->file(), nullptr);
+    const QPixmap preview =
+        PreviewCache::instance().previewImage(m_gridScene->fileAt(index), nullptr);
     DesignDrag::run(this, files,
                     DesignDrag::picture(preview, files.size(), viewport()->devicePixelRatioF()));
     // The release has gone to whoever the designs were dropped on.
@@ -343,20 +361,4 @@ void GridGraphicsView::openContextMenu()
     const QPoint center = screenRectOf(m_gridScene->currentIndex()).center();
     QContextMenuEvent event(QContextMenuEvent::Keyboard, viewport()->mapFromGlobal(center), center);
     EditorGraphicsView::contextMenuEvent(&event);
-}
-
-void GridGraphicsView::selectAll()
-{
-    if (scene() != nullptr) {
-        QPainterPath everything;
-        everything.addRect(sceneRect());
-        scene()->setSelectionArea(everything, viewportTransform());
-    }
-}
-
-void GridGraphicsView::clearSelection()
-{
-    if (scene() != nullptr) {
-        scene()->clearSelection();
-    }
 }

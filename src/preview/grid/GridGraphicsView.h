@@ -54,8 +54,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    void selectAll();
-    void clearSelection();
+    void selectInBand(const QRect &band);
     void updateBackground();
     void zoomByWheel(int angle);
     bool handleCardKey(QKeyEvent *event);
@@ -74,5 +73,6 @@ private:
     // Rather than by the mouse, as of the last press.
     bool m_usedByKeys = false;
     int m_wheelTurned = 0; ///< since the last notch, in eighths of a degree
+    bool m_extending = false; ///< a rubber band that adds to the selection
     DesignDrag m_drag;
 };

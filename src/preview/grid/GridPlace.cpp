@@ -1,15 +1,14 @@
 #include "preview/grid/GridPlace.h"
 
-#include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridGraphicsView.h"
 #include "preview/grid/GridPreviewScene.h"
 #include <QScrollBar>
 
 namespace {
 
-int topOf(const GridEmbroideryItem *card, const GridGraphicsView *view)
+int topOf(int card, const GridGraphicsView *view)
 {
-    return view->mapFromScene(card->pos()).y();
+    return view->mapFromScene(view->gridScene()->sheetLayout().rectOf(card).topLeft()).y();
 }
 
 } // namespace
@@ -22,12 +21,9 @@ GridPlace::GridPlace(const GridGraphicsView *view)
     }
     const GridPreviewScene *scene = view->gridScene();
     const int height = view->viewport()->height();
-    for (int i = scene->firstIndexBelow(view->mapToScene(QPoint()).y()); i < scene->count(); ++i) {
-        const GridEmbroideryItem *card = scene->cardAt(i);
-        if (topOf(card, view) >= height) {
-            break;
-        }
-        m_shown.append(qMakePair(card->file(), topOf(card, view)));
+    const int first = scene->sheetLayout().firstIndexBelow(view->mapToScene(QPoint()).y());
+    for (int i = first; i < scene->count() && topOf(i, view) < height; ++i) {
+        m_shown.append(qMakePair(scene->fileAt(i), topOf(i, view)));
     }
 }
 
@@ -37,7 +33,7 @@ void GridPlace::restore(GridGraphicsView *view) const
     for (const auto &shown : m_shown) {
         const int index = view->gridScene()->indexOf(shown.first);
         if (index >= 0) {
-            const int top = topOf(view->gridScene()->cardAt(index), view);
+            const int top = topOf(index, view);
             bar->setValue(bar->value() + top - shown.second);
             return;
         }

@@ -3,29 +3,14 @@
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
 #include "preview/grid/GridEmbroideryItem.h"
-#include "preview/grid/SceneIndexPause.h"
 #include <algorithm>
-#include <QHash>
 #include <QScopedValueRollback>
-
-namespace {
-
-constexpr double MarginPixels = 10.0;
-constexpr double SpacingPixels = 20.0;
-
-// From as many on, deleting cards one by one is slower than what deleteCards() does first.
-constexpr int ManyCards = 1000;
-
-bool comesBefore(const QGraphicsItem *a, const QGraphicsItem *b)
-{
-    return a->y() < b->y() || (a->y() == b->y() && a->x() < b->x());
-}
-
-} // namespace
+#include <QSet>
 
 GridPreviewScene::GridPreviewScene(QObject *parent) : EditorScene(parent)
 {
-    connect(this, &QGraphicsScene::selectionChanged, this, &GridPreviewScene::onSelectionChanged);
+    // There are never more items than a view can show.
+    setItemIndexMethod(QGraphicsScene::NoIndex);
     if (HooplineApplication *application = HooplineApplication::instance()) {
         connect(application, &HooplineApplication::syncGlobalSettings, this,
                 &GridPreviewScene::refresh, Qt::QueuedConnection);
@@ -33,11 +18,7 @@ GridPreviewScene::GridPreviewScene(QObject *parent) : EditorScene(parent)
     placeSprites(m_preferredSceneWidth);
 }
 
-GridPreviewScene::~GridPreviewScene()
-{
-    // The base class ends the selected cards, and there is no telling it any more.
-    disconnect(this, &QGraphicsScene::selectionChanged, this, nullptr);
-}
+GridPreviewScene::~GridPreviewScene() = default;
 
 void GridPreviewScene::setFiles(const QList<QSharedPointer<IFile>> &files)
 {
@@ -50,50 +31,51 @@ void GridPreviewScene::setFiles(const QList<QSharedPointer<IFile>> &files)
 
 void GridPreviewScene::replaceCards(const QList<QSharedPointer<IFile>> &files)
 {
-    QScopedValueRollback<bool> guard(m_inSelectionChange, true);
+    const QSharedPointer<IFile> current = m_files.value(m_current);
+    const QSharedPointer<IFile> anchor = m_files.value(m_anchor);
+    const QList<QSharedPointer<IFile>> wereSelected = selectedFiles();
+    const QSet<QSharedPointer<IFile>> selected(wereSelected.begin(), wereSelected.end());
     QHash<QSharedPointer<IFile>, GridEmbroideryItem *> spare;
-    spare.reserve(m_files.size());
-    for (int i = 0; i < m_files.size(); ++i) {
-        spare.insert(m_files.at(i), m_items.at(i));
+    for (GridEmbroideryItem *card : qAsConst(m_cards)) {
+        spare.insert(card->file(), card);
     }
-    const bool imperial = GlobalSettings().imperialUnits();
-    GridEmbroideryItem *current = m_items.value(m_current);
-    GridEmbroideryItem *anchor = m_items.value(m_anchor);
 
-    SceneIndexPause pause(this);
-    pause.begin();
     m_files = files;
-    m_items.clear();
-    m_items.reserve(files.size());
-    for (const QSharedPointer<IFile> &file : files) {
-        GridEmbroideryItem *card = spare.take(file);
-        if (card == nullptr) {
-            card = new GridEmbroideryItem(file, this, imperial);
+    m_selected = QBitArray(files.size());
+    m_cards.clear();
+    m_current = -1;
+    m_anchor = -1;
+    for (int i = 0; i < files.size(); ++i) {
+        const QSharedPointer<IFile> &file = files.at(i);
+        if (GridEmbroideryItem *card = spare.take(file)) {
+            card->setIndex(i);
+            m_cards.insert(i, card);
         }
-        card->setViewScaleFactor(m_scaleFactor);
-        m_items.append(card);
+        if (selected.contains(file)) {
+            m_selected.setBit(i);
+        }
+        if (file == current) {
+            m_current = i;
+        }
+        if (file == anchor) {
+            m_anchor = i;
+        }
     }
-    m_current = current != nullptr ? m_items.indexOf(current) : -1;
-    m_anchor = anchor != nullptr ? m_items.indexOf(anchor) : -1;
-    deleteCards(spare.values());
+    qDeleteAll(spare);
     placeSprites(m_preferredSceneWidth);
 }
 
-void GridPreviewScene::deleteCards(const QList<GridEmbroideryItem *> &cards)
+GridEmbroideryItem *GridPreviewScene::cardAt(int index)
 {
-    if (cards.size() >= ManyCards) {
-        // The scene looks for an item that leaves it among all others, from the
-        // lowest on. So they go to the bottom, the first of them lowest; the
-        // look-up makes a scene without an index sort.
-        for (int i = 0; i < cards.size(); ++i) {
-            cards.at(i)->setZValue(i - cards.size());
-        }
-        items(QPointF());
+    if (GridEmbroideryItem *card = m_cards.value(index)) {
+        return card;
     }
-    for (GridEmbroideryItem *card : cards) {
-        m_exposedItems.remove(card);
-        delete card;
-    }
+    auto *card = new GridEmbroideryItem(m_files.at(index), this, GlobalSettings().imperialUnits());
+    m_cards.insert(index, card);
+    card->setIndex(index);
+    card->setViewScaleFactor(m_scaleFactor);
+    card->setPos(m_layout.rectOf(index).topLeft());
+    return card;
 }
 
 void GridPreviewScene::setPreferredSceneWidth(int width)
@@ -104,13 +86,9 @@ void GridPreviewScene::setPreferredSceneWidth(int width)
 
 void GridPreviewScene::setScaleFactor(double newScale)
 {
-    SceneIndexPause pause(this);
-    if (newScale != m_scaleFactor) {
-        pause.begin();
-    }
     m_preferredSceneWidth = int(m_scaleFactor / newScale * m_preferredSceneWidth);
     m_scaleFactor = newScale;
-    for (GridEmbroideryItem *card : qAsConst(m_items)) {
+    for (GridEmbroideryItem *card : qAsConst(m_cards)) {
         card->setViewScaleFactor(newScale);
     }
     placeSprites(m_preferredSceneWidth);
@@ -118,75 +96,32 @@ void GridPreviewScene::setScaleFactor(double newScale)
 
 void GridPreviewScene::placeSprites(int width)
 {
-    SceneIndexPause pause(this);
-    const int margin = int(MarginPixels / m_scaleFactor);
-    const int spacing = int(SpacingPixels / m_scaleFactor);
-    int x = margin;
-    int y = margin;
-    int rowHeight = 0;
-    QRectF sheet;
-    int columns = 0;
-    for (GridEmbroideryItem *card : qAsConst(m_items)) {
-        const QRectF rect = card->rect();
-        const int w = qRound(rect.right()) - qRound(rect.left());
-        const int h = qRound(rect.bottom()) - qRound(rect.top());
-        if (x + margin + w >= width) {
-            y += rowHeight + spacing;
-            rowHeight = 0;
-            x = margin;
-        }
-        if (card->pos() != QPointF(x, y)) {
-            pause.begin();
-            card->setPos(x, y);
-        }
-        sheet |= rect.translated(x, y);
-        rowHeight = std::max(rowHeight, h);
-        x += w + spacing;
-        columns += card->y() == m_items.first()->y() ? 1 : 0;
+    m_layout =
+        SheetLayout(count(), width, GridEmbroideryItem::sizeAt(m_scaleFactor), m_scaleFactor);
+    for (auto card = m_cards.cbegin(); card != m_cards.cend(); ++card) {
+        (*card)->setPos(m_layout.rectOf(card.key()).topLeft());
     }
-    m_columns = std::max(columns, 1);
-    m_rowHeight = m_items.isEmpty() ? 0.0 : rowHeight + spacing;
-    setSceneRect(sheet.adjusted(-margin, -margin, margin, margin));
-}
-
-int GridPreviewScene::firstIndexBelow(double y) const
-{
-    // Rows follow each other downwards and their cards are equally high.
-    const auto isAbove = [y](const GridEmbroideryItem *card) {
-        return card->y() + card->rect().bottom() <= y;
-    };
-    return int(std::partition_point(m_items.constBegin(), m_items.constEnd(), isAbove) -
-               m_items.constBegin());
-}
-
-int GridPreviewScene::indexAt(const QPointF &pos) const
-{
-    const int first = firstIndexBelow(pos.y());
-    const int end = std::min(first + m_columns, count());
-    for (int i = first; i < end; ++i) {
-        if (m_items.at(i)->sceneBoundingRect().contains(pos)) {
-            return i;
-        }
-    }
-    return -1;
+    setSceneRect(m_layout.sheet());
+    // Cards that are not there yet are made when the view is painted.
+    update();
 }
 
 void GridPreviewScene::areaExposed(const QRectF &area)
 {
-    QSet<GridEmbroideryItem *> exposedItems;
-    auto card = m_items.constBegin() + firstIndexBelow(area.top());
-    for (; card != m_items.constEnd() && (*card)->y() < area.bottom(); ++card) {
-        exposedItems.insert(*card);
-    }
-    for (GridEmbroideryItem *hidden : qAsConst(m_exposedItems)) {
-        if (!exposedItems.contains(hidden)) {
-            hidden->setExposed(false);
+    const SheetLayout::Cells cells = m_layout.cellsIn(area);
+    const int first = cells.firstRow * m_layout.columns();
+    const int end = std::min((cells.lastRow + 1) * m_layout.columns(), count());
+    for (auto card = m_cards.begin(); card != m_cards.end();) {
+        if (card.key() >= first && card.key() < end) {
+            ++card;
+        } else {
+            delete *card;
+            card = m_cards.erase(card);
         }
     }
-    for (GridEmbroideryItem *shown : qAsConst(exposedItems)) {
-        shown->setExposed(true);
+    for (int i = first; i < end; ++i) {
+        cardAt(i);
     }
-    m_exposedItems = exposedItems;
 }
 
 void GridPreviewScene::onSelectionChanged()
@@ -200,13 +135,16 @@ void GridPreviewScene::onSelectionChanged()
 
 QList<QSharedPointer<IFile>> GridPreviewScene::selectedFiles() const
 {
-    // A few of many cards, as a rule: sorting those is faster than asking all.
-    QList<QGraphicsItem *> cards = selectedItems();
-    std::sort(cards.begin(), cards.end(), comesBefore);
+    const int selectedCount = m_selected.count(true);
+    if (selectedCount == count()) {
+        return m_files;
+    }
     QList<QSharedPointer<IFile>> selected;
-    selected.reserve(cards.size());
-    for (const QGraphicsItem *card : qAsConst(cards)) {
-        selected.append(static_cast<const GridEmbroideryItem *>(card)->file());
+    selected.reserve(selectedCount);
+    for (int i = 0; selected.size() < selectedCount; ++i) {
+        if (m_selected.testBit(i)) {
+            selected.append(m_files.at(i));
+        }
     }
     return selected;
 }
@@ -217,12 +155,72 @@ void GridPreviewScene::selectFiles(const QList<QSharedPointer<IFile>> &files)
         return;
     }
     QScopedValueRollback<bool> guard(m_inSelectionChange, true);
+    if (files == m_files) {
+        select(QBitArray(count(), true));
+        return;
+    }
     const QSet<QSharedPointer<IFile>> wanted(files.begin(), files.end());
-    for (GridEmbroideryItem *card : qAsConst(m_items)) {
-        const bool select = wanted.contains(card->file());
-        if (card->isSelected() != select) {
-            card->setSelected(select);
+    QBitArray selected(count());
+    for (int i = 0; i < count() && !wanted.isEmpty(); ++i) {
+        selected.setBit(i, wanted.contains(m_files.at(i)));
+    }
+    select(selected);
+}
+
+/** Whether that changes anything. */
+bool GridPreviewScene::select(const QBitArray &selected)
+{
+    if (selected == m_selected) {
+        return false;
+    }
+    m_selected = selected;
+    for (GridEmbroideryItem *card : qAsConst(m_cards)) {
+        card->update();
+    }
+    return true;
+}
+
+void GridPreviewScene::setSelected(int index, bool selected)
+{
+    QBitArray changed = m_selected;
+    changed.setBit(index, selected);
+    if (select(changed)) {
+        onSelectionChanged();
+    }
+}
+
+void GridPreviewScene::selectOnly(int index)
+{
+    selectRange(index, index, false);
+}
+
+void GridPreviewScene::selectAll()
+{
+    if (select(QBitArray(count(), true))) {
+        onSelectionChanged();
+    }
+}
+
+void GridPreviewScene::selectNone()
+{
+    if (select(QBitArray(count()))) {
+        onSelectionChanged();
+    }
+}
+
+void GridPreviewScene::selectArea(const QRectF &area, bool keepOthers)
+{
+    QBitArray selected = keepOthers ? m_selected : QBitArray(count());
+    const SheetLayout::Cells cells = m_layout.cellsIn(area);
+    for (int row = cells.firstRow; row <= cells.lastRow; ++row) {
+        const int first = row * m_layout.columns() + cells.firstColumn;
+        const int end = std::min(row * m_layout.columns() + cells.lastColumn + 1, count());
+        if (first < end) {
+            selected.fill(true, first, end);
         }
+    }
+    if (select(selected)) {
+        onSelectionChanged();
     }
 }
 
@@ -256,7 +254,7 @@ void GridPreviewScene::toggleCurrent()
 {
     if (m_current >= 0) {
         m_anchor = m_current;
-        m_items.at(m_current)->setSelected(!m_items.at(m_current)->isSelected());
+        setSelected(m_current, !isSelected(m_current));
     }
 }
 
@@ -272,8 +270,8 @@ void GridPreviewScene::setCurrent(int index)
 
 void GridPreviewScene::updateCurrentCard()
 {
-    if (m_current >= 0) {
-        m_items.at(m_current)->update();
+    if (GridEmbroideryItem *card = m_cards.value(m_current)) {
+        card->update();
     }
 }
 
@@ -287,30 +285,14 @@ void GridPreviewScene::setFocusShown(bool shown)
 
 const GridEmbroideryItem *GridPreviewScene::focusedCard() const
 {
-    return m_focusShown && m_current >= 0 ? m_items.at(m_current) : nullptr;
+    return m_focusShown ? m_cards.value(m_current) : nullptr;
 }
 
 void GridPreviewScene::selectRange(int first, int last, bool keepOthers)
 {
-    bool changed = false;
-    const auto select = [&changed](QGraphicsItem *card, bool selected) {
-        changed |= card->isSelected() != selected;
-        card->setSelected(selected);
-    };
-    {
-        QScopedValueRollback<bool> guard(m_inSelectionChange, true);
-        const QList<QGraphicsItem *> before =
-            keepOthers ? QList<QGraphicsItem *>() : selectedItems();
-        for (QGraphicsItem *card : before) {
-            if (comesBefore(card, m_items.at(first)) || comesBefore(m_items.at(last), card)) {
-                select(card, false);
-            }
-        }
-        for (int i = first; i <= last; ++i) {
-            select(m_items.at(i), true);
-        }
-    }
-    if (changed) {
+    QBitArray selected = keepOthers ? m_selected : QBitArray(count());
+    selected.fill(true, first, last + 1);
+    if (select(selected)) {
         onSelectionChanged();
     }
 }
@@ -318,7 +300,7 @@ void GridPreviewScene::selectRange(int first, int last, bool keepOthers)
 void GridPreviewScene::refresh()
 {
     const bool imperial = GlobalSettings().imperialUnits();
-    for (GridEmbroideryItem *card : qAsConst(m_items)) {
+    for (GridEmbroideryItem *card : qAsConst(m_cards)) {
         card->refreshLabels(imperial);
     }
 }

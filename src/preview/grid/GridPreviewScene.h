@@ -2,14 +2,20 @@
 
 #include "catalogue/records/IFile.h"
 #include "preview/grid/EditorScene.h"
+#include "preview/grid/SheetLayout.h"
 #include "preview/grid/ThumbnailCache.h"
+#include <QBitArray>
+#include <QHash>
 #include <QList>
-#include <QSet>
 #include <QSharedPointer>
 
 class GridEmbroideryItem;
 
-/** Holds the cards, places them and maps their selection to files. */
+/**
+ * The sheet of cards, one for each file. Only those that the view shows are there as
+ * items, so that a hundred thousand come and go as fast as a few; which ones are selected
+ * is known here and not by the items.
+ */
 class GridPreviewScene : public EditorScene
 {
     Q_OBJECT
@@ -26,22 +32,30 @@ public:
 
     void areaExposed(const QRectF &area) override;
 
-    int count() const { return m_items.size(); }
-    /** The card at `index`, which must be one of count(). */
-    GridEmbroideryItem *cardAt(int index) const { return m_items.at(index); }
+    int count() const { return m_files.size(); }
+    /** The file at `index`, which must be one of count(). */
+    const QSharedPointer<IFile> &fileAt(int index) const { return m_files.at(index); }
+    /**
+     * The card at `index`, which must be one of count(). Made if it is not there; out of
+     * the view it is so until the view is painted the next time.
+     */
+    GridEmbroideryItem *cardAt(int index);
     /** Where the card of this file is; -1 where it has none. */
     int indexOf(const QSharedPointer<IFile> &file) const { return m_files.indexOf(file); }
-    /** How many cards a full row has, at least 1. */
-    int columns() const { return m_columns; }
-    /** How far the tops of two rows are apart, in scene units; 0 without cards. */
-    double rowHeight() const { return m_rowHeight; }
-    /** The first card that reaches below `y`; count() where there is none. */
-    int firstIndexBelow(double y) const;
-    /** The card at a point of the sheet; -1 where there is none. */
-    int indexAt(const QPointF &pos) const;
+    /** Where the cards stand, whether they are there or not. */
+    const SheetLayout &sheetLayout() const { return m_layout; }
 
+    bool isSelected(int index) const { return m_selected.testBit(index); }
     /** Those of the selected cards, in the order of the grid. */
     QList<QSharedPointer<IFile>> selectedFiles() const;
+
+    // Each tells a selection that changes, once.
+    void setSelected(int index, bool selected);
+    void selectOnly(int index);
+    void selectAll();
+    void selectNone();
+    /** Selects the cards that `area` touches, in place of all others or in addition to them. */
+    void selectArea(const QRectF &area, bool keepOthers);
 
     /** The card that the keys act on, -1 while there is none. */
     int currentIndex() const { return m_current; }
@@ -89,22 +103,20 @@ signals:
 
 private:
     void replaceCards(const QList<QSharedPointer<IFile>> &files);
-    void deleteCards(const QList<GridEmbroideryItem *> &cards);
     void setCurrent(int index);
     void updateCurrentCard();
     void selectRange(int first, int last, bool keepOthers);
+    bool select(const QBitArray &selected);
 
     QList<QSharedPointer<IFile>> m_files;
-    // Parallel to m_files.
-    QList<GridEmbroideryItem *> m_items;
-    QSet<GridEmbroideryItem *> m_exposedItems;
+    QBitArray m_selected; ///< parallel to m_files
+    SheetLayout m_layout;
+    QHash<int, GridEmbroideryItem *> m_cards; ///< those that are there, by their index
     ThumbnailCache m_thumbnails;
     int m_current = -1;
     // Where a range begins.
     int m_anchor = -1;
     bool m_focusShown = false;
-    int m_columns = 1;
-    double m_rowHeight = 0.0;
     int m_preferredSceneWidth = 1024;
     double m_scaleFactor = 1.0;
     bool m_inSelectionChange = false;

@@ -6,7 +6,6 @@
 #include "catalogue/models/ISelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "preview/cache/PreviewCache.h"
-#include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridGraphicsView.h"
 #include "preview/grid/GridPlace.h"
 #include "preview/grid/GridPreviewScene.h"
@@ -14,9 +13,9 @@
 #include "preview/grid/PreviewSheet.h"
 #include "widgets/controls/DesktopInteraction.h"
 #include <algorithm>
+#include <limits>
 #include <QEvent>
 #include <QFileInfo>
-#include <QGraphicsItem>
 #include <QLineF>
 #include <QPainter>
 #include <QScrollBar>
@@ -146,7 +145,7 @@ void PreviewBrowser::setZoomIndex(int index)
 void PreviewBrowser::showSelection()
 {
     for (int i = 0; i < m_scene->count(); ++i) {
-        if (m_scene->cardAt(i)->isSelected()) {
+        if (m_scene->isSelected(i)) {
             m_view->goTo(i);
             break;
         }
@@ -162,17 +161,23 @@ void PreviewBrowser::directoryChanged()
 
 void PreviewBrowser::updateZoomAndKeepSelectionVisible()
 {
-    const QList<QGraphicsItem *> selected = m_scene->selectedItems();
     const QPointF center = m_view->mapToScene(m_view->viewport()->rect().center());
     // Of many cards the one that the user is looking at.
-    const auto isNearer = [center](const QGraphicsItem *a, const QGraphicsItem *b) {
-        return QLineF(center, a->sceneBoundingRect().center()).length() <
-               QLineF(center, b->sceneBoundingRect().center()).length();
-    };
-    const auto nearest = std::min_element(selected.begin(), selected.end(), isNearer);
+    int nearest = -1;
+    double distance = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < m_scene->count(); ++i) {
+        if (m_scene->isSelected(i)) {
+            const QPointF card = m_scene->sheetLayout().rectOf(i).center();
+            const double length = QLineF(center, card).length();
+            if (length < distance) {
+                nearest = i;
+                distance = length;
+            }
+        }
+    }
     m_view->zoomTo(zoom());
-    if (nearest != selected.end()) {
-        m_view->centerOn(*nearest);
+    if (nearest >= 0) {
+        m_view->centerOn(m_scene->sheetLayout().rectOf(nearest).center());
     }
 }
 
@@ -190,7 +195,7 @@ void PreviewBrowser::previewSelection()
 QSharedPointer<IFile> PreviewBrowser::currentFile() const
 {
     if (m_scene->currentIndex() >= 0) {
-        return m_scene->cardAt(m_scene->currentIndex())->file();
+        return m_scene->fileAt(m_scene->currentIndex());
     }
     return m_models->selection()->selectedFiles().value(0);
 }
