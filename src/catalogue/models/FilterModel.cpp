@@ -4,6 +4,8 @@
 #include "catalogue/records/Project.h"
 #include "properties/changes/ChangeManager.h"
 
+#include <algorithm>
+
 FilterModel::FilterModel(const QSharedPointer<Project> &project) : m_project(project)
 {
     m_project->filesProp()->registerObserver(this);
@@ -77,30 +79,47 @@ void FilterModel::refreshFilter()
 
 QList<QSharedPointer<IFile>> FilterModel::filteredFiles() const
 {
-    if (m_filteredFilesAreValid)
-        return m_filteredFiles;
-    m_filteredFiles.clear();
-    m_filteredFiles.reserve(m_filteredSet.count());
-    for (const QSharedPointer<IFile> &file : orderedFiles()) {
-        if (m_filteredSet.contains(file))
-            m_filteredFiles.append(file);
+    if (!m_filteredFilesAreValid) {
+        m_filteredFiles = matchingFiles();
+        m_filteredFilesAreValid = true;
     }
-    m_filteredFilesAreValid = true;
     return m_filteredFiles;
 }
 
-const QList<QSharedPointer<IFile>> &FilterModel::orderedFiles() const
+QList<QSharedPointer<IFile>> FilterModel::matchingFiles() const
+{
+    putInOrder();
+    const auto count = std::count(m_matches.begin(), m_matches.end(), true);
+    if (count == m_orderedFiles.count())
+        return m_orderedFiles;
+    QList<QSharedPointer<IFile>> matching;
+    matching.reserve(int(count));
+    for (std::size_t i = 0; i < m_order.size(); ++i) {
+        if (m_matches[std::size_t(m_order[i])])
+            matching.append(m_orderedFiles.at(int(i)));
+    }
+    return matching;
+}
+
+void FilterModel::putInOrder() const
 {
     if (!m_nameOrderIsValid) {
         m_filesByName = m_watchedFiles;
         LocaleAwareFunctions::sort(m_filesByName);
         m_nameOrderIsValid = true;
     }
-    if (!m_orderIsValid) {
-        m_orderedFiles = m_sortOrder.sorted(m_filesByName);
-        m_orderIsValid = true;
-    }
-    return m_orderedFiles;
+    if (m_orderIsValid)
+        return;
+    m_orderedFiles = m_sortOrder.sorted(m_filesByName);
+    QHash<const IFile *, int> indexes;
+    indexes.reserve(m_watchedFiles.count());
+    for (int i = 0; i < m_watchedFiles.count(); ++i)
+        indexes.insert(m_watchedFiles.at(i).data(), i);
+    m_order.clear();
+    m_order.reserve(std::size_t(m_orderedFiles.count()));
+    for (const QSharedPointer<IFile> &file : qAsConst(m_orderedFiles))
+        m_order.push_back(indexes.value(file.data()));
+    m_orderIsValid = true;
 }
 
 void FilterModel::forgetOrder()
@@ -131,50 +150,55 @@ void FilterModel::watchFiles()
         return;
     m_watchedFiles = files;
     forgetOrder();
+    m_matches.assign(std::size_t(files.count()), false);
+    m_places.clear();
+    m_places.reserve(std::size_t(files.count()));
     m_observedProperties.clear();
     m_observedProperties.reserve(3 * files.count());
-    for (const QSharedPointer<IFile> &file : files) {
+    for (int i = 0; i < files.count(); ++i) {
+        const QSharedPointer<IFile> &file = files.at(i);
+        m_places.push_back({file->absoluteFilePath(), file->notesProp()});
         const std::initializer_list<const Observable *> watched = {
             file->absoluteFilePathProp(), file->tagsProp(), file->designSizeProp()};
         for (const Observable *property : watched) {
             property->registerObserver(this);
-            m_observedProperties.insert(property, file);
+            m_observedProperties.insert(property, i);
         }
     }
 }
 
-bool FilterModel::matchesFilter(const QSharedPointer<IFile> &file) const
+bool FilterModel::matchesFilter(int index) const
 {
-    const QString path = file->absoluteFilePath();
-    if (!m_directoryFilter.isEmpty() && !path.startsWith(m_directoryFilter))
+    // Each look at a value may have to wait for the memory: only at those that are asked for.
+    const Place &place = m_places[std::size_t(index)];
+    if (!m_directoryFilter.isEmpty() && !place.path.startsWith(m_directoryFilter))
         return false;
-    if (m_favoritesOnly && !file->isFavorite())
+    const IFile &file = *m_watchedFiles.at(index);
+    if (m_favoritesOnly && !file.isFavorite())
         return false;
-    if (!m_tagFilter.isEmpty() && !file->tags().contains(m_tagFilter))
+    if (!m_tagFilter.isEmpty() && !file.tags().contains(m_tagFilter))
         return false;
-    if (!m_fileType.isEmpty() && !path.toLower().endsWith(QLatin1Char('.') + m_fileType))
+    if (!m_fileType.isEmpty() && !place.path.toLower().endsWith(QLatin1Char('.') + m_fileType))
         return false;
-    const QSizeF size = file->designSize();
-    if (m_maxDesignSize.width() >= 0 && size.width() > m_maxDesignSize.width())
+    if (m_maxDesignSize.width() >= 0 && file.designSize().width() > m_maxDesignSize.width())
         return false;
-    if (m_maxDesignSize.height() >= 0 && size.height() > m_maxDesignSize.height())
+    if (m_maxDesignSize.height() >= 0 && file.designSize().height() > m_maxDesignSize.height())
         return false;
-    return m_query.matches(*file, m_duplicates);
+    if (const auto &plain = m_query.plainText())
+        return plain->matches(place.path, place.notes->value());
+    return m_query.matches(file, m_duplicates);
 }
 
 void FilterModel::updateFilterListForAllFilesAndEmitChange()
 {
-    QList<QSharedPointer<IFile>> matching;
-    for (const QSharedPointer<IFile> &file : orderedFiles()) {
-        if (matchesFilter(file))
-            matching.append(file);
-    }
-    if (matching == filteredFiles() && matching.count() == m_filteredSet.count())
-        return;
-    m_filteredSet = QSet<QSharedPointer<IFile>>(matching.cbegin(), matching.cend());
+    for (int i = 0; i < m_watchedFiles.count(); ++i)
+        m_matches[std::size_t(i)] = matchesFilter(i);
+    const QList<QSharedPointer<IFile>> matching = matchingFiles();
+    const bool changed = matching != m_filteredFiles;
     m_filteredFiles = matching;
     m_filteredFilesAreValid = true;
-    emit filterChanged(matching);
+    if (changed)
+        emit filterChanged(matching);
 }
 
 void FilterModel::updateFilterListForSingleFileAndEmitChange(const Observable *property)
@@ -190,19 +214,19 @@ void FilterModel::updateFilterListForSingleFileAndEmitChange(const Observable *p
 
 bool FilterModel::updateFilterListForSingleFile(const Observable *property)
 {
-    const QSharedPointer<IFile> file = m_observedProperties.value(property);
-    if (!file)
+    const auto found = m_observedProperties.constFind(property);
+    if (found == m_observedProperties.cend())
         return false;
-    if (property == file->absoluteFilePathProp())
+    const IFile &file = *m_watchedFiles.at(*found);
+    const auto index = std::size_t(*found);
+    if (property == file.absoluteFilePathProp()) {
+        m_places[index].path = file.absoluteFilePath();
         forgetOrder();
-    const bool wasIn = m_filteredSet.contains(file);
-    const bool isIn = matchesFilter(file);
-    if (wasIn == isIn)
+    }
+    const bool isIn = matchesFilter(*found);
+    if (m_matches[index] == isIn)
         return false;
-    if (isIn)
-        m_filteredSet.insert(file);
-    else
-        m_filteredSet.remove(file);
+    m_matches[index] = isIn;
     m_filteredFilesAreValid = false;
     return true;
 }

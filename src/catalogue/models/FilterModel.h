@@ -6,7 +6,7 @@
 #include "properties/changes/Observer.h"
 
 #include <QHash>
-#include <QSet>
+#include <vector>
 
 class Project;
 
@@ -40,13 +40,21 @@ public:
     void observedObjectChanged(const Observable *observable) override;
 
 private:
+    /** Where its values lie. A search of all records takes as long as the memory makes it wait. */
+    struct Place
+    {
+        QString path;
+        const PropertyString *notes;
+    };
+
     void watchFiles();
     void forgetOrder();
-    bool matchesFilter(const QSharedPointer<IFile> &file) const;
+    bool matchesFilter(int index) const;
     void updateFilterListForAllFilesAndEmitChange();
     void updateFilterListForSingleFileAndEmitChange(const Observable *property);
     bool updateFilterListForSingleFile(const Observable *property);
-    const QList<QSharedPointer<IFile>> &orderedFiles() const;
+    void putInOrder() const;
+    QList<QSharedPointer<IFile>> matchingFiles() const;
 
     QSharedPointer<Project> m_project;
     QString m_directoryFilter;
@@ -59,9 +67,10 @@ private:
     DuplicateIndex m_duplicates;
     QSizeF m_maxDesignSize{-1, -1};
     bool m_favoritesOnly = false;
-    QSet<QSharedPointer<IFile>> m_filteredSet;
-    QHash<const Observable *, QSharedPointer<IFile>> m_observedProperties;
     QList<QSharedPointer<IFile>> m_watchedFiles;
+    std::vector<Place> m_places;                         ///< parallel to m_watchedFiles
+    std::vector<bool> m_matches;                         ///< parallel to m_watchedFiles
+    QHash<const Observable *, int> m_observedProperties; ///< indexes in m_watchedFiles
 
     SortOrder m_sortOrder;
 
@@ -69,6 +78,7 @@ private:
     mutable QList<QSharedPointer<IFile>> m_filesByName;
     mutable bool m_nameOrderIsValid = false;
     mutable QList<QSharedPointer<IFile>> m_orderedFiles;
+    mutable std::vector<int> m_order; ///< indexes in m_watchedFiles, parallel to m_orderedFiles
     mutable bool m_orderIsValid = false;
     mutable QList<QSharedPointer<IFile>> m_filteredFiles;
     mutable bool m_filteredFilesAreValid = false;

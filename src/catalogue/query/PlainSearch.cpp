@@ -55,8 +55,12 @@ PlainSearch::PlainSearch(const QString &text)
 
 bool PlainSearch::matches(const IFile &file) const
 {
-    const QString path = file.absoluteFilePath();
-    return isIn(DesignPath::baseName(path)) || isIn(file.notes());
+    return matches(file.absoluteFilePath(), file.notes());
+}
+
+bool PlainSearch::matches(const QString &path, const QString &notes) const
+{
+    return isIn(DesignPath::baseName(path)) || isIn(notes);
 }
 
 bool PlainSearch::isIn(QStringView text) const

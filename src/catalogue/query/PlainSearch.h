@@ -18,6 +18,7 @@ public:
     explicit PlainSearch(const QString &text);
 
     bool matches(const IFile &file) const;
+    bool matches(const QString &path, const QString &notes) const;
 
 private:
     bool isIn(QStringView text) const;

@@ -1,7 +1,6 @@
 #include "catalogue/query/Query.h"
 
 #include "base/Error.h"
-#include "catalogue/query/PlainSearch.h"
 #include "catalogue/query/QueryFields.h"
 #include "catalogue/query/QueryLexer.h"
 
@@ -31,10 +30,12 @@ Query Query::parse(const QString &text, const QDateTime &now)
             words.append(term.text);
         }
     }
-    if (std::none_of(terms.begin(), terms.end(), isOrQuotesCondition))
+    if (std::none_of(terms.begin(), terms.end(), isOrQuotesCondition)) {
         query.addPlain(text);
-    else if (!words.isEmpty())
+        query.m_plainText = PlainSearch(text);
+    } else if (!words.isEmpty()) {
         query.addPlain(words.join(QLatin1Char(' ')));
+    }
     std::stable_sort(query.m_tests.begin(), query.m_tests.end(),
                      [](const Test &a, const Test &b) { return a.cost < b.cost; });
     return query;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/query/Conditions.h"
+#include "catalogue/query/PlainSearch.h"
 #include "catalogue/query/QueryRemark.h"
 
 #include <optional>
@@ -48,6 +49,9 @@ public:
 
     bool matches(const IFile &file, const DuplicateIndex &duplicates) const;
 
+    /** All there is to this query where it is plain text: nothing but that is looked at. */
+    const std::optional<PlainSearch> &plainText() const { return m_plainText; }
+
 private:
     struct Test
     {
@@ -62,5 +66,6 @@ private:
     void remarkOn(QueryRemark::Kind kind, const QueryTerm &term, const QString &message);
 
     QVector<Test> m_tests;
+    std::optional<PlainSearch> m_plainText;
     std::optional<QueryRemark> m_remark;
 };
