@@ -25,6 +25,7 @@ private slots:
     void addingByList();
     void removingIsOneStep();
     void manyChangesAreShownOnce();
+    void showsMoreTagsOnDemand();
     void hostileTags_data();
     void hostileTags();
     void elidedLabel();
@@ -173,6 +174,34 @@ void tst_tagwidget::manyChangesAreShownOnce()
     m_project->undoStack()->endMacroAndExecuteAnnouncements();
     QCOMPARE(texts(), QStringList{QStringLiteral("late")});
     QCOMPARE(labels().first()->multiSelect(), TagLabel::SetOnAll);
+}
+
+void tst_tagwidget::showsMoreTagsOnDemand()
+{
+    auto *more = m_widget->findChild<QToolButton *>(QStringLiteral("moreTags"));
+    QStringList tags;
+    for (int i = 0; i < 60; ++i)
+        tags += QStringLiteral("tag %1").arg(i, 2, 10, QLatin1Char('0'));
+    file(0)->setTags(tags);
+    select(1);
+    QCOMPARE(texts(), tags.mid(0, 24));
+    QCOMPARE(more->text(), QStringLiteral("+ 36 more"));
+    // By key: whoever uses no mouse goes on where the button was.
+    more->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(more, Qt::Key_Space);
+    QCOMPARE(texts(), tags.mid(0, 48));
+    QCOMPARE(more->text(), QStringLiteral("+ 12 more"));
+    QTest::keyClick(more, Qt::Key_Space);
+    QCOMPARE(texts(), tags);
+    QVERIFY(!more->isVisible());
+    QVERIFY(combo()->hasFocus());
+    // What nobody sees is removed and added all the same, and another selection starts afresh.
+    file(1)->setTags(tags);
+    select(2);
+    QCOMPARE(texts().size(), 24);
+    m_widget->addTag(QStringLiteral("zebra"));
+    QCOMPARE(more->text(), QStringLiteral("+ 37 more"));
+    QVERIFY(file(1)->tags().contains(QStringLiteral("zebra")));
 }
 
 void tst_tagwidget::hostileTags_data()

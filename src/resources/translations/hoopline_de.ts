@@ -3099,6 +3099,14 @@ Optionen:
         <source>remove tag &apos;%1&apos;</source>
         <translation>Schlagwort „%1“ entfernen</translation>
     </message>
+    <message>
+        <source>Show more tags</source>
+        <translation>Weitere Schlagwörter anzeigen</translation>
+    </message>
+    <message>
+        <source>+ %1 more</source>
+        <translation>+ %1 weitere</translation>
+    </message>
 </context>
 <context>
     <name>TagsBox</name>

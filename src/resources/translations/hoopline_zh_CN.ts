@@ -3058,6 +3058,14 @@ Options:
         <source>remove tag &apos;%1&apos;</source>
         <translation>移除标签“%1”</translation>
     </message>
+    <message>
+        <source>Show more tags</source>
+        <translation>显示更多标签</translation>
+    </message>
+    <message>
+        <source>+ %1 more</source>
+        <translation>另有 %1 个</translation>
+    </message>
 </context>
 <context>
     <name>TagsBox</name>

@@ -22,20 +22,36 @@ namespace {
 
 constexpr int ChipSpacing = 4;
 constexpr int LeastComboChars = 6;
+/** A chip takes a millisecond or two; nobody reads hundreds of them. */
+constexpr int ChipsAtOnce = 24;
 
 } // namespace
 
 TagWidget::TagWidget(const QSharedPointer<Project> &project, QWidget *parent)
     : QFrame(parent), m_flowLayout(new FlowLayout(0, ChipSpacing, ChipSpacing)),
-      m_input(new QWidget(this)), m_comboBox(new QComboBox(m_input)),
-      m_addButton(new QPushButton(tr("Add"), m_input)), m_project(project)
+      m_moreButton(new QToolButton(this)), m_input(new QWidget(this)),
+      m_comboBox(new QComboBox(m_input)), m_addButton(new QPushButton(tr("Add"), m_input)),
+      m_project(project), m_mostChips(ChipsAtOnce)
 {
+    createMoreButton();
     createInput();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     // Above the chips, so that it stays where it is however many there are.
     layout->addWidget(m_input);
     layout->addLayout(m_flowLayout);
+    layout->addWidget(m_moreButton);
+    setTabOrder(m_addButton, m_moreButton);
+}
+
+void TagWidget::createMoreButton()
+{
+    m_moreButton->setObjectName(QStringLiteral("moreTags"));
+    m_moreButton->setAutoRaise(true);
+    m_moreButton->setFocusPolicy(Qt::StrongFocus);
+    m_moreButton->setToolTip(tr("Show more tags"));
+    m_moreButton->hide();
+    connect(m_moreButton, &QToolButton::clicked, this, &TagWidget::showMoreTags);
 }
 
 void TagWidget::createInput()
@@ -81,6 +97,7 @@ void TagWidget::setTagLists(const QList<PropertyStringList *> &tagLists)
     for (const PropertyStringList *list : qAsConst(m_tagLists))
         list->registerObserver(this);
     m_input->setEnabled(!m_tagLists.isEmpty());
+    m_mostChips = ChipsAtOnce;
     updateDisplayedTags();
 }
 
@@ -212,6 +229,10 @@ void TagWidget::updateDisplayedTags()
     const QHash<QString, int> histogram = createTagHistogram();
     QStringList tags = histogram.keys();
     LocaleAwareFunctions::sort(tags);
+    const int hidden = tags.count() - m_mostChips;
+    m_moreButton->setText(tr("+ %1 more").arg(hidden));
+    m_moreButton->setVisible(hidden > 0);
+    tags = tags.mid(0, m_mostChips);
 
     QList<TagLabel *> pool = m_tagLabels;
     m_tagLabels.clear();
@@ -226,6 +247,15 @@ void TagWidget::updateDisplayedTags()
         label->hide();
         label->deleteLater();
     }
+}
+
+void TagWidget::showMoreTags()
+{
+    m_mostChips += ChipsAtOnce;
+    updateDisplayedTags();
+    // Where the focus was there is no button any more.
+    if (!m_moreButton->isVisible())
+        m_comboBox->setFocus(Qt::OtherFocusReason);
 }
 
 QHash<QString, int> TagWidget::createTagHistogram() const
@@ -243,7 +273,8 @@ TagLabel *TagWidget::createNewTagLabel()
     auto *label = new TagLabel(QString(), TagLabel::SetOnAll, this);
     m_flowLayout->addWidget(label);
     connect(label, &TagLabel::removeTag, this, &TagWidget::removeTag);
-    // A new chip is the window's last widget; it belongs behind the one before it.
+    // A new chip is the window's last widget; it belongs behind the one before it,
+    // ahead of the button for more.
     QWidget *before = m_addButton;
     if (!m_tagLabels.isEmpty())
         before = m_tagLabels.constLast()->removeButton();

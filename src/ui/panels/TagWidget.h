@@ -13,11 +13,13 @@ class Project;
 class PropertyStringList;
 class QComboBox;
 class QPushButton;
+class QToolButton;
 class TagLabel;
 
 /**
  * The tags of the selected files as chips, with a field that adds one to all of them. A change
- * is one undo step, however many files there are.
+ * is one undo step, however many files there are. Of many tags the first are shown, and more
+ * on demand.
  */
 class TagWidget : public QFrame, public Observer
 {
@@ -55,6 +57,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void createMoreButton();
     void createInput();
     void changeInBulk(const QString &text, const std::function<void()> &change);
     void addTagToTagLists(const QString &tag);
@@ -62,11 +65,13 @@ private:
     void removeTagFromLists(const QString &tag);
     void updateAllTagsListInComboBox();
     void updateDisplayedTags();
+    void showMoreTags();
     void scheduleDisplayedTags();
     QHash<QString, int> createTagHistogram() const;
     TagLabel *createNewTagLabel();
 
     FlowLayout *m_flowLayout;
+    QToolButton *m_moreButton;
     QWidget *m_input;
     QComboBox *m_comboBox;
     QPushButton *m_addButton;
@@ -74,6 +79,7 @@ private:
     QList<PropertyStringList *> m_tagLists;
     QSharedPointer<Project> m_project;
     QList<TagLabel *> m_tagLabels;
+    int m_mostChips;
     bool m_bulkChangeActive = false;
     bool m_displayPending = false;
 };
