@@ -9,8 +9,8 @@
 
 #include <algorithm>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
+#include <utility>
 
 namespace {
 
@@ -50,8 +50,31 @@ CatalogueKeeper::CatalogueKeeper(ProjectController *controller, NoticeBar *notic
 
 void CatalogueKeeper::save()
 {
-    if (!m_paused)
-        saveAnyway();
+    if (m_paused || m_givenUp)
+        return;
+    if (m_controller->isSaving()) {
+        m_saveNext = true;
+        return;
+    }
+    m_begun.start();
+    const QString failure = failureOf([this] {
+        m_controller->beginSave(
+            [this, mailbox = m_mailbox.address()] { mailbox.post([this] { endSave(); }); });
+    });
+    if (!failure.isNull() || !m_controller->isModified())
+        tellSaved(failure);
+}
+
+/** Comes when a save has been written, unless somebody has waited for it. */
+void CatalogueKeeper::endSave()
+{
+    if (m_controller->isSaving())
+        tellSaved(failureOf([this] { m_controller->finishSave(); }));
+    const bool reloads = std::exchange(m_reloadNext, false);
+    if (std::exchange(m_saveNext, false))
+        save();
+    if (reloads)
+        reload();
 }
 
 bool CatalogueKeeper::saveAnyway()
@@ -64,22 +87,30 @@ QString CatalogueKeeper::trySave()
 {
     if (m_givenUp)
         return {};
-    QElapsedTimer timer;
-    timer.start();
-    QString reason = failureOf([this] { m_controller->saveProjectIfModified(); });
-    if (reason.isNull())
+    m_begun.start();
+    QString failure = failureOf([this] { m_controller->saveProjectIfModified(); });
+    tellSaved(failure);
+    return failure;
+}
+
+void CatalogueKeeper::tellSaved(const QString &failure)
+{
+    if (failure.isNull())
         withdrawWhatIsRight();
     else
-        tellUnsaved(reason);
+        tellUnsaved(failure);
     tellKept();
-    retryLater(std::chrono::milliseconds(timer.elapsed()));
-    return reason;
+    retryLater(std::chrono::milliseconds(m_begun.elapsed()));
 }
 
 void CatalogueKeeper::reload()
 {
     if (m_givenUp || m_paused)
         return;
+    if (m_controller->isSaving()) {
+        m_reloadNext = true;
+        return;
+    }
     QElapsedTimer timer;
     timer.start();
     const QString reason = failureOf([this] { m_controller->reloadProjectIfNewerOnDisk(); });

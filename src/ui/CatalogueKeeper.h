@@ -1,8 +1,10 @@
 #pragma once
 
+#include "base/Mailbox.h"
 #include "ui/Notice.h"
 
 #include <chrono>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -12,7 +14,8 @@ class NoticeBar;
 class ProjectController;
 
 /**
- * Gets the catalogue to the disk and back for the window. What fails is told once in the
+ * Gets the catalogue to the disk and back for the window, and writes it beside the window
+ * where nobody has to wait for that. What fails is told once in the
  * bar, stays there until it is put right and is tried again every few seconds; what had to
  * give way to something else is told there as well. Nothing of this is thrown.
  */
@@ -30,13 +33,13 @@ public:
     /** While work on the catalogue is under way that saves at its end, nothing is tried. */
     void setPaused(bool paused) { m_paused = paused; }
 
-    /** Saves what is modified. */
+    /** Begins to save what is modified. */
     void save();
 
-    /** The same, also while work is under way; false when it could not be saved. */
+    /** Saves it before this returns, also while work is under way; false when it could not. */
     bool saveAnyway();
 
-    /** Takes over a catalogue that is newer on the disk. */
+    /** Takes over a catalogue that is newer on the disk, after a save that goes on beside. */
     void reload();
 
     /** Tells of a save that somebody else has tried. */
@@ -65,10 +68,12 @@ signals:
     void backupsWanted();
 
 private:
+    void endSave();
     QString trySave();
     void tellBackupFailure();
     Notice::Action backupsAction();
     void tellFolderWasMissing();
+    void tellSaved(const QString &failure);
     void tellUnreadable(const QString &reason);
     void withdrawWhatIsRight();
     void retryLater(std::chrono::milliseconds lastAttempt);
@@ -83,4 +88,9 @@ private:
     bool m_paused = false;
     bool m_givenUp = false;
     QString m_backupFailure; ///< as told last
+    // Asked for while a save went on beside.
+    bool m_saveNext = false;
+    bool m_reloadNext = false;
+    QElapsedTimer m_begun;
+    Mailbox m_mailbox{this};
 };

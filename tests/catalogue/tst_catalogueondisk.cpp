@@ -5,6 +5,7 @@
 #include "properties/undo/GUndoStack.h"
 #include "support/CatalogueFolder.h"
 
+#include <future>
 #include <memory>
 #include <QDir>
 #include <QFileInfo>
@@ -50,7 +51,9 @@ private slots:
     void outlivesDamageFromOutside();
     void keepsWhatStandsInTheWayOfASave_data();
     void keepsWhatStandsInTheWayOfASave();
+    void savesWhenItsFolderIsBack_data();
     void savesWhenItsFolderIsBack();
+    void savesBesideWhatIsEdited();
     void keepsOthersOut();
 
 private:
@@ -290,17 +293,72 @@ void TestCatalogueOnDisk::keepsWhatStandsInTheWayOfASave()
     QVERIFY(m_controller->takeKept().isEmpty());
 }
 
+void TestCatalogueOnDisk::savesWhenItsFolderIsBack_data()
+{
+    QTest::addColumn<bool>("beside");
+    QTest::newRow("at once") << false;
+    QTest::newRow("beside") << true;
+}
+
 void TestCatalogueOnDisk::savesWhenItsFolderIsBack()
 {
+    QFETCH(bool, beside);
+    const auto save = [&] {
+        if (!beside)
+            return m_controller->saveProjectIfModified();
+        m_controller->beginSave([] {});
+        m_controller->finishSave();
+    };
     m_controller->loadOrCreateProject();
     edit();
     const QString folder = QFileInfo(path()).path();
     QVERIFY(QDir().rename(folder, folder + " unplugged"));
-    QVERIFY_EXCEPTION_THROWN(m_controller->saveProjectIfModified(), CatalogueUnsavedError);
+    QVERIFY_EXCEPTION_THROWN(save(), CatalogueUnsavedError);
+    QVERIFY(m_controller->isModified());
     QVERIFY(!QFile::exists(folder));
     QVERIFY(QDir().rename(folder + " unplugged", folder));
-    m_controller->saveProjectIfModified();
+    save();
+    QVERIFY(!m_controller->isModified());
     QVERIFY(saved().contains("edited"));
+}
+
+void TestCatalogueOnDisk::savesBesideWhatIsEdited()
+{
+    m_controller->loadOrCreateProject();
+    QStringList many;
+    for (int i = 0; i < 20000; ++i)
+        many += QStringLiteral("tag %1").arg(i);
+    m_controller->project()->setAllTags(many);
+    edit();
+    std::promise<void> written;
+    m_controller->beginSave([&] { written.set_value(); });
+    QVERIFY(m_controller->isSaving());
+    QVERIFY(m_controller->isModified());
+    QVERIFY(!m_controller->isNewerOnDisk());
+    // The file holds what was there when it was begun.
+    m_controller->project()->addTag("later");
+    written.get_future().wait();
+    QVERIFY(!m_controller->isNewerOnDisk());
+    m_controller->finishSave();
+    QVERIFY(saved().contains("edited"));
+    QVERIFY(!saved().contains("later"));
+    QVERIFY(m_controller->backups().hasDay(QDate::currentDate()));
+    QVERIFY(m_controller->isModified());
+    QVERIFY(!m_controller->isNewerOnDisk());
+    // Whoever needs it on the disk waits, also for a second one.
+    m_controller->beginSave([] {});
+    m_controller->project()->addTag("last");
+    m_controller->saveProjectIfModified();
+    QVERIFY(saved().contains("later"));
+    QVERIFY(saved().contains("last"));
+    QVERIFY(!m_controller->isModified());
+    m_controller->beginSave([] { qFatal("there is nothing to be saved"); });
+    QVERIFY(!m_controller->isSaving());
+    // The end of the program waits, too.
+    m_controller->project()->addTag("in the end");
+    m_controller->beginSave([] {});
+    m_controller.reset();
+    QVERIFY(saved().contains("in the end"));
 }
 
 void TestCatalogueOnDisk::keepsOthersOut()

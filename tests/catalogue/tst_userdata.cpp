@@ -44,6 +44,7 @@ private slots:
     void catalogueOfOthersWins();
     void failedSaveLeavesEditsUnsaved();
     void failedSaveOfMovedDesigns();
+    void failedSaveBesideLeavesEditsUnsaved();
     void designsGetBackWhatWasWritten_data();
     void designsGetBackWhatWasWritten();
     void newestWordsGoToCopies();
@@ -217,6 +218,25 @@ void UserDataTest::failedSaveOfMovedDesigns()
     m_controller->scanSmartFolders();
     QCOMPARE(words("moved.dst"), QStringLiteral("late|typed|*"));
     QCOMPARE(m_controller->memory()->absentDesigns(), 1);
+}
+
+void UserDataTest::failedSaveBesideLeavesEditsUnsaved()
+{
+    const QString data = QFileInfo(m_folder->catalogueFile()).path();
+    edit("a.dst", "late", "typed", true);
+    QVERIFY(QDir().rename(data, data + " unplugged"));
+    m_controller->beginSave([] {});
+    QVERIFY_EXCEPTION_THROWN(m_controller->finishSave(), Error);
+    QVERIFY(QDir().rename(data + " unplugged", data));
+    restart();
+    QCOMPARE(words("a.dst"), QStringLiteral("late|typed|*"));
+    QVERIFY(m_controller->isModified());
+    // One that succeeds leaves nothing to be brought back.
+    m_controller->beginSave([] {});
+    m_controller->finishSave();
+    restart();
+    QCOMPARE(words("a.dst"), QStringLiteral("late|typed|*"));
+    QVERIFY(!m_controller->isModified());
 }
 
 void UserDataTest::designsGetBackWhatWasWritten_data()

@@ -117,6 +117,7 @@ void ProjectController::loadProject()
 
 void ProjectController::createProject()
 {
+    m_save.reset();
     m_memory.reset();
     m_selectionModel.reset();
     m_project = QSharedPointer<Project>::create();
@@ -128,87 +129,6 @@ void ProjectController::recoverProject()
     const QByteArray damaged = m_file.read();
     const int designs = DataModelReader().recoverFromBytes(m_project.data(), damaged);
     keep(damaged, CatalogueFile::Damaged, designs);
-}
-
-bool ProjectController::isModified() const
-{
-    return !m_project->undoStack()->isClean();
-}
-
-void ProjectController::saveProjectIfModified()
-{
-    if (!isModified())
-        return;
-    saveProject();
-    m_project->undoStack()->setClean();
-}
-
-void ProjectController::saveProject()
-{
-    keepWhatOthersWrote();
-    backUp();
-    writeProject();
-}
-
-void ProjectController::writeProject()
-{
-    if (m_memory)
-        m_memory->collect();
-    m_file.write(DataModelWriter().toBytes(m_project.data()));
-    if (m_memory)
-        m_memory->settle(m_file.lastSeenDigest());
-}
-
-void ProjectController::keepWhatOthersWrote()
-{
-    if (m_file.isAsLastSeen())
-        return;
-    try {
-        const QByteArray bytes = m_file.peek();
-        if (m_file.isLastSeen(bytes))
-            return;
-        keepAside(bytes, isWhole(bytes) ? CatalogueFile::Replaced : CatalogueFile::Damaged);
-    } catch (const ErrorDoesNotExist &) {
-        // It was removed; what is in memory takes its place.
-    } catch (const CatalogueUnusableError &error) {
-        throw CatalogueUnsavedError(error.toString(), error.toString());
-    }
-}
-
-/** Among the backups; beside the catalogue where that fails, and what is no whole catalogue. */
-void ProjectController::keepAside(const QByteArray &bytes, CatalogueFile::Fate fate)
-{
-    QString backup;
-    if (!GlobalSettings::usesOtherCatalogue())
-        tryBackup([&] { backup = m_backups.keepMoment(bytes, QDateTime::currentDateTime()); });
-    if (backup.isEmpty() || fate == CatalogueFile::Damaged)
-        keep(bytes, fate);
-    else
-        m_kept.append({fate, backup, -1});
-}
-
-void ProjectController::backUp()
-{
-    const QDate today = QDate::currentDate();
-    // What somebody else wrote is kept already, and may be no whole catalogue.
-    if (GlobalSettings::usesOtherCatalogue() || !m_file.lastSeen().exists() ||
-        !m_file.isAsLastSeen() || m_backups.hasDay(today))
-        return;
-    tryBackup([&] { m_backups.keepDay(m_file.peek(), today); });
-}
-
-/** Without a backup the save goes on: what was edited last is what would be missed most. */
-void ProjectController::tryBackup(const std::function<void()> &backup)
-{
-    m_backupFailure.clear();
-    try {
-        backup();
-    } catch (const ErrorDoesNotExist &) {
-        // There is nothing to be kept.
-    } catch (const Error &error) {
-        m_backupFailure = error.toString();
-        gWarning("ProjectController") << QLatin1Char('"') + m_backupFailure + QLatin1Char('"');
-    }
 }
 
 QString ProjectController::restore(const QString &backup)
@@ -244,6 +164,7 @@ bool ProjectController::isWhole(const QByteArray &bytes) const
 
 void ProjectController::reloadProjectIfNewerOnDisk()
 {
+    finishSave();
     if (!m_file.isNewerThanLastSeen())
         return;
     // Nobody is writing it any more: it is damaged for good.

@@ -6,6 +6,7 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/CatalogueFile.h"
+#include "catalogue/sync/CatalogueSave.h"
 #include "catalogue/sync/ScanReport.h"
 #include "catalogue/sync/SyncCounts.h"
 #include "catalogue/userdata/UserDataMemory.h"
@@ -80,20 +81,38 @@ public:
     void loadProject();
 
     /**
-     * Writes the catalogue when the undo stack is not clean. Somebody else's file in its
-     * place is kept.
+     * Writes the catalogue when the undo stack is not clean, and waits for a save that goes
+     * on beside. Somebody else's file in its place is kept.
      * @throws CatalogueUnsavedError when it cannot be written; the project stays modified
      */
     virtual void saveProjectIfModified();
 
-    /** Whether there is something to save. */
+    /**
+     * The same, but the writing goes on beside, for the catalogue as it is now, until
+     * finishSave().
+     * @param whenDone called on another thread when that need not wait; not at all when
+     *        there is nothing to save
+     * @throws CatalogueUnsavedError when it is known already that it cannot be written
+     */
+    void beginSave(std::function<void()> whenDone);
+
+    /** Whether a save was begun and not ended. */
+    bool isSaving() const { return m_save != nullptr; }
+
+    /**
+     * Ends a save that was begun, if there is one, and waits for it.
+     * @throws CatalogueUnsavedError when it has failed; the project is modified again
+     */
+    void finishSave();
+
+    /** Whether there is something to save, or it is not known yet to be on the disk. */
     bool isModified() const;
 
     /** Writes the catalogue as it is now to a file of the user's choice. @throws Error */
     void saveCopy(const QString &path) const;
 
     /** Whether the catalogue was changed from outside since this controller loaded or saved it. */
-    bool isNewerOnDisk() const { return m_file.isNewerThanLastSeen(); }
+    bool isNewerOnDisk() const { return !isSaving() && m_file.isNewerThanLastSeen(); }
 
     /**
      * Takes over a catalogue that is newer on the disk; edits that were not saved are kept.
@@ -161,6 +180,7 @@ private:
     void saveProject();
     void keepWhatOthersWrote();
     void keepAside(const QByteArray &bytes, CatalogueFile::Fate fate);
+    bool isBackupDue() const;
     void backUp();
     void tryBackup(const std::function<void()> &backup);
     void writeProject();
@@ -182,4 +202,6 @@ private:
     SyncCounts m_lastScan;
     QList<Kept> m_kept;
     ScanReport m_lastReport;
+    // Goes first: it uses the others, and what waits for it is told in its end.
+    std::unique_ptr<CatalogueSave> m_save;
 };

@@ -52,8 +52,14 @@ public:
     /** Notes all edits until now, at once. */
     void collect();
 
-    /** The project was saved as @p catalogue; goes with collect() ahead of the save. */
+    /**
+     * The project is saved as @p catalogue, which may take its time and is empty in the end
+     * if it fails; goes with collect() ahead of the save.
+     */
     void settle(const Digest &catalogue);
+
+    /** The file still is @p catalogue: what settle() was told did not come to be. */
+    void settleNot(const Digest &catalogue) { m_catalogue = catalogue; }
 
     /**
      * Gives those @p newcomers to the project whose content, or place and content, was known

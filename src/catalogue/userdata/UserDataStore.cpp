@@ -56,7 +56,10 @@ void UserDataStore::record(const UserDataChanges &changes)
 
 void UserDataStore::settle(const std::shared_future<QByteArray> &catalogue)
 {
-    tell([catalogue](UserDataDatabase &database) { database.settle(catalogue.get()); });
+    tell([catalogue](UserDataDatabase &database) {
+        if (!catalogue.get().isEmpty())
+            database.settle(catalogue.get());
+    });
 }
 
 void UserDataStore::adopt(const UserDataChanges &all,

@@ -37,7 +37,10 @@ public:
     /** Edits that no catalogue file holds yet. */
     void record(const UserDataChanges &changes);
 
-    /** All edits until now are in the catalogue file with the digest @p catalogue. */
+    /**
+     * All edits until now are in the catalogue file with the digest @p catalogue; in none
+     * when that is empty.
+     */
     void settle(const std::shared_future<QByteArray> &catalogue);
 
     /** Brings the store into line with the catalogue file; @p all tells every design. */

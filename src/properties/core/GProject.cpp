@@ -12,7 +12,17 @@ GProject::GProject(const QString &name, const QList<PropertyDescription *> &desc
 {
 }
 
-GProject::~GProject() = default;
+GProject::~GProject()
+{
+    waitForReader();
+}
+
+void GProject::waitForReader()
+{
+    if (m_read.valid())
+        m_read.wait();
+    m_read = {};
+}
 
 void GProject::acceptVisitor(PropertyVisitor *visitor)
 {

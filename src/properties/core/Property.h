@@ -24,6 +24,9 @@ public:
     GProject *project() const { return m_project; }
 
 protected:
+    /** To be called by whoever sets the value, first of all. */
+    void beforeChange();
+
     GUndoStack *undoStack() const;
 
 private:

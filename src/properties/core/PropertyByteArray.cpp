@@ -30,6 +30,7 @@ void PropertyByteArray::setValue(const QByteArray &newValue, const QString &undo
 
 void PropertyByteArray::setValueWithoutUndoAndAnnounceChange(const QByteArray &newValue)
 {
+    beforeChange();
     m_value = newValue;
     announceChange();
 }

@@ -25,6 +25,7 @@ public:
     /** Assigns and announces, also when the value is equal. */
     void setValueWithoutUndoAndAnnounceChange(const T &newValue)
     {
+        beforeChange();
         m_value = newValue;
         announceChange();
     }

@@ -34,6 +34,7 @@ void PropertyList::addWithoutUndo(Property *element)
 
 void PropertyList::addSharedWithoutUndo(const QSharedPointer<Property> &element)
 {
+    beforeChange();
     insertElement(m_elements, element);
     announceChange();
 }
@@ -52,6 +53,7 @@ void PropertyList::setValue(const Elements &elements, const QString &undoText)
 
 void PropertyList::setValueWithoutUndoAndAnnounceChange(const Elements &elements)
 {
+    beforeChange();
     m_elements = elements;
     announceChange();
 }
@@ -76,6 +78,7 @@ void PropertyList::remove(int index, const QString &undoText)
 
 void PropertyList::removeWithoutUndo(int index)
 {
+    beforeChange();
     if (index >= 0 && index < m_elements.count())
         m_elements.removeAt(index);
     announceChange();
