@@ -4,6 +4,7 @@
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/DataModelReader.h"
 #include "catalogue/records/Project.h"
+#include "catalogue/records/WrittenRecords.h"
 #include "properties/core/PropertyFactory.h"
 #include "properties/xml/XmlTools.h"
 
@@ -17,21 +18,51 @@ CatalogueXMLReader::CatalogueXMLReader(Project *project, const PropertyFactory *
 
 void CatalogueXMLReader::parse(const QByteArray &bytes)
 {
+    if (parseAsWritten(bytes))
+        return;
+    const QString mistake = parseAll(bytes);
+    if (!mistake.isNull())
+        throw CatalogueDamagedError(mistake);
+}
+
+/** The same for a file in the program's own form; false, and nothing has happened, for others. */
+bool CatalogueXMLReader::parseAsWritten(const QByteArray &bytes)
+{
+    WrittenRecords records(m_project);
+    const auto rest = records.takeFrom(bytes);
+    if (!rest || !parseAll(*rest).isNull())
+        return false;
+    // What looks like the list of records may be something else, a comment say.
+    if (!m_records.empty() || m_placeOfRecords != records.placeOfRecords() || !m_isUtf8)
+        return false;
+    m_records = records.takeRecords();
+    return true;
+}
+
+/** What is wrong with the XML; null when it is well-formed. */
+QString CatalogueXMLReader::parseAll(const QByteArray &bytes)
+{
+    m_document = QDomDocument();
+    m_records.clear();
+    m_recordError.reset();
+    m_placeOfRecords = -1;
     QXmlStreamReader reader(bytes);
     XmlTools::prepareReader(reader);
+    // It is told at the start only.
+    m_isUtf8 = reader.readNext() == QXmlStreamReader::StartDocument &&
+               reader.documentEncoding() == QLatin1String("UTF-8");
     if (reader.readNextStartElement()) {
         QDomElement root = XmlTools::createElement(m_document, reader);
         m_document.appendChild(root);
         // First, since what follows may be well-formed in a way that is not known here.
         if (root.tagName() == m_project->propertyName())
             DataModelReader::upgradeDom(m_document);
-        bool hasRecords = false;
         while (reader.readNextStartElement()) {
             const QDomElement child = XmlTools::createElement(m_document, reader);
             root.appendChild(child);
             // Only the first element of a name counts.
-            if (!hasRecords && child.tagName() == m_project->filesProp()->propertyName()) {
-                hasRecords = true;
+            if (m_placeOfRecords < 0 && child.tagName() == m_project->filesProp()->propertyName()) {
+                m_placeOfRecords = reader.characterOffset();
                 makeRecords(reader);
             } else {
                 XmlTools::readChildren(reader, m_document, child, XmlTools::DropBlankText);
@@ -40,10 +71,11 @@ void CatalogueXMLReader::parse(const QByteArray &bytes)
     }
     while (!reader.atEnd())
         reader.readNext();
-    if (reader.hasError())
-        throw CatalogueDamagedError(QObject::tr("XML parser error: %1 (line %2)")
-                                        .arg(reader.errorString())
-                                        .arg(reader.lineNumber()));
+    if (!reader.hasError())
+        return {};
+    return QObject::tr("XML parser error: %1 (line %2)")
+        .arg(reader.errorString())
+        .arg(reader.lineNumber());
 }
 
 void CatalogueXMLReader::makeRecords(QXmlStreamReader &reader)

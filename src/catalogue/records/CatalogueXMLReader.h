@@ -40,6 +40,8 @@ public:
     void visit(PropertyList *list) override;
 
 private:
+    bool parseAsWritten(const QByteArray &bytes);
+    QString parseAll(const QByteArray &bytes);
     void makeRecords(QXmlStreamReader &reader);
     void makeRecord(const QDomElement &element);
     void addRecords();
@@ -48,5 +50,7 @@ private:
     const PropertyFactory *m_factory;
     QDomDocument m_document;
     std::vector<std::unique_ptr<Property>> m_records;
+    qint64 m_placeOfRecords = -1; ///< behind the start of their element, in characters
+    bool m_isUtf8 = false;
     std::unique_ptr<QString> m_recordError;
 };
