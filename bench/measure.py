@@ -166,12 +166,15 @@ class Benchmarks:
             "later key": "50 ms",
             "scroll": "1.5 times that of 100",
             "save, all threads": "",
+            "start, all threads": "",
+            "memory at the start": "",
         }
         writer = self.program("catalogue-file", "copy", self.catalogue(counts[-1])).figures()
         rows = []
         for name in figures[counts[-1]]:
             values = [figures[count][name] for count in counts]
-            rows.append([name, *map(milliseconds, values), f"{values[-1] / values[0]:.1f}",
+            show = mebibytes if name.startswith("memory") else milliseconds
+            rows.append([name, *map(show, values), f"{values[-1] / values[0]:.1f}",
                          goals.get(name, "100 ms")])
         rows.append(["stream writer, of a file as large"] + [""] * (len(counts) - 1) +
                     [milliseconds(writer["processor"]), "", ""])

@@ -1,5 +1,6 @@
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/LargeCatalogue.h"
 #include "catalogue/records/File.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridGraphicsView.h"
@@ -39,6 +40,8 @@ public:
         m_window->show();
         if (!QTest::qWaitForWindowExposed(m_window))
             qFatal("the window does not show");
+        Figure::print("start, all threads", Figure::secondsOf(CLOCK_PROCESS_CPUTIME_ID) * 1e3);
+        Figure::print("memory at the start", double(memoryInKilobytes("VmRSS")) * 1024);
         m_count = m_view->gridScene()->count();
         settle();
     }
