@@ -1,5 +1,6 @@
 #include "PanelFixture.h"
 
+#include "properties/changes/ChangeManager.h"
 #include "ui/panels/ElidedLabel.h"
 #include "ui/panels/FlowLayout.h"
 #include "ui/panels/TagLabel.h"
@@ -26,6 +27,7 @@ private slots:
     void removingIsOneStep();
     void manyChangesAreShownOnce();
     void showsMoreTagsOnDemand();
+    void followsVeryManyFiles();
     void hostileTags_data();
     void hostileTags();
     void elidedLabel();
@@ -202,6 +204,24 @@ void tst_tagwidget::showsMoreTagsOnDemand()
     m_widget->addTag(QStringLiteral("zebra"));
     QCOMPARE(more->text(), QStringLiteral("+ 37 more"));
     QVERIFY(file(1)->tags().contains(QStringLiteral("zebra")));
+}
+
+void tst_tagwidget::followsVeryManyFiles()
+{
+    constexpr int Many = 2500;
+    m_widget.reset();
+    m_project = projectOfSize(Many);
+    m_widget = std::make_unique<TagWidget>(m_project, nullptr);
+    select(Many);
+    file(Many - 1)->setTags({QStringLiteral("late")});
+    QCOMPARE(texts(), QStringList(QStringLiteral("late")));
+    QCOMPARE(labels().first()->multiSelect(), TagLabel::SetOnSome);
+    m_project->undoStack()->undo();
+    QVERIFY(texts().isEmpty());
+    select(1);
+    file(Many - 1)->setTags({QStringLiteral("elsewhere")});
+    QVERIFY(texts().isEmpty());
+    QVERIFY(!ChangeManager::instance().hasObserversOfAll());
 }
 
 void tst_tagwidget::hostileTags_data()

@@ -26,6 +26,17 @@ void ChangeManager::registerObserver(Observer *observer, const Observable *obser
     observable->m_observed = true;
 }
 
+void ChangeManager::registerForAll(Observer *observer)
+{
+    if (!m_observersOfAll.contains(observer))
+        m_observersOfAll.append(observer);
+}
+
+void ChangeManager::unregisterFromAll(Observer *observer)
+{
+    m_observersOfAll.removeOne(observer);
+}
+
 void ChangeManager::unregister(const Observable *observable)
 {
     const QList<Observer *> observers = m_observersByObservable.values(observable);
@@ -43,6 +54,7 @@ void ChangeManager::unregister(const Observable *observable)
 
 void ChangeManager::unregister(Observer *observer)
 {
+    unregisterFromAll(observer);
     const QSet<const Observable *> observables = m_observablesByObserver.take(observer);
     for (const Observable *observable : observables) {
         m_observersByObservable.remove(observable, observer);
@@ -74,7 +86,10 @@ void ChangeManager::announceChange(const Observable *observable)
         return;
     }
     const QList<Observer *> observers = m_observersByObservable.values(observable);
+    const QVector<Observer *> observersOfAll = m_observersOfAll;
     for (Observer *observer : observers)
+        observer->observedObjectChanged(observable);
+    for (Observer *observer : observersOfAll)
         observer->observedObjectChanged(observable);
 }
 

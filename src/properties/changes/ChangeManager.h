@@ -23,10 +23,18 @@ public:
     /** Adds the pair; nothing happens when it is there already. */
     void registerObserver(Observer *observer, const Observable *observable);
 
+    /** Tells @p observer of every change of whatever, beside those that it is registered with. */
+    void registerForAll(Observer *observer);
+
+    /** Ends what registerForAll() began. */
+    void unregisterFromAll(Observer *observer);
+
+    bool hasObserversOfAll() const { return !m_observersOfAll.isEmpty(); }
+
     /** Takes @p observable out of all its pairs. */
     void unregister(const Observable *observable);
 
-    /** Takes @p observer out of all its pairs. */
+    /** Takes @p observer out of all its pairs, and from what it was registered for besides. */
     void unregister(Observer *observer);
 
     /** Takes out the one pair. */
@@ -82,6 +90,7 @@ private:
     // One observer may listen to every record of the catalogue, so that its side
     // of the pairs is a set: leaving one pair must not search through all others.
     QHash<Observer *, QSet<const Observable *>> m_observablesByObserver;
+    QVector<Observer *> m_observersOfAll;
     bool m_bulkOperationActive = false;
     QSet<const Observable *> m_bulkObservables;
     QVector<const Observable *> m_pendingAnnouncements;

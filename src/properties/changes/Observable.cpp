@@ -22,6 +22,6 @@ void Observable::unregister(Observer *observer) const
 void Observable::announceChange() const
 {
     ChangeManager &manager = ChangeManager::instance();
-    if (m_observed || manager.isBulkOperationActive())
+    if (m_observed || manager.isBulkOperationActive() || manager.hasObserversOfAll())
         manager.announceChange(this);
 }

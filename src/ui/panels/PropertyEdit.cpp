@@ -11,10 +11,7 @@ PropertyEdit::PropertyEdit(PropertyDescription *description, GProject *project)
 
 void PropertyEdit::setProperties(const QList<Property *> &properties)
 {
-    for (const Property *property : qAsConst(m_properties))
-        property->unregister(this);
-    for (const Property *property : properties)
-        property->registerObserver(this);
+    m_observed.set(properties);
     m_properties = properties;
     updateWidget();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "properties/changes/ManyObservables.h"
 #include "properties/changes/Observer.h"
 
 #include <QList>
@@ -49,6 +50,7 @@ protected:
 private:
     GProject *m_project;
     QList<Property *> m_properties;
+    ManyObservables m_observed{this};
     PropertyDescription *m_description;
     bool m_updatePending = false;
     QString m_multiText;

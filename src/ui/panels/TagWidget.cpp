@@ -91,11 +91,8 @@ void TagWidget::setAllTagsList(PropertyStringList *allTagsList)
 
 void TagWidget::setTagLists(const QList<PropertyStringList *> &tagLists)
 {
-    for (const PropertyStringList *list : qAsConst(m_tagLists))
-        list->unregister(this);
     m_tagLists = tagLists;
-    for (const PropertyStringList *list : qAsConst(m_tagLists))
-        list->registerObserver(this);
+    m_observedTagLists.set(m_tagLists);
     m_input->setEnabled(!m_tagLists.isEmpty());
     m_mostChips = ChipsAtOnce;
     updateDisplayedTags();

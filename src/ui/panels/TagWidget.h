@@ -1,5 +1,6 @@
 #pragma once
 
+#include "properties/changes/ManyObservables.h"
 #include "properties/changes/Observer.h"
 
 #include <functional>
@@ -77,6 +78,7 @@ private:
     QPushButton *m_addButton;
     PropertyStringList *m_allTagsList = nullptr;
     QList<PropertyStringList *> m_tagLists;
+    ManyObservables m_observedTagLists{this};
     QSharedPointer<Project> m_project;
     QList<TagLabel *> m_tagLabels;
     int m_mostChips;
