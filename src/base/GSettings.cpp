@@ -1,6 +1,7 @@
 #include "base/GSettings.h"
 
 #include "base/SettingsFormat.h"
+#include "base/SettingsLeftovers.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -35,6 +36,7 @@ QString digest(const QString &text)
 
 QString GSettings::mIniFile;
 bool GSettings::mReadOnly = false;
+QString GSettings::mSweptFile;
 
 static std::unique_ptr<QSettings> openStore(const QString &iniFile)
 {
@@ -49,7 +51,13 @@ static std::unique_ptr<QSettings> openStore(const QString &iniFile)
 #endif
 }
 
-GSettings::GSettings() : m_settings(openStore(mIniFile)) {}
+GSettings::GSettings() : m_settings(openStore(mIniFile))
+{
+    if (!mReadOnly && mSweptFile != fileName()) {
+        mSweptFile = fileName();
+        SettingsLeftovers::remove(mSweptFile);
+    }
+}
 
 GSettings::~GSettings() = default;
 

@@ -103,5 +103,6 @@ public:
 private:
     static QString mIniFile;
     static bool mReadOnly;
+    static QString mSweptFile; ///< beside which no leftovers are any more
     std::unique_ptr<QSettings> m_settings;
 };

@@ -1,11 +1,14 @@
 #include "base/GGlobalIgnoreList.h"
 #include "base/GlobalSettings.h"
 #include "base/SettingsFormat.h"
+#include "base/SettingsLeftovers.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QLocale>
+#include <QProcess>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -35,6 +38,8 @@ private slots:
     void readsWhatPeopleWrite();
     void keepsTheOldFileOnAFullDisk_data();
     void keepsTheOldFileOnAFullDisk();
+    void removesWhatAKilledProcessLeft_data();
+    void removesWhatAKilledProcessLeft();
 
 private:
     QTemporaryDir m_dir;
@@ -304,6 +309,48 @@ void tst_Settings::keepsTheOldFileOnAFullDisk()
     QVERIFY(again.open(QIODevice::ReadOnly));
     QVERIFY(again.readAll().contains("yyy"));
 #endif
+}
+
+void tst_Settings::removesWhatAKilledProcessLeft_data()
+{
+    QTest::addColumn<bool>("hasLock");
+    QTest::addColumn<bool>("isRunning");
+    QTest::addColumn<bool>("isRemoved");
+    QTest::newRow("killed in the middle of it") << true << false << true;
+    QTest::newRow("still at it") << true << true << false;
+    QTest::newRow("a copy of one's own") << false << false << false;
+}
+
+void tst_Settings::removesWhatAKilledProcessLeft()
+{
+    QFETCH(bool, hasLock);
+    QFETCH(bool, isRunning);
+    const QString settings = m_dir.filePath(QStringLiteral("left.conf"));
+    QProcess process;
+    process.start(QStringLiteral("sleep"), {QStringLiteral("60")});
+    QVERIFY(process.waitForStarted());
+    const qint64 pid = process.processId();
+    if (!isRunning) {
+        process.kill();
+        QVERIFY(process.waitForFinished());
+    }
+    const auto write = [](const QString &path, const QByteArray &bytes) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    if (hasLock) {
+        const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
+        QVERIFY(write(settings + ".lock", QByteArray::number(pid) + "\nsleep\n" + host + '\n'));
+    }
+    QVERIFY(write(settings + ".backup", "[General]\n"));
+
+    SettingsLeftovers::remove(settings);
+    QFETCH(bool, isRemoved);
+    QCOMPARE(QFile::exists(settings + ".backup"), !isRemoved);
+    QCOMPARE(QFile::exists(settings + ".lock"), hasLock && !isRemoved);
+    QFile::remove(settings + ".lock");
+    process.kill();
+    process.waitForFinished();
 }
 
 QTEST_GUILESS_MAIN(tst_Settings)
