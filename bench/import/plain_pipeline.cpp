@@ -3,8 +3,8 @@
 #include "base/files/FileTools.h"
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"
-#include "support/Stopwatch.h"
 #include "preview/render/PreviewRenderer.h"
+#include "support/Stopwatch.h"
 #include <cmath>
 #include <QCryptographicHash>
 #include <QDir>
