@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# Measures what docs/performance.md tells of, and prints it as that file's tables.
-#
 # bench.sh [--quick] [PART...]
+# Measures what docs/performance.md tells of, and prints it as that file's tables.
 #   import    the import and the rescan of a made-up collection, beside the plain pipeline,
 #             md5sum and find
 #   file      reading and writing a catalogue file, beside plain readers and writers

@@ -216,7 +216,7 @@ void CliListTest::alignsWideCharacters()
     QList<int> blanks;
     for (const QString &line : QString::fromUtf8(cli.run({"list"}).out).split('\n')) {
         if (!line.isEmpty())
-            blanks.append(line.mid(3).indexOf("10mm") - line.mid(3).indexOf(".dst") - 4);
+            blanks.append(line.mid(3).indexOf("10 mm") - line.mid(3).indexOf(".dst") - 4);
     }
     std::sort(blanks.begin(), blanks.end());
     QCOMPARE(blanks, (QList<int>{2, 4, 5}));

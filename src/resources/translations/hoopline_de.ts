@@ -2671,7 +2671,7 @@ Optionen:
     </message>
     <message>
         <source>&amp;Export as PDF...</source>
-        <translation>Als PDF &amp;exportieren …</translation>
+        <translation>Als PDF e&amp;xportieren …</translation>
     </message>
     <message>
         <source>There are no designs to print.</source>
