@@ -17,6 +17,18 @@ QFileInfoList halfWritten(const QFileInfo &settings)
     return settings.absoluteDir().entryInfoList({pattern}, QDir::Files | QDir::NoSymLinks);
 }
 
+/** Takes the lock, also from a process that was killed before it could sign it. */
+bool take(QLockFile &lock)
+{
+    if (lock.tryLock(0))
+        return true;
+    qint64 pid = 0;
+    QString host;
+    QString program;
+    return !lock.getLockInfo(&pid, &host, &program) && lock.removeStaleLockFile() &&
+           lock.tryLock(0);
+}
+
 } // namespace
 
 void SettingsLeftovers::remove(const QString &path)
@@ -28,7 +40,7 @@ void SettingsLeftovers::remove(const QString &path)
     if (!taken.isValid())
         return;
     QLockFile lock(lockPath);
-    if (!lock.tryLock(0))
+    if (!take(lock))
         return;
     const QFileInfoList files = halfWritten(QFileInfo(path));
     for (const QFileInfo &file : files) {

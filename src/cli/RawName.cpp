@@ -32,7 +32,7 @@ bool isRawAt(const QString &text, int index)
 
 QString RawName::decoded(const QByteArray &bytes)
 {
-    const QString plain = QString::fromUtf8(bytes);
+    QString plain = QString::fromUtf8(bytes);
     if (plain.toUtf8() == bytes)
         return plain;
     QString text;

@@ -314,16 +314,19 @@ void tst_Settings::keepsTheOldFileOnAFullDisk()
 void tst_Settings::removesWhatAKilledProcessLeft_data()
 {
     QTest::addColumn<bool>("hasLock");
+    QTest::addColumn<bool>("isSigned");
     QTest::addColumn<bool>("isRunning");
     QTest::addColumn<bool>("isRemoved");
-    QTest::newRow("killed in the middle of it") << true << false << true;
-    QTest::newRow("still at it") << true << true << false;
-    QTest::newRow("a copy of one's own") << false << false << false;
+    QTest::newRow("killed in the middle of it") << true << true << false << true;
+    QTest::newRow("killed while it began") << true << false << false << true;
+    QTest::newRow("still at it") << true << true << true << false;
+    QTest::newRow("a copy of one's own") << false << false << false << false;
 }
 
 void tst_Settings::removesWhatAKilledProcessLeft()
 {
     QFETCH(bool, hasLock);
+    QFETCH(bool, isSigned);
     QFETCH(bool, isRunning);
     const QString settings = m_dir.filePath(QStringLiteral("left.conf"));
     QProcess process;
@@ -340,7 +343,8 @@ void tst_Settings::removesWhatAKilledProcessLeft()
     };
     if (hasLock) {
         const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
-        QVERIFY(write(settings + ".lock", QByteArray::number(pid) + "\nsleep\n" + host + '\n'));
+        const QByteArray signature = QByteArray::number(pid) + "\nsleep\n" + host + '\n';
+        QVERIFY(write(settings + ".lock", isSigned ? signature : QByteArray()));
     }
     QVERIFY(write(settings + ".backup", "[General]\n"));
 

@@ -117,7 +117,7 @@ double Literals::timeBefore(const QDateTime &now, const QString &age)
         time = now.addDays(-count);
         break;
     case 'w':
-        time = now.addDays(-7 * count);
+        time = now.addDays(-7 * qint64(count));
         break;
     case 'm':
         time = now.addMonths(-count);

@@ -37,7 +37,7 @@ void SavedSearches::remove(const QString &name)
 
 QString SavedSearches::checkedName(const QString &name) const
 {
-    const QString trimmed = name.trimmed();
+    QString trimmed = name.trimmed();
     if (trimmed.isEmpty())
         throw Error(tr("A saved search needs a name."));
     const QList<SavedSearch> searches = all();

@@ -114,7 +114,7 @@ QSharedPointer<File> CatalogueRecovery::recordOf(const QString &xml) const
     if (element.isNull())
         return {};
     try {
-        const auto record = QSharedPointer<File>::create(m_project);
+        auto record = QSharedPointer<File>::create(m_project);
         PropertyXMLReader(m_project, m_factory)
             .readFromXML(record.data(), element, QStringLiteral("/"));
         return record;

@@ -40,7 +40,7 @@ QByteArray DataModelReader::bytesOf(const QString &path)
         throw CatalogueUnusableError(message + QStringLiteral(": ") + file.errorString());
     }
     // A failure in the middle must not look like the end of the file.
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes = file.readAll();
     if (file.error() != QFile::NoError)
         throw CatalogueUnusableError(
             QObject::tr("Failed to read file '%1': %2").arg(path, file.errorString()));

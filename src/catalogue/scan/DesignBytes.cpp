@@ -10,7 +10,7 @@
 namespace {
 
 /** Between two of them the reading can be stopped. */
-constexpr qint64 PieceSize = 1024 * 1024;
+constexpr qint64 PieceSize = qint64(1024) * 1024;
 constexpr qint64 MaximumSize = Embroidery::ReadHelper::MaximumSize;
 
 } // namespace

@@ -24,7 +24,7 @@ constexpr double UnitsPerMillimetre = 10.0;
 /** Of a byte of a file: two make a point, which takes 12 bytes, and 16 more as a polyline. */
 constexpr qint64 MemoryPerByte = 32;
 /** A picture, its rows and its compressed form. */
-constexpr qint64 MemoryOfPicture = 3 * 400 * 400 * 4;
+constexpr qint64 MemoryOfPicture = qint64(3) * 400 * 400 * 4;
 
 QString tooLarge()
 {

@@ -44,7 +44,7 @@ QByteArray CatalogueFile::read()
 {
     // What is put there while it is being read is seen as newer afterwards.
     const FileStamp stamp = FileStamp::of(m_path);
-    const QByteArray bytes = peek();
+    QByteArray bytes = peek();
     see(stamp, bytes);
     return bytes;
 }

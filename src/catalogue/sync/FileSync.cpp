@@ -19,7 +19,7 @@ namespace {
 
 constexpr int ScanSteps = 10000;
 /** Of the files under way; one alone may need more. */
-constexpr qint64 WorkersMemory = 256 * 1024 * 1024;
+constexpr qint64 WorkersMemory = qint64(256) * 1024 * 1024;
 /** What the workers get to end by themselves when the user has asked for the end. */
 constexpr std::chrono::milliseconds LastMoment(40);
 

@@ -18,7 +18,7 @@ constexpr int MostFolders = 8192;
 
 constexpr uint32_t WatchedEvents = IN_CLOSE_WRITE | IN_CREATE | IN_DELETE | IN_MOVED_FROM |
                                    IN_MOVED_TO | IN_MOVE_SELF | IN_ONLYDIR | IN_EXCL_UNLINK;
-constexpr std::size_t BufferSize = 64 * 1024;
+constexpr std::size_t BufferSize = std::size_t(64) * 1024;
 
 /** False for what makes no difference to anybody. */
 bool translate(uint32_t mask, FolderEvent::Kind *kind)

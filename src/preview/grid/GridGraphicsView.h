@@ -72,7 +72,7 @@ private:
     QPoint m_pointer; ///< in pixels of the viewport, as of the last move
     // Rather than by the mouse, as of the last press.
     bool m_usedByKeys = false;
-    int m_wheelTurned = 0; ///< since the last notch, in eighths of a degree
+    int m_wheelTurned = 0;    ///< since the last notch, in eighths of a degree
     bool m_extending = false; ///< a rubber band that adds to the selection
     DesignDrag m_drag;
 };
