@@ -18,8 +18,7 @@ QImage PreviewRepair::repaint(const QByteArray &hash, const QString &previewPath
         if (file.state != DesignBytes::Read || file.hash() != hash)
             return QImage();
         const auto pattern = Embroidery::EmbroideryIO::readByteArray(designPath, file.bytes);
-        const QImage image =
-            PreviewRenderer().render(pattern, DesignPreparation::PreviewSize, abort);
+        QImage image = PreviewRenderer().render(pattern, DesignPreparation::PreviewSize, abort);
         FileReplacement preview(previewPath, FileReplacement::AsBefore);
         // When it can't be written, the next look finds it damaged again.
         if (!image.isNull() && preview.write(PngEncoder::encode(image)))
