@@ -231,9 +231,9 @@ void StitchRaster::fillCap(const Line &line, const Row &row, int x, int end)
         const int share = line.share(std::sqrt(beyond * beyond + v * v));
         if (share > 0) {
             const float t = atEnd ? 1.0f : 0.0f;
-            const QRgb color = qRgb(int(line.color.r + line.change.r * t + 0.5f),
-                                    int(line.color.g + line.change.g * t + 0.5f),
-                                    int(line.color.b + line.change.b * t + 0.5f));
+            const QRgb color = qRgb(qRound(line.color.r + line.change.r * t),
+                                    qRound(line.color.g + line.change.g * t),
+                                    qRound(line.color.b + line.change.b * t));
             row.pixels[x] = share < Whole ? mixed(color, row.pixels[x], share) : color;
         }
     }
