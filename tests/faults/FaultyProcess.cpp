@@ -65,10 +65,11 @@ void FaultyProcess::endOnceStarted()
     waitForStarted();
     // It is there for them before its window is, and makes that before it ends.
     const QDeadlineTimer deadline(PatienceMs);
-    while (!deadline.hasExpired() && !waitForFinished(PollMs) && !catches(processId(), SIGTERM)) {
+    while (!deadline.hasExpired() && state() != NotRunning && !waitForFinished(PollMs) &&
+           !catches(processId(), SIGTERM)) {
     }
     terminate();
-    while (!deadline.hasExpired() && !waitForFinished(QuestionMs)) {
+    while (!deadline.hasExpired() && state() != NotRunning && !waitForFinished(QuestionMs)) {
         // It may ask whether to end without having saved. Somebody has made room meanwhile.
         if (m_plan->struck)
             m_plan->error = FaultPlan::Never;
