@@ -214,8 +214,11 @@ void WorkSheet::addRoomToWrite(PageFlow &flow) const
                                QRectF(area.topLeft(), QSizeF(area.width(), Gap)),
                                tr("Room to write"), Qt::AlignLeft, PageText::Faint);
             painter.setPen(QPen(QColor(PageText::Line), FrameWidth));
-            for (double y = area.top() + Gap + WritingGap; y <= area.bottom(); y += WritingGap)
+            const int lines = int((area.height() - Gap) / WritingGap);
+            for (int i = 1; i <= lines; ++i) {
+                const double y = area.top() + Gap + i * WritingGap;
                 painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
+            }
         },
         Gap);
 }
