@@ -17,16 +17,14 @@ QFileInfoList halfWritten(const QFileInfo &settings)
     return settings.absoluteDir().entryInfoList({pattern}, QDir::Files | QDir::NoSymLinks);
 }
 
-/** Takes the lock, also from a process that was killed before it could sign it. */
+/**
+ * Takes the lock, also from a process that was killed before it had signed it in full: by
+ * what it says that might be anybody's. A process that runs has it locked in the kernel,
+ * too, so that it can't be removed.
+ */
 bool take(QLockFile &lock)
 {
-    if (lock.tryLock(0))
-        return true;
-    qint64 pid = 0;
-    QString host;
-    QString program;
-    return !lock.getLockInfo(&pid, &host, &program) && lock.removeStaleLockFile() &&
-           lock.tryLock(0);
+    return lock.tryLock(0) || (lock.removeStaleLockFile() && lock.tryLock(0));
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QLocale>
-#include <QProcess>
+#include <QLockFile>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -313,48 +313,38 @@ void tst_Settings::keepsTheOldFileOnAFullDisk()
 
 void tst_Settings::removesWhatAKilledProcessLeft_data()
 {
-    QTest::addColumn<bool>("hasLock");
-    QTest::addColumn<bool>("isSigned");
+    QTest::addColumn<QByteArray>("lock");
     QTest::addColumn<bool>("isRunning");
     QTest::addColumn<bool>("isRemoved");
-    QTest::newRow("killed in the middle of it") << true << true << false << true;
-    QTest::newRow("killed while it began") << true << false << false << true;
-    QTest::newRow("still at it") << true << true << true << false;
-    QTest::newRow("a copy of one's own") << false << false << false << false;
+    const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
+    QTest::newRow("killed in the middle of it")
+        << QByteArray("999999999\norganizer\n" + host + '\n') << false << true;
+    QTest::newRow("killed while it signed") << QByteArray("1\norganizer\nelsew") << false << true;
+    QTest::newRow("killed before that") << QByteArray("") << false << true;
+    QTest::newRow("still at it") << QByteArray() << true << false;
+    QTest::newRow("a copy of one's own") << QByteArray() << false << false;
 }
 
 void tst_Settings::removesWhatAKilledProcessLeft()
 {
-    QFETCH(bool, hasLock);
-    QFETCH(bool, isSigned);
+    QFETCH(QByteArray, lock);
     QFETCH(bool, isRunning);
     const QString settings = m_dir.filePath(QStringLiteral("left.conf"));
-    QProcess process;
-    process.start(QStringLiteral("sleep"), {QStringLiteral("60")});
-    QVERIFY(process.waitForStarted());
-    const qint64 pid = process.processId();
-    if (!isRunning) {
-        process.kill();
-        QVERIFY(process.waitForFinished());
-    }
     const auto write = [](const QString &path, const QByteArray &bytes) {
         QFile file(path);
         return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     };
-    if (hasLock) {
-        const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
-        const QByteArray signature = QByteArray::number(pid) + "\nsleep\n" + host + '\n';
-        QVERIFY(write(settings + ".lock", isSigned ? signature : QByteArray()));
-    }
+    QLockFile held(settings + ".lock");
+    if (isRunning)
+        QVERIFY(held.lock());
+    else if (!lock.isNull())
+        QVERIFY(write(settings + ".lock", lock));
     QVERIFY(write(settings + ".backup", "[General]\n"));
 
     SettingsLeftovers::remove(settings);
     QFETCH(bool, isRemoved);
     QCOMPARE(QFile::exists(settings + ".backup"), !isRemoved);
-    QCOMPARE(QFile::exists(settings + ".lock"), hasLock && !isRemoved);
-    QFile::remove(settings + ".lock");
-    process.kill();
-    process.waitForFinished();
+    QCOMPARE(QFile::exists(settings + ".lock"), isRunning);
 }
 
 QTEST_GUILESS_MAIN(tst_Settings)

@@ -71,10 +71,11 @@ void FaultyProcess::endOnceStarted()
     terminate();
     while (!deadline.hasExpired() && state() != NotRunning && !waitForFinished(QuestionMs)) {
         // It may ask whether to end without having saved. Somebody has made room meanwhile.
-        if (m_plan->struck)
+        if (m_plan->struck && m_plan->error != FaultPlan::Kill) {
             m_plan->error = FaultPlan::Never;
-        if (catches(processId(), SIGTERM))
-            terminate();
+            if (catches(processId(), SIGTERM))
+                terminate();
+        }
     }
 }
 

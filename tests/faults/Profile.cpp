@@ -80,10 +80,9 @@ QStringList Profile::files() const
     QDirIterator entries(m_home, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (entries.hasNext()) {
         const QString path = entries.next();
-        // A backup that could not be made is made another day. A lock of the settings whose
-        // holder died goes when they are written next.
+        // A backup that could not be made is made another day.
         const bool isBackup = QFileInfo(path).dir().dirName() == QLatin1String("backups");
-        if ((isBackup && !entries.fileInfo().isHidden()) || path.endsWith(".conf.lock"))
+        if (isBackup && !entries.fileInfo().isHidden())
             continue;
         names.append(QDir(m_home).relativeFilePath(path));
     }

@@ -25,7 +25,8 @@ QString errorOf(const std::function<void()> &work)
 
 BackgroundWork::BackgroundWork(QObject *parent) : QObject(parent) {}
 
-void BackgroundWork::run(std::function<void()> work, std::function<void(const QString &)> done)
+void BackgroundWork::run(std::function<void()> work,
+                         const std::function<void(const QString &)> &done)
 {
     m_running = true;
     const bool started =

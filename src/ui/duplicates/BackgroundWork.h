@@ -20,7 +20,7 @@ public:
      * @param done runs on this one, with a text for the user when @p work threw or there was
      *        no thread for it; not at all when this object has gone by then
      */
-    void run(std::function<void()> work, std::function<void(const QString &error)> done);
+    void run(std::function<void()> work, const std::function<void(const QString &error)> &done);
 
     bool isRunning() const { return m_running; }
 
