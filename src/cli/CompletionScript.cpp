@@ -43,7 +43,7 @@ QString quoted(QString text)
     return QLatin1Char('\'') + text + QLatin1Char('\'');
 }
 
-/** A text inside the brackets of a specification of zsh. */
+/** A text inside the brackets of an option in a completion of zsh. */
 QString zshText(QString text)
 {
     for (const char *special : {"\\", "[", "]", ":"})
@@ -56,13 +56,13 @@ QString zshOption(const QCommandLineOption &option)
     const QString value = takesValue(option)
                               ? QStringLiteral(":%1:_files").arg(zshText(option.valueName()))
                               : QString();
-    QString specifications;
+    QString arguments;
     const QStringList spelt = spellings(option);
     for (const QString &name : spelt)
-        specifications +=
+        arguments +=
             QStringLiteral(" \\\n        ") +
             quoted(QStringLiteral("%1[%2]%3").arg(name, zshText(option.description()), value));
-    return specifications;
+    return arguments;
 }
 
 } // namespace
