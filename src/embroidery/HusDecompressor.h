@@ -9,6 +9,26 @@
  * Undoes the compression of the HUS format: a sliding window with static
  * Huffman codes per block. One object serves one stream.
  *
+ * How it works: the stream is a row of blocks, each with a count of codes and three
+ * tables of code lengths ahead of them. A code below 256 is a byte; one above is a match,
+ * a length, and a second code tells how far back in the window it begins; 510 ends the
+ * stream. Names that the members go by, and the idea behind each:
+ *
+ * - `m_bitBuffer`: the next 16 bits of the stream; `m_subBuffer` and `m_bitCount` are what
+ *   is left of the byte behind them; `readFromStream` moves on, `readBits` gives and moves on
+ * - `m_codeTable`: indexed by the next 12 bits, gives the symbol of a byte or match length,
+ *   or, for longer codes, a node of the tree in `m_left` and `m_right`; `m_codeLengths` has
+ *   the length in bits of each symbol's code
+ * - `m_smallTable`, `m_smallLengths`: the same by 8 bits, first for the code in which the
+ *   lengths of the big one are written, then for distances
+ * - `loadBuffers`: reads the lengths of a small code; `special` is the place behind which
+ *   up to three lengths are left out
+ * - `anotherInterestingTreeRoutine`: reads the lengths of the big code, in the small one
+ * - `initTrees`: makes table and tree of canonical codes from their lengths; `walkTree` goes
+ *   down the tree by the bits behind those of the table, until it stands on a symbol
+ * - `getNextValueToProcess`: the next byte or match length; `decodeRelativeOffsetFromTree`:
+ *   the distance that follows a length
+ *
  * A stream that is cut off is not noticed as such: decoding goes on over the
  * bytes that the last read left in the input buffer until some rule stops it.
  * Any failure is an Embroidery::IOException.
