@@ -1,6 +1,6 @@
 #include "drives/DrivePoller.h"
 
-#include "base/DetachedThread.h"
+#include "base/threads/BackgroundThread.h"
 
 #include <algorithm>
 
@@ -46,10 +46,11 @@ DrivePoller::Question DrivePoller::questionTo(const Mount &mount) const
 void DrivePoller::ask(Question &question)
 {
     question.asked.start();
-    question.pending = runDetached([this, address = m_mailbox.address(), mount = question.mount] {
-        const DriveInfo drive = DriveInfo::fromMount(mount);
-        address.post([this, drive] { takeAnswer(drive); });
-    });
+    question.pending =
+        BackgroundThread::tryStart([this, address = m_mailbox.address(), mount = question.mount] {
+            const DriveInfo drive = DriveInfo::fromMount(mount);
+            address.post([this, drive] { takeAnswer(drive); });
+        });
 }
 
 void DrivePoller::takeAnswer(const DriveInfo &drive)

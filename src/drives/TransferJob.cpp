@@ -1,6 +1,6 @@
 #include "drives/TransferJob.h"
 
-#include "base/DetachedThread.h"
+#include "base/threads/BackgroundThread.h"
 #include "drives/DriveTransfer.h"
 
 #include <atomic>
@@ -48,7 +48,7 @@ void TransferJob::start()
     const auto end = [this, address](const TransferResult &result) {
         address.post([this, result] { finish(result); });
     };
-    const bool started = runDetached([shared = m_shared, end] {
+    const bool started = BackgroundThread::tryStart([shared = m_shared, end] {
         try {
             end(shared->run());
         } catch (const std::exception &error) {

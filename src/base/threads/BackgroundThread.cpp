@@ -5,6 +5,7 @@
 #include <memory>
 #include <mutex>
 #include <QCoreApplication>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -55,12 +56,26 @@ void BackgroundThread::start(std::function<void()> work)
     running()->enter();
     try {
         std::thread([threads = running(), work = std::move(work)]() mutable {
-            work();
+            try {
+                work();
+            } catch (...) {
+                // There is nobody who could be told.
+            }
             work = nullptr;
             threads->leave();
         }).detach();
     } catch (...) {
         running()->leave();
         throw;
+    }
+}
+
+bool BackgroundThread::tryStart(std::function<void()> work)
+{
+    try {
+        start(std::move(work));
+        return true;
+    } catch (const std::system_error &) {
+        return false;
     }
 }

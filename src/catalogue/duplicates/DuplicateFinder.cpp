@@ -1,8 +1,8 @@
 #include "catalogue/duplicates/DuplicateFinder.h"
 
 #include "base/Error.h"
+#include "base/threads/ParallelLoop.h"
 #include "catalogue/duplicates/DesignBytes.h"
-#include "catalogue/duplicates/ParallelLoop.h"
 #include "embroidery/EmbPattern.h"
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"

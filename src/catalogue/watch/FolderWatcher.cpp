@@ -1,7 +1,7 @@
 #include "catalogue/watch/FolderWatcher.h"
 
-#include "base/DetachedThread.h"
 #include "base/files/MountTable.h"
+#include "base/threads/BackgroundThread.h"
 #include "catalogue/watch/FolderWalk.h"
 #include "catalogue/watch/WatchTable.h"
 
@@ -90,8 +90,8 @@ void FolderWatcher::lookAgain()
 void FolderWatcher::watch(const QString &folder)
 {
     const int room = WatchTable::roomForAll() / m_folders.size();
-    const bool started =
-        runDetached([this, folder, room, shared = m_shared, address = m_mailbox.address()] {
+    const bool started = BackgroundThread::tryStart(
+        [this, folder, room, shared = m_shared, address = m_mailbox.address()] {
             FolderWalk(shared->table, room, shared->abandoned).run(QFile::encodeName(folder));
             address.post([this, folder] {
                 m_beingWalked.remove(folder);
@@ -173,7 +173,7 @@ void FolderWatcher::walkNewFolders(Telling telling)
         return;
     const QList<QByteArray> folders = std::exchange(m_newFolders, {});
     const int room = WatchTable::roomForAll() / qMax(1, m_folders.size());
-    runDetached([=, shared = m_shared, address = m_mailbox.address()] {
+    BackgroundThread::tryStart([=, shared = m_shared, address = m_mailbox.address()] {
         for (const QByteArray &folder : folders) {
             const bool hasDesigns = FolderWalk(shared->table, room, shared->abandoned).run(folder);
             if (hasDesigns && telling == Tell)

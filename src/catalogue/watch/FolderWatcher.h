@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Mailbox.h"
+#include "base/threads/Mailbox.h"
 
 #include <memory>
 #include <QObject>

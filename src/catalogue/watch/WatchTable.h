@@ -30,10 +30,10 @@ class WatchTable
 public:
     enum Adding {
         Added,
-        KnownElsewhere, ///< the folder is watched by another of its names, so a link leads in a
-                        ///< circle
-        NoRoom,         ///< the system watches no more
-        Refused         ///< it is no folder, or not for this user
+        /** The folder is watched by another of its names, so a link leads in a circle. */
+        KnownElsewhere,
+        NoRoom, ///< the system watches no more
+        Refused ///< it is no folder, or not for this user
     };
 
     WatchTable();

@@ -1,7 +1,7 @@
 #include "ui/duplicates/BackgroundWork.h"
 
-#include "base/DetachedThread.h"
 #include "base/Error.h"
+#include "base/threads/BackgroundThread.h"
 
 #include <new>
 
@@ -29,8 +29,8 @@ void BackgroundWork::run(std::function<void()> work,
                          const std::function<void(const QString &)> &done)
 {
     m_running = true;
-    const bool started =
-        runDetached([this, work = std::move(work), done, address = m_mailbox.address()] {
+    const bool started = BackgroundThread::tryStart(
+        [this, work = std::move(work), done, address = m_mailbox.address()] {
             const QString error = errorOf(work);
             // The address drops this when the object has gone.
             address.post([this, done, error] { finish(done, error); });

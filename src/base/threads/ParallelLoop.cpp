@@ -1,4 +1,4 @@
-#include "catalogue/duplicates/ParallelLoop.h"
+#include "base/threads/ParallelLoop.h"
 
 #include <algorithm>
 #include <atomic>

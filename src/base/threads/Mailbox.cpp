@@ -1,4 +1,4 @@
-#include "base/Mailbox.h"
+#include "base/threads/Mailbox.h"
 
 #include <mutex>
 #include <QObject>
