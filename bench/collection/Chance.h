@@ -14,12 +14,12 @@ public:
 
     double between(double from, double to) { return from + (to - from) * share(); }
 
-    /** From 0 to `count` - 1. */
+    /** From 0 to @p count - 1. */
     int below(int count) { return int(share() * count); }
 
     bool happens(double probability) { return share() < probability; }
 
-    /** Around `median`; two thirds of all lie within a factor of exp(`spread`). */
+    /** Around @p median; two thirds of all lie within a factor of exp(@p spread). */
     double logNormal(double median, double spread)
     {
         const double radius = std::sqrt(-2 * std::log(1 - share()));

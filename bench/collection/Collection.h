@@ -18,7 +18,8 @@ public:
     /** @param folder where it goes; made if it is missing */
     Collection(const QString &folder, unsigned long long seed);
 
-    /** Writes `count` files of design formats. @throws std::runtime_error when one can't be written
+    /** Writes @p count files of design formats. @throws std::runtime_error when one can't be
+     * written
      */
     void write(int count);
 

@@ -49,7 +49,7 @@ void letter(Sewing &sewing, Chance &chance, const QPointF &center, double size)
     sewing.stroke(Curves::spline(points), std::min(size * 0.3, 60.0));
 }
 
-/** Sews one thing at a place within `radius` of the middle. */
+/** Sews one thing at a place within @p radius of the middle. */
 void sewSomething(Sewing &sewing, Chance &chance, double radius)
 {
     const double size = std::max(40.0, radius * chance.between(0.12, 0.5));

@@ -16,7 +16,7 @@ constexpr int FamilySize = 8;
 /** From 500 to 60,000 stitches, 8,000 on average; of the size that so many stitches fill. */
 Pattern sew(Chance &chance);
 
-/** The `member`-th of the family that `design` is the first of. */
+/** The @p member-th of the family that @p design is the first of. */
 Pattern relative(const Embroidery::EmbPattern &design, int member);
 
 } // namespace MadeUpDesign

@@ -22,7 +22,7 @@ inline void print(const char *name, double value)
     std::fflush(stdout);
 }
 
-/** Milliseconds of the processor that `work` takes, on this thread alone or on all of them. */
+/** Milliseconds of the processor that @p work takes, on this thread alone or on all of them. */
 inline double milliseconds(const std::function<void()> &work,
                            clockid_t clock = CLOCK_THREAD_CPUTIME_ID)
 {

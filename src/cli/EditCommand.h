@@ -18,7 +18,7 @@ public:
     bool writes() const override { return true; }
 
 protected:
-    /** Changes one design, or throws Error; then none is changed. */
+    /** Changes one design. @throws Error; then none is changed */
     using Edit = std::function<void(IFile &, Project &)>;
 
     /**

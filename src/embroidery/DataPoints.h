@@ -16,13 +16,13 @@ public:
     /** Appends a command without a point. */
     void setData(int data);
 
-    /** Overwrites the command of point `i`. */
+    /** Overwrites the command of point @p i. */
     void setData(int i, int data);
 
     /** The commands of all points, for a walk over them. */
     const QVector<int> &commands() const { return m_data; }
 
-    /** Sets memory for `pointCount` points aside. */
+    /** Sets memory for @p pointCount points aside. */
     void reserve(int pointCount);
 
 private:

@@ -14,7 +14,7 @@ class DstReader : public EmbReader
 public:
     DstReader();
 
-    /** Bit `n` of `byte`, 0 or 1. */
+    /** Bit @p n of @p byte, 0 or 1. */
     static constexpr int getbit(char byte, int n)
     {
         return (static_cast<unsigned char>(byte) >> n) & 1;

@@ -83,14 +83,14 @@ public:
     float getMaxY() const { return m_points->getMaxY(); }
     QRectF boundingRect() const { return m_points->boundingRect(); }
 
-    /** Sets memory for `pointCount` points aside; a hint of the readers. */
+    /** Sets memory for @p pointCount points aside; a hint of the readers. */
     void reserve(int pointCount) { m_points->reserve(pointCount); }
 
     QList<QSharedPointer<EmbThread>> threadList() const { return m_threads; }
     void setThreadList(const QList<QSharedPointer<EmbThread>> &list);
     void addThread(const QSharedPointer<EmbThread> &thread);
 
-    /** Thread `i`; the list is lengthened by random greys until it has one. */
+    /** Thread @p i; the list is lengthened by random greys until it has one. */
     QSharedPointer<EmbThread> threadForIndex(int i);
 
     /** A new thread of a random grey. */

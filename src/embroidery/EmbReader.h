@@ -14,7 +14,7 @@ namespace Embroidery {
 class EmbReader : public IReader, public ReadHelper
 {
 public:
-    /** `name` is the format's short name, "dst" for instance. */
+    /** @p name is the format's short name, "dst" for instance. */
     explicit EmbReader(const QString &name);
 
     void set(const QString &key, const QVariant &value) override;
@@ -23,7 +23,7 @@ public:
     void read(QSharedPointer<EmbPattern> &pattern, QIODevice *device) override;
 
 protected:
-    /** Reads the bytes of this object into pattern(). Throws IOException. */
+    /** Reads the bytes of this object into pattern(). @throws IOException */
     virtual void read() = 0;
 
     /** The pattern to fill. */

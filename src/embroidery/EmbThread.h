@@ -11,11 +11,11 @@ namespace Embroidery {
 class EmbThread
 {
 public:
-    /** `rgb` is 0xRRGGBB; whatever its top byte holds, the thread is opaque. */
+    /** @p rgb is 0xRRGGBB; whatever its top byte holds, the thread is opaque. */
     EmbThread(unsigned int rgb, const QString &description, const QString &catalogNumber,
               const QString &brand, const QString &chart);
 
-    /** `r`, `g` and `b` are 0 to 255. */
+    /** @p r, @p g and @p b are 0 to 255. */
     EmbThread(int r, int g, int b, const QString &description, const QString &catalogNumber,
               const QString &brand, const QString &chart);
 

@@ -11,7 +11,7 @@ namespace Embroidery {
 class EmbThreadHus : public EmbThread
 {
 public:
-    /** `r`, `g` and `b` are 0 to 255. */
+    /** @p r, @p g and @p b are 0 to 255. */
     EmbThreadHus(int r, int g, int b, const QString &description, const QString &catalogNumber);
 
     static QSharedPointer<EmbThreadHus> create(int r, int g, int b, const QString &description,

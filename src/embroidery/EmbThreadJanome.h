@@ -11,7 +11,7 @@ namespace Embroidery {
 class EmbThreadJanome : public EmbThread
 {
 public:
-    /** `r`, `g` and `b` are 0 to 255. */
+    /** @p r, @p g and @p b are 0 to 255. */
     EmbThreadJanome(int r, int g, int b, const QString &description, const QString &catalogNumber);
 
     static QSharedPointer<EmbThreadJanome> create(int r, int g, int b, const QString &description,

@@ -11,7 +11,7 @@ namespace Embroidery {
 class EmbThreadPec : public EmbThread
 {
 public:
-    /** `r`, `g` and `b` are 0 to 255. */
+    /** @p r, @p g and @p b are 0 to 255. */
     EmbThreadPec(int r, int g, int b, const QString &description, const QString &catalogNumber);
 
     static QSharedPointer<EmbThreadPec> create(int r, int g, int b, const QString &description,

@@ -40,7 +40,7 @@ public:
     static void setSettings(const QSharedPointer<IBaseIO> &target,
                             const QHash<QString, QVariant> &settings);
 
-    /** Reads a design from `device`, which is open and stays the caller's. */
+    /** Reads a design from @p device, which is open and stays the caller's. */
     static QSharedPointer<EmbPattern> readStream(const QString &filename, QIODevice *device,
                                                  const QHash<QString, QVariant> &settings);
 
@@ -48,7 +48,7 @@ public:
     static QSharedPointer<EmbPattern> readFile(const QString &filename,
                                                const QHash<QString, QVariant> &settings);
 
-    /** Reads a design from the bytes of a whole file; `filename` only names the format. */
+    /** Reads a design from the bytes of a whole file; @p filename only names the format. */
     static QSharedPointer<EmbPattern> readByteArray(const QString &filename, QByteArray bytes);
 };
 

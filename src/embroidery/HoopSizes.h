@@ -16,7 +16,7 @@ public:
     static QStringList sides(bool imperial);
 
     /**
-     * The smallest hoop that holds a design of `design` millimetres, in millimetres;
+     * The smallest hoop that holds a design of @p design millimetres, in millimetres;
      * none where not even the largest does. Each side is the shortest that is long
      * enough, so that no other hoop is smaller, lying or standing.
      */

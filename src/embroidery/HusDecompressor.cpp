@@ -254,7 +254,7 @@ void HusDecompressor::initTrees(int count, const unsigned char *lengths, int tab
     }
 }
 
-/** The place below `entry` that `depth` further bits of `code` lead to, with its nodes made. */
+/** The place below @p entry that @p depth further bits of @p code lead to, with its nodes made. */
 unsigned short *HusDecompressor::growBranch(unsigned short *entry, unsigned short code,
                                             unsigned short mask, int depth, int &available)
 {

@@ -51,7 +51,7 @@ public:
     static constexpr int MaximumStaleBlocks = 8;
 
     /**
-     * `size` is the length of `input` in bytes and `bits` the binary logarithm
+     * @p size is the length of @p input in bytes and @p bits the binary logarithm
      * of the window's size. Both arrays stay the caller's.
      */
     HusDecompressor(QByteArray *input, QByteArray *output, long size, int bits);

@@ -20,7 +20,7 @@ constexpr int MoveCommandByte = 0x81;
 constexpr int ColorChangeCommandByte = 0x84;
 constexpr int EndCommandByte = 0x90;
 
-/** The byte of stitch `i`, or `missing` if the stream is too short. */
+/** The byte of stitch @p i, or @p missing if the stream is too short. */
 int byteAt(const QByteArray &stream, int i, int missing)
 {
     return i < stream.size() ? static_cast<unsigned char>(stream.at(i)) : missing;

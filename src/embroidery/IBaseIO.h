@@ -14,13 +14,13 @@ public:
     IBaseIO &operator=(const IBaseIO &) = delete;
     virtual ~IBaseIO() = default;
 
-    /** Stores `value` under `key`, replacing an earlier one. */
+    /** Stores @p value under @p key, replacing an earlier one. */
     virtual void set(const QString &key, const QVariant &value) = 0;
 
-    /** The value under `key`; a null entry is inserted if there is none. */
+    /** The value under @p key; a null entry is inserted if there is none. */
     virtual QVariant get(const QString &key) = 0;
 
-    /** The value under `key`, or `defaultValue` if there is none. */
+    /** The value under @p key, or @p defaultValue if there is none. */
     virtual QVariant get(const QString &key, const QVariant &defaultValue) = 0;
 };
 

@@ -15,8 +15,8 @@ class IReader : public IBaseIO
 {
 public:
     /**
-     * Fills `pattern` from `device`, which must be open for reading and stays
-     * the caller's. Throws IOException; the pattern is then incomplete.
+     * Fills @p pattern from @p device, which must be open for reading and stays
+     * the caller's. @throws IOException; the pattern is then incomplete
      */
     virtual void read(QSharedPointer<EmbPattern> &pattern, QIODevice *device) = 0;
 };

@@ -24,10 +24,10 @@ public:
     virtual float getX(int i) const;
     virtual float getY(int i) const;
 
-    /** Moves point `i`; the bounds are recomputed later if it touched their edge. */
+    /** Moves point @p i; the bounds are recomputed later if it touched their edge. */
     virtual void setLocation(int i, float x, float y);
 
-    /** The stitch command of point `i`. */
+    /** The stitch command of point @p i. */
     virtual int getData(int i) const = 0;
 
     /** The number of points. */
@@ -36,7 +36,7 @@ public:
     virtual void add(float x, float y);
     virtual void add(float x, float y, int data);
 
-    /** Makes the store hold at least `n` floats. */
+    /** Makes the store hold at least @p n floats. */
     void ensureCapacity(int n);
 
     void resetBounds();
@@ -54,7 +54,7 @@ public:
 
     bool isEmpty() const { return m_pointCount == 0; }
 
-    /** Recomputes stale bounds; those that may only have shrunk if `force` is set. */
+    /** Recomputes stale bounds; those that may only have shrunk if @p force is set. */
     void computeBounds(bool force);
 
     float getMinX();
@@ -68,7 +68,7 @@ public:
     QRectF boundingRect();
 
 protected:
-    /** Sets memory for `n` floats aside without using it. */
+    /** Sets memory for @p n floats aside without using it. */
     void reserveFloats(int n) { m_pointList.reserve(n); }
 
 private:

@@ -8,13 +8,13 @@ class QByteArray;
 class QByteArrayWrapper
 {
 public:
-    /** `bytes` stays the caller's and must outlive this object. */
+    /** @p bytes stays the caller's and must outlive this object. */
     QByteArrayWrapper(QByteArray *bytes, QIODevice::OpenMode mode);
 
-    /** Writes `length` bytes; throws Embroidery::IOException if they don't all fit. */
+    /** Writes @p length bytes. @throws Embroidery::IOException if they don't all fit */
     void WriteBuffer(const char *data, qint64 length);
 
-    /** Reads up to `length` bytes and returns how many came; 0 at the end. */
+    /** Reads up to @p length bytes and returns how many came; 0 at the end. */
     qint64 ReadBuffer(char *data, qint64 length);
 
     /** The size of the array in bytes. */

@@ -27,9 +27,10 @@ public:
     static constexpr int MaximumSize = 16 * 1024 * 1024;
 
     /**
-     * Takes the bytes of `device` in, from its start where it has one; the
+     * Takes the bytes of @p device in, from its start where it has one; the
      * cursor begins at the device's own position and the count at 0. The device
-     * stays the caller's. Throws IOException if it is larger than MaximumSize.
+     * stays the caller's.
+     * @throws IOException if it is larger than MaximumSize
      */
     void setDevice(QIODevice *device);
 
@@ -42,18 +43,18 @@ public:
     qint64 tell() const { return m_position; }
 
     /**
-     * Advances by `n` bytes, at most to the end. A negative `n` leaves the
+     * Advances by @p n bytes, at most to the end. A negative @p n leaves the
      * cursor and still lowers the count. Never throws.
      */
     void skip(int n);
 
     /**
-     * Puts the cursor on byte `n`. A negative `n` does nothing; one past the
-     * end throws IOException.
+     * Puts the cursor on byte @p n. A negative @p n does nothing.
+     * @throws IOException past the end
      */
     void seek(int n);
 
-    /** Reads up to `n` bytes; returns how many came, -1 at the end. Never throws. */
+    /** Reads up to @p n bytes; returns how many came, -1 at the end. Never throws. */
     int readFully(char *buffer, int n)
     {
         if (m_bytes.size() - m_cursor < n || atEnd())
@@ -71,17 +72,17 @@ public:
     int readInt32LE();
     int readInt32BE();
 
-    /** Exactly `n` bytes; throws IOException if there are fewer. */
+    /** Exactly @p n bytes. @throws IOException if there are fewer */
     QByteArray readData(int n);
 
     /**
-     * A text of at most `n` bytes in UTF-8. A zero byte ends it and is taken;
-     * what is left of the `n` bytes behind it stays unread. Throws IOException
-     * if the data ends first.
+     * A text of at most @p n bytes in UTF-8. A zero byte ends it and is taken;
+     * what is left of the @p n bytes behind it stays unread.
+     * @throws IOException if the data ends first
      */
     QString readString(int n);
 
-    /** The same from another device; throws IOException if it is null. */
+    /** The same from another device. @throws IOException if it is null */
     static QString readString(QIODevice *device, int n);
 
     static constexpr int signed8(int v) { return static_cast<signed char>(v & 0xFF); }

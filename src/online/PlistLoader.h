@@ -6,7 +6,7 @@
 
 /**
  * Reads XML property lists. A list becomes what its first dictionary holds:
- * strings, numbers, bools, lists and maps. Throws Error.
+ * strings, numbers, bools, lists and maps. @throws Error
  */
 class PlistLoader
 {

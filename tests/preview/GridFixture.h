@@ -58,7 +58,7 @@ public:
     bool isInView(int index) const { return viewport()->rect().contains(cardRect(index)); }
 
     Files selected() const { return models.selection()->selectedFiles(); }
-    /** The files from `first` to `last`. */
+    /** The files from @p first to @p last. */
     Files range(int first, int last) const { return files.mid(first, last - first + 1); }
     int current() const { return scene->currentIndex(); }
 

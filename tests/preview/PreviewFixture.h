@@ -28,7 +28,7 @@ public:
         return GlobalSettings().previewImagePath(hash);
     }
 
-    /** Stores a preview of one colour under `hash`. */
+    /** Stores a preview of one colour under @p hash. */
     static void storePreview(const QByteArray &hash, const QSize &size, const QColor &color)
     {
         QImage image(size, QImage::Format_ARGB32);

@@ -10,7 +10,7 @@ using Curve = QVector<QPointF>;
 
 namespace Curves {
 
-/** The point at a distance and an angle from `center`. */
+/** The point at a distance and an angle from @p center. */
 QPointF polar(const QPointF &center, double degrees, double radius);
 
 /** An arc of an ellipse from one angle to another, as a fine polyline. */
@@ -28,21 +28,21 @@ Curve closedSpline(const Curve &points);
 /** The polygon with its first point repeated at the end. */
 Curve closed(const Curve &points);
 
-/** The curve mirrored at the vertical line through `x`. */
+/** The curve mirrored at the vertical line through @p x. */
 Curve mirrored(const Curve &curve, double x = 0);
 
-/** The curve turned about `center`. */
+/** The curve turned about @p center. */
 Curve turned(const Curve &curve, double degrees, const QPointF &center = QPointF());
 
 double length(const Curve &curve);
 
-/** `count` + 1 points at equal distances along the curve; `count` is at least 1. */
+/** @p count + 1 points at equal distances along the curve; @p count is at least 1. */
 Curve resampled(const Curve &curve, int count);
 
-/** Points about `step` apart along the curve, both ends kept. */
+/** Points about @p step apart along the curve, both ends kept. */
 Curve resampledByStep(const Curve &curve, double step);
 
-/** The curve cut at the points where it turns by more than `degrees`. A closed curve is also
+/** The curve cut at the points where it turns by more than @p degrees. A closed curve is also
     cut at its seam when that is such a corner. */
 QVector<Curve> cutAtCorners(const Curve &curve, double degrees);
 

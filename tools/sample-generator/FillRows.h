@@ -9,7 +9,7 @@ namespace FillRows {
 /**
  * The needle points that fill what lies inside an odd number of the outlines, in
  * sections that can each be sewn without lifting the needle. Rows run at
- * `degrees`; units are tenths of a millimetre.
+ * @p degrees; units are tenths of a millimetre.
  */
 QVector<Curve> sections(const QVector<Curve> &outlines, double degrees);
 

@@ -12,7 +12,7 @@ namespace {
 
 const QString Category = QStringLiteral("Letters");
 
-/** A heart whose dip lies at `center` and whose half width is `size`. */
+/** A heart whose dip lies at @p center and whose half width is @p size. */
 Curve heart(const QPointF &center, double size)
 {
     Curve right = spline({{0, 0},

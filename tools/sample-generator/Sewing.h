@@ -20,7 +20,7 @@ public:
     /** Changes to a thread of this colour; name and number stand in the thread list. */
     void thread(unsigned int rgb, const QString &name, const QString &number);
 
-    /** Fills what lies inside an odd number of the outlines with rows at `degrees`, whose
+    /** Fills what lies inside an odd number of the outlines with rows at @p degrees, whose
         needle points are offset from row to row so that no furrow shows. */
     void fill(const QVector<Curve> &outlines, double degrees);
     void fill(const Curve &outline, double degrees) { fill(QVector<Curve>{outline}, degrees); }
@@ -34,7 +34,7 @@ public:
     /** A satin column of even width along the curve; corners are sewn as mitred joints. */
     void stroke(const Curve &curve, double width);
 
-    /** A petal sewn across its length, from its foot in the direction of `degrees`. */
+    /** A petal sewn across its length, from its foot in the direction of @p degrees. */
     void petal(const QPointF &foot, double degrees, double length, double width);
 
     /** A leaf of two slanted halves that meet at the midrib. */

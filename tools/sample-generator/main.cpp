@@ -9,7 +9,7 @@
 #include <QTextStream>
 
 namespace {
-/** Writes one sample in every format; false after a failure, which `err` tells. */
+/** Writes one sample in every format; false after a failure, which @p err tells. */
 bool writeSample(const Embroidery::EmbPattern &pattern, const QDir &folder, QTextStream &err)
 {
     const QString category = pattern.metadata(Embroidery::EmbPattern::PROP_CATEGORY, QString());

@@ -8,7 +8,7 @@ namespace DesignWriters {
 class BitSink
 {
 public:
-    /** Appends the low `count` bits of `value`. */
+    /** Appends the low @p count bits of @p value. */
     void put(unsigned int value, int count)
     {
         for (int bit = count - 1; bit >= 0; --bit) {

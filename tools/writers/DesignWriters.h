@@ -20,7 +20,7 @@ namespace DesignWriters {
 QStringList formats();
 
 /**
- * The bytes of a file in `format`. Throws std::invalid_argument for an unknown
+ * The bytes of a file in @p format. Throws std::invalid_argument for an unknown
  * format and std::length_error for a design that the format can't hold.
  */
 QByteArray write(const QString &format, const Embroidery::EmbPattern &pattern);

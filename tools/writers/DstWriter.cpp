@@ -29,7 +29,7 @@ struct Digit
 
 constexpr Digit Digits[] = {{81, 2, 2, 4}, {27, 1, 2, 4}, {9, 0, 2, 4}, {3, 1, 0, 6}, {1, 0, 0, 6}};
 
-/** Sets the balanced ternary digits of `value`, from the greatest weight down. */
+/** Sets the balanced ternary digits of @p value, from the greatest weight down. */
 void setDigits(int value, int Digit::*bit, int (&record)[3])
 {
     for (const Digit &digit : Digits) {

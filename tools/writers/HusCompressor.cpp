@@ -20,7 +20,7 @@ constexpr int ShortestMatch = 3;
 constexpr int LongestMatch = 256;
 constexpr int FarthestMatch = 1023;
 
-/** The longest match for what stands at `at`, or one of length 0. */
+/** The longest match for what stands at @p at, or one of length 0. */
 void findMatch(const QByteArray &bytes, int at, int &bestLength, int &bestDistance)
 {
     bestLength = 0;
@@ -90,7 +90,7 @@ void putSmallLength(BitSink &sink, int length)
     sink.put(0, 1);
 }
 
-/** Writes the lengths of a small code. After `special` of them two bits tell how many zeros are
+/** Writes the lengths of a small code. After @p special of them two bits tell how many zeros are
     left out; -1 for never. */
 void putSmallCode(BitSink &sink, const HuffmanCode &code, int special)
 {

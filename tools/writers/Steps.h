@@ -14,7 +14,7 @@ struct Step
 };
 
 /**
- * The pattern as relative steps of at most `limit` along each axis; longer ones
+ * The pattern as relative steps of at most @p limit along each axis; longer ones
  * are cut into equal parts. Ends at the first `end` command, which is left out.
  */
 QVector<Step> relativeSteps(const Embroidery::EmbPattern &pattern, int limit);

@@ -26,12 +26,12 @@ public:
     static PreviewCache &instance();
 
     /**
-     * The preview of `file`, or the placeholder while it is loaded. `listener`,
+     * The preview of @p file, or the placeholder while it is loaded. @p listener,
      * which may be null, is told once when it has arrived.
      */
     QPixmap previewImage(const QSharedPointer<IFile> &file, PreviewCacheListener *listener);
 
-    /** Forgets what `listener` waits for; loads under way still fill the cache. */
+    /** Forgets what @p listener waits for; loads under way still fill the cache. */
     void dropRequestsOfListener(PreviewCacheListener *listener);
 
     /** Who mends damaged previews; without one they show the error picture. */
@@ -41,11 +41,11 @@ public:
     void clear();
 
 public slots:
-    /** Keeps `image` for `key` and tells whoever waits for it. */
+    /** Keeps @p image for @p key and tells whoever waits for it. */
     void previewLoaded(const QByteArray &key, QImage image);
 
 signals:
-    /** Asks the worker for the file at `path`, the preview of the design at `designPath`. */
+    /** Asks the worker for the file at @p path, the preview of the design at @p designPath. */
     void loadPreview(const QByteArray &key, const QString &path, const QString &designPath);
 
 private:

@@ -37,7 +37,7 @@ public slots:
     void loadPreview(const QByteArray &key, const QString &path, const QString &designPath);
 
 signals:
-    /** The image of `key`, or the error picture where the file has none. */
+    /** The image of @p key, or the error picture where the file has none. */
     void previewLoaded(const QByteArray &key, QImage image);
 
 private:

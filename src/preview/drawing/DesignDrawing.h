@@ -57,10 +57,10 @@ public:
     void paint(QPainter &painter, const Range &range) const;
 
     /**
-     * Draws shaded thread with soft edges into `image`, which must be RGB32 or
-     * premultiplied ARGB32. Its upper left corner shows the point `origin` of the
-     * design; a tenth of a millimetre is `scale` pixels long. False, with the image
-     * half painted, once `cancelled` is set.
+     * Draws shaded thread with soft edges into @p image, which must be RGB32 or
+     * premultiplied ARGB32. Its upper left corner shows the point @p origin of the
+     * design; a tenth of a millimetre is @p scale pixels long. False, with the image
+     * half painted, once @p cancelled is set.
      */
     bool paint(QImage &image, const QPointF &origin, double scale, const Range &range,
                const std::atomic<bool> *cancelled = nullptr) const;
@@ -68,7 +68,7 @@ public:
 private:
     QRgb colorOf(int use) const;
     QRgb faded(QRgb color, int use) const;
-    /** The runs of which something is to be drawn; `visible` is in tenths of a millimetre. */
+    /** The runs of which something is to be drawn; @p visible is in tenths of a millimetre. */
     template <class Draw>
     bool forEachRun(const Range &range, const QRectF &visible, Draw draw) const;
 

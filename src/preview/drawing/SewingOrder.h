@@ -51,12 +51,12 @@ struct StitchRun
 class SewingOrder
 {
 public:
-    /** Keeps `pattern`, which nobody may change from now on; it must not be null. */
+    /** Keeps @p pattern, which nobody may change from now on; it must not be null. */
     explicit SewingOrder(const QSharedPointer<Embroidery::EmbPattern> &pattern);
 
     /** The number of points of the design, whatever happens at them. */
     int pointCount() const { return m_pointCount; }
-    /** Point `i`, from 0 to before pointCount(), in tenths of a millimetre. */
+    /** Point @p i, from 0 to before pointCount(), in tenths of a millimetre. */
     QPointF pointAt(int i) const;
 
     /** What the design measures, in tenths of a millimetre; null where nothing is sewn. */

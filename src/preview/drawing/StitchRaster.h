@@ -12,9 +12,9 @@ class StitchRaster
 {
 public:
     /**
-     * Draws into `image`, which must be RGB32 or premultiplied ARGB32, is not owned
-     * and must outlive the raster. Its upper left corner shows the point `origin` of
-     * the design, and a tenth of a millimetre is `scale` pixels long.
+     * Draws into @p image, which must be RGB32 or premultiplied ARGB32, is not owned
+     * and must outlive the raster. Its upper left corner shows the point @p origin of
+     * the design, and a tenth of a millimetre is @p scale pixels long.
      */
     StitchRaster(QImage *image, const QPointF &origin, double scale);
 

@@ -19,7 +19,7 @@ public:
         QRgb from;
         QRgb to;
     };
-    /** The colours at the two ends of a stitch that leads `along`. */
+    /** The colours at the two ends of a stitch that leads @p along. */
     Ends of(const QPointF &along);
 
 private:

@@ -12,7 +12,7 @@ class GridGraphicsView;
 class CardAccessible : public QAccessibleInterface
 {
 public:
-    /** For the card that stands at `index` now; `view` has so many cards. */
+    /** For the card that stands at @p index now; @p view has so many cards. */
     CardAccessible(GridGraphicsView *view, int index);
 
     int index() const { return m_index; }

@@ -22,13 +22,13 @@ public:
     bool isDue(const QMouseEvent *event) const;
 
     /**
-     * Lets the user drop `files` on any window but those of this program; returns when that is
-     * over. `picture` is what he drags.
+     * Lets the user drop @p files on any window but those of this program; returns when that is
+     * over. @p picture is what he drags.
      */
     static void run(QWidget *source, const QList<QSharedPointer<IFile>> &files,
                     const QPixmap &picture);
 
-    /** A small card with `preview` for a screen with `ratio` device pixels per pixel. */
+    /** A small card with @p preview for a screen with @p ratio device pixels per pixel. */
     static QPixmap picture(const QPixmap &preview, int count, qreal ratio);
 
 private:

@@ -12,10 +12,10 @@ class EdgeScroller : public QObject
     Q_OBJECT
 
 public:
-    /** `view` owns this. */
+    /** @p view owns this. */
     explicit EdgeScroller(QAbstractScrollArea *view);
 
-    /** The pointer is at `pos`, in pixels of the viewport. */
+    /** The pointer is at @p pos, in pixels of the viewport. */
     void dragTo(const QPoint &pos);
     void stop();
 

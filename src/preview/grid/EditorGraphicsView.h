@@ -19,7 +19,7 @@ public:
 
     void setScene(EditorScene *scene);
 
-    /** Shows the scene with `z` pixels per scene unit around the same centre. */
+    /** Shows the scene with @p z pixels per scene unit around the same centre. */
     void zoomTo(double z);
     /** Pixels per scene unit. */
     double currentZoomValue() const { return m_zoom; }
@@ -31,7 +31,7 @@ public:
 
 signals:
     void zoomChanged(double zoom);
-    /** The wheel was turned by `delta` with Alt held down. */
+    /** The wheel was turned by @p delta with Alt held down. */
     void mouseZoom(int delta);
 
 protected:

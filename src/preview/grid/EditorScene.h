@@ -19,8 +19,8 @@ public:
     virtual void enter();
     /** The pointer left the view. */
     virtual void leave();
-    /** The view draws `factor` pixels per scene unit. */
+    /** The view draws @p factor pixels per scene unit. */
     virtual void scaleFactorChanged(double factor);
-    /** The view is about to paint while it shows `area`, in scene units. */
+    /** The view is about to paint while it shows @p area, in scene units. */
     virtual void areaExposed(const QRectF &area);
 };

@@ -34,7 +34,7 @@ public:
     static const ItemLayout NormalGrid;
     static const ItemLayout SmallGrid;
 
-    /** Adds itself to `scene`, which owns it. `imperial`: sizes in inches. */
+    /** Adds itself to @p scene, which owns it. @p imperial: sizes in inches. */
     GridEmbroideryItem(const QSharedPointer<IFile> &file, GridPreviewScene *scene, bool imperial);
     ~GridEmbroideryItem() override;
 
@@ -54,7 +54,7 @@ public:
     /** Reads name and size of the file anew. */
     void refreshLabels(bool imperial);
 
-    /** Follows the view, which now draws `s` pixels per scene unit. */
+    /** Follows the view, which now draws @p s pixels per scene unit. */
     void setViewScaleFactor(double s);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,

@@ -12,7 +12,7 @@
 class GridFavoriteItem : public QGraphicsPixmapItem, public Observer
 {
 public:
-    /** The star belongs to `card`, its parent item. */
+    /** The star belongs to @p card, its parent item. */
     GridFavoriteItem(const QSharedPointer<IFile> &file, QGraphicsItem *card);
 
     void setParentHovered(bool hovered);

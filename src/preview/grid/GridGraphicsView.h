@@ -28,7 +28,7 @@ public:
     void goTo(int index);
 
 signals:
-    /** The view shows `width` scene units from left to right. */
+    /** The view shows @p width scene units from left to right. */
     void widthChanged(int width);
     /** The wheel was turned with Ctrl, by a whole notch. */
     void zoomInRequested();

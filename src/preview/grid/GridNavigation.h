@@ -7,14 +7,14 @@
 class GridNavigation
 {
 public:
-    /** `columns` and `rowsPerPage` are at least 1. */
+    /** @p columns and @p rowsPerPage are at least 1. */
     GridNavigation(int count, int columns, int rowsPerPage);
 
-    /** Whether `key` is an arrow, Home, End or a page key. */
+    /** Whether @p key is an arrow, Home, End or a page key. */
     static bool isMovingKey(int key);
 
     /**
-     * The card that a moving key leads to from the card `from`; a key that leads off
+     * The card that a moving key leads to from the card @p from; a key that leads off
      * the sheet stays at its edge. -1 where there is no card.
      */
     int target(int key, int from) const;

@@ -33,10 +33,10 @@ public:
     void areaExposed(const QRectF &area) override;
 
     int count() const { return m_files.size(); }
-    /** The file at `index`, which must be one of count(). */
+    /** The file at @p index, which must be one of count(). */
     const QSharedPointer<IFile> &fileAt(int index) const { return m_files.at(index); }
     /**
-     * The card at `index`, which must be one of count(). Made if it is not there; out of
+     * The card at @p index, which must be one of count(). Made if it is not there; out of
      * the view it is so until the view is painted the next time.
      */
     GridEmbroideryItem *cardAt(int index);
@@ -54,7 +54,7 @@ public:
     void selectOnly(int index);
     void selectAll();
     void selectNone();
-    /** Selects the cards that `area` touches, in place of all others or in addition to them. */
+    /** Selects the cards that @p area touches, in place of all others or in addition to them. */
     void selectArea(const QRectF &area, bool keepOthers);
 
     /** The card that the keys act on, -1 while there is none. */
@@ -82,10 +82,10 @@ public:
     ThumbnailCache &thumbnails() { return m_thumbnails; }
 
 public slots:
-    /** Places the cards in rows on a sheet of `width` scene units. */
+    /** Places the cards in rows on a sheet of @p width scene units. */
     void placeSprites(int width);
     void setPreferredSceneWidth(int width);
-    /** Lays the sheet out for a view that draws `newScale` pixels per scene unit. */
+    /** Lays the sheet out for a view that draws @p newScale pixels per scene unit. */
     void setScaleFactor(double newScale);
     /** Selects exactly the cards of these files. */
     void selectFiles(const QList<QSharedPointer<IFile>> &files);

@@ -17,7 +17,7 @@ class PreviewBrowser : public QWidget, public Observer
     Q_OBJECT
 
 public:
-    /** `models` must outlive the browser. */
+    /** @p models must outlive the browser. */
     PreviewBrowser(QWidget *parent, QSharedPointer<Project> project, FilterSelectionModel *models);
     /** Stores the zoom step in the settings. */
     ~PreviewBrowser() override;
@@ -42,7 +42,7 @@ public slots:
     /** Scrolls to the first selected card and gives it the keys. */
     void showSelection();
 
-    /** Zooms to the step at `index` of ScaleFactors, which must be one of them. */
+    /** Zooms to the step at @p index of ScaleFactors, which must be one of them. */
     void setZoomIndex(int index);
     /** Shows the selected design enlarged, if it is exactly one. */
     void previewSelection();

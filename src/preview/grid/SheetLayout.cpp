@@ -9,7 +9,8 @@ namespace {
 constexpr double MarginPixels = 10.0;
 constexpr double SpacingPixels = 20.0;
 
-/** Those of `count` stretches, each `length` long and `step` from the last, that [from, to] meets.
+/** Those of @p count stretches, each @p length long and @p step from the last, that [from, to]
+ * meets.
  */
 std::pair<int, int> touched(double from, double to, double length, double step, int count)
 {

@@ -39,7 +39,7 @@ public:
     /** For an index of 0 to count() - 1. */
     QRectF rectOf(int index) const;
 
-    /** The first card that reaches below `y`; count() where there is none. */
+    /** The first card that reaches below @p y; count() where there is none. */
     int firstIndexBelow(double y) const;
     /** The card at a point; -1 where there is none. */
     int indexAt(const QPointF &pos) const;

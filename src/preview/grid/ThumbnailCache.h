@@ -15,7 +15,7 @@ class ThumbnailCache
 public:
     ThumbnailCache();
 
-    /** `image` as `size` device pixels of a screen with `ratio` of them per pixel. */
+    /** @p image as @p size device pixels of a screen with @p ratio of them per pixel. */
     QPixmap thumbnail(const QPixmap &image, const QSize &size, qreal ratio);
 
 private:

@@ -18,7 +18,7 @@ inline int roundedPositive(float value)
 class ColorRamp
 {
 public:
-    /** @param a, b in pixels; when they are equal all pixels have the colour of `a` */
+    /** @param a, b in pixels; when they are equal all pixels have the colour of @p a */
     ColorRamp(const QPointF &a, const QPointF &b, QRgb colorAtA, QRgb colorAtB)
         : m_start(spread(colorAtA) * Steps + Halves),
           m_difference(spread(colorAtB) - spread(colorAtA)), m_a(a)

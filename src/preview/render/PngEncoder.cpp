@@ -27,7 +27,7 @@ void appendNumber(QByteArray &bytes, quint32 number)
     bytes.append(reinterpret_cast<const char *>(&bigEndian), sizeof bigEndian);
 }
 
-/** Fills in the length of the chunk that begins at `start`, and appends its checksum. */
+/** Fills in the length of the chunk that begins at @p start, and appends its checksum. */
 void finishChunk(QByteArray &bytes, int start)
 {
     const int dataSize = bytes.size() - start - ChunkHead;

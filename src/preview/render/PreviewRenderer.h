@@ -34,7 +34,7 @@ public:
                                   double size);
 
     /**
-     * The design on a transparent ground, without a margin, `size` pixels on
+     * The design on a transparent ground, without a margin, @p size pixels on
      * its longer side. Null for a null pattern, for extents that have no usable
      * scale (a single point, a line without any height) and for an image that
      * would be larger than LargestSide either way.
@@ -43,17 +43,17 @@ public:
      * with millions of stitches those are left out that others hide, so that no file
      * takes more than about a second at the size of a preview; see DesignPainter.
      *
-     * May lengthen the thread list of `pattern` by made-up greys. Any thread. Null also
-     * when `abort` said stop.
+     * May lengthen the thread list of @p pattern by made-up greys. Any thread. Null also
+     * when @p abort said stop.
      */
     QImage render(const QSharedPointer<Embroidery::EmbPattern> &pattern, double size,
                   const IAbortCheck &abort = DummyAbortCheck());
 
     /**
-     * The design as a card shows it, a square of `size` pixels: on white, with a margin
+     * The design as a card shows it, a square of @p size pixels: on white, with a margin
      * that is never drawn into. Every shape fits, also one of a single line. Null when
      * there is no stitch to show, for a size below 1 or above LargestSide, and when
-     * `abort` said stop.
+     * @p abort said stop.
      */
     QImage renderCard(const QSharedPointer<Embroidery::EmbPattern> &pattern, int size,
                       const IAbortCheck &abort = DummyAbortCheck());
@@ -61,10 +61,10 @@ public:
     /** One stitch, from and to in design units (tenths of a millimetre). */
     void drawThread(QPainter &painter, QPointF &from, const QPointF &to, const QColor &color);
 
-    /** The shading of a stitch of `color`, running along the stitch. */
+    /** The shading of a stitch of @p color, running along the stitch. */
     QLinearGradient buildGradient(const QPointF &from, const QPointF &to, const QColor &color);
 
-    /** `color` lit where the surface faces `normal` (of length 1); alpha stays. */
+    /** @p color lit where the surface faces @p normal (of length 1); alpha stays. */
     QColor shadeColor(const QColor &color, const QVector3D &normal);
 
     /** (r, g, b), each from 0 to 1, of 0xAARRGGBB. */

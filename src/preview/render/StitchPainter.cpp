@@ -46,7 +46,7 @@ constexpr int One = 1 << PlaceBits;
 constexpr int Half = One / 2;
 constexpr int FineBits = 16;
 
-/** `color` at `factor` / 255 of its strength, in all four channels. */
+/** @p color at @p factor / 255 of its strength, in all four channels. */
 QRgb weakened(QRgb color, uint factor)
 {
     constexpr quint64 lanes = 0x00FF00FF00FF00FF;
@@ -84,7 +84,7 @@ private:
                cut(a, aOther, b, bOther, size + Margin, -1);
     }
 
-    /** Keeps the part on the side of `limit` that `sign` tells. */
+    /** Keeps the part on the side of @p limit that @p sign tells. */
     static bool cut(double &a, double &aOther, double &b, double &bOther, double limit, int sign)
     {
         const bool aOutside = (a - limit) * sign < 0;

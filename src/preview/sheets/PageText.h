@@ -26,15 +26,15 @@ double width(const QFont &font, const QString &text);
 
 /**
  * Lines of at most that width, broken between words where that is possible. Where there
- * are more than `most`, the last one of those ends with an ellipsis.
+ * are more than @p most, the last one of those ends with an ellipsis.
  */
 QStringList wrapped(const QFont &font, const QString &text, double width, int most);
 
-/** Lines one below the other, from the top of `area`. */
+/** Lines one below the other, from the top of @p area. */
 void drawLines(QPainter &painter, const QFont &font, const QRectF &area, const QStringList &lines,
                Qt::Alignment alignment = Qt::AlignLeft, QRgb color = 0xFF000000);
 
-/** One line in the middle of the height of `area`; what does not fit is left out at `elide`. */
+/** One line in the middle of the height of @p area; what does not fit is left out at @p elide. */
 void drawLine(QPainter &painter, const QFont &font, const QRectF &area, const QString &text,
               Qt::Alignment alignment = Qt::AlignLeft, QRgb color = 0xFF000000,
               Qt::TextElideMode elide = Qt::ElideRight);

@@ -35,7 +35,7 @@ public:
     const Placement &placement() const { return m_placement; }
     /** Tells how large the design is drawn, and in which hoop. */
     QString caption() const;
-    /** Within `area`, which is as large as was told before. */
+    /** Within @p area, which is as large as was told before. */
     void paint(QPainter &painter, const QRectF &area) const;
 
 private:

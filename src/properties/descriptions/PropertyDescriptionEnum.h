@@ -19,7 +19,7 @@ public:
     void addValue(const PropertyEnumElement &element);
     QList<PropertyEnumElement> elements() const { return m_elements; }
 
-    /** The first element of this name; throws ErrorDoesNotExist when there is none. */
+    /** The first element of this name. @throws ErrorDoesNotExist when there is none */
     PropertyEnumElement elementByName(const QString &elementName) const;
 
     /** Throws ErrorDoesNotExist when there is no such element. */

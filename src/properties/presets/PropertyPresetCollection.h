@@ -28,14 +28,14 @@ public:
      */
     void add(Property *preset, const QString &undoText) override;
 
-    /** Removes a preset undoably; throws ErrorDoesNotExist when there is none. */
+    /** Removes a preset undoably. @throws ErrorDoesNotExist when there is none */
     void remove(const QString &name, const QString &undoText);
 
     const PropertyDescriptionPreset *description() const { return m_description; }
     QStringList presetNames() const;
     bool contains(const QString &name) const;
 
-    /** The first preset of this name; throws ErrorDoesNotExist when there is none. */
+    /** The first preset of this name. @throws ErrorDoesNotExist when there is none */
     QSharedPointer<PropertyPreset> preset(const QString &name) const;
 
 private:

@@ -21,8 +21,8 @@ public:
     /**
      * Replaces @p document by what @p data holds. Returns false for malformed XML and
      * tells the error and its line, where the pointers aren't null. @p order, which
-     * may be null, learns the order of the attributes. Throws Error when an encoding
-     * other than UTF-8 is declared.
+     * may be null, learns the order of the attributes.
+     * @throws Error when an encoding other than UTF-8 is declared
      */
     static bool parse(QDomDocument &document, const QByteArray &data, XmlAttributeOrder *order,
                       QString *errorText, int *errorLine);

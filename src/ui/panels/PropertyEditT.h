@@ -15,7 +15,7 @@ class PropertyEditT : public PropertyEdit
 public:
     using PropertyEdit::PropertyEdit;
 
-    /** Throws ErrorTypeConflict when one of them is no P. */
+    /** @throws ErrorTypeConflict when one of them is no P */
     void setProperties(const QList<Property *> &properties) override
     {
         QList<P *> typed;

@@ -29,7 +29,7 @@ public:
     QString place() const;
     /** Of the paper, in hundredths of a millimetre. */
     QSizeF paperSize() const;
-    /** The page, as wide as `width` pixels. */
+    /** The page, as wide as @p width pixels. */
     QImage image(int width) const;
 
 public slots:

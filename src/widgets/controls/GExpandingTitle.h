@@ -30,7 +30,7 @@ public:
 
     /**
      * Adds a button without text behind the last one. Its tool tip is also its accessible name.
-     * \return the button, owned by this title
+     * @return the button, owned by this title
      */
     QToolButton *addButton(const GIcon &icon, const QString &toolTip);
 
