@@ -31,11 +31,6 @@ bool GSideBarBox::isExpanded() const
     return m_titleBar->isExpanded();
 }
 
-void GSideBarBox::setExpanded(bool expanded)
-{
-    m_titleBar->setExpanded(expanded);
-}
-
 void GSideBarBox::showContent(bool visible)
 {
     m_content->setVisible(visible);

@@ -22,7 +22,6 @@ public:
     /** Whether the user may fold the box away; a box that may not is always open. */
     void setExpandable(bool expandable);
     bool isExpanded() const;
-    void setExpanded(bool expanded);
 
 signals:
     void expandedChanged(bool expanded);
