@@ -9,6 +9,15 @@ function(hoopline_library name)
     target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE hoopline_options)
 endfunction()
 
+# hoopline_hot(target...)
+# What goes over each byte, stitch or pixel is optimized in a debug build as well, or
+# every test that meets it would wait for it.
+function(hoopline_hot)
+    foreach(target IN LISTS ARGN)
+        target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-O1>)
+    endforeach()
+endfunction()
+
 # hoopline_resource_collection(sources collection qrc)
 # Compiles a .qrc file and appends the outcome to the list of sources. rcc names the
 # function that registers the collection after it, for Q_INIT_RESOURCE in main().
