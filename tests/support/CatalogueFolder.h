@@ -14,19 +14,16 @@ class CatalogueFolder
 public:
     CatalogueFolder()
     {
-        GSettings::setIniFile(m_root.filePath(QStringLiteral("settings.ini")));
-        GlobalSettings().setApplicationDataPath(m_root.filePath(QStringLiteral("data")));
-        QDir(m_root.path()).mkpath(QStringLiteral("designs"));
+        GSettings::setIniFile(m_root.filePath("settings.ini"));
+        GlobalSettings().setApplicationDataPath(m_root.filePath("data"));
+        QDir(m_root.path()).mkpath("designs");
     }
     ~CatalogueFolder() { GSettings::setIniFile(QString()); }
 
-    QString designs() const { return m_root.filePath(QStringLiteral("designs")); }
+    QString designs() const { return m_root.filePath("designs"); }
     QString design(const QString &name) const { return designs() + QLatin1Char('/') + name; }
-    QString dataFile(const QString &name) const
-    {
-        return m_root.filePath(QStringLiteral("data/")) + name;
-    }
-    QString catalogueFile() const { return dataFile(QStringLiteral("hoopline-organizer.xml")); }
+    QString dataFile(const QString &name) const { return m_root.filePath("data/") + name; }
+    QString catalogueFile() const { return dataFile("hoopline-organizer.xml"); }
 
     /** Sets the modification time, to the second. */
     static bool setDate(const QString &path, const QDateTime &date)

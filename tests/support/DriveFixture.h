@@ -10,13 +10,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#ifdef Q_OS_LINUX
 #include <sched.h>
 #include <sys/mount.h>
-#endif
-#ifdef Q_OS_UNIX
 #include <sys/wait.h>
-#endif
 
 /**
  * A drive for a test: a FAT image where the test may mount one, by the kernel or by a driver
@@ -35,7 +31,7 @@ public:
     explicit DriveFixture(Wanted wanted = BestThereIs)
     {
         keepMountsToThisProcess();
-        m_path = m_directory.filePath(QStringLiteral("drive"));
+        m_path = m_directory.filePath("drive");
         QDir().mkpath(m_path);
         if (wanted != BestThereIs)
             mountMemory(wanted == InMemory ? 0 : 3);
@@ -78,19 +74,14 @@ public:
     /** As if it were pulled out. */
     bool pull()
     {
-        if (!isMounted() || !run(QStringLiteral("umount"), {QStringLiteral("-l"), m_path}))
+        if (!isMounted() || !run("umount", {"-l", m_path}))
             return false;
         m_kind = Plain;
         return true;
     }
 
     /** As if its lock were set. */
-    bool protect()
-    {
-        return isMounted() &&
-               run(QStringLiteral("mount"), {QStringLiteral("-i"), QStringLiteral("-o"),
-                                             QStringLiteral("remount,bind,ro"), m_path});
-    }
+    bool protect() { return isMounted() && run("mount", {"-i", "-o", "remount,bind,ro", m_path}); }
 
     /** Lets it answer no question until resume(); false where that cannot be. */
     bool hang()
@@ -128,11 +119,9 @@ private:
     /** A drive that hangs would hold up everybody else who looks at the drives. */
     static void keepMountsToThisProcess()
     {
-#ifdef Q_OS_LINUX
         static const bool alone = ::unshare(CLONE_NEWNS) == 0 &&
                                   ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
         Q_UNUSED(alone)
-#endif
     }
 
     /** What lies in memory below /dev counts as no drive. */
@@ -145,16 +134,14 @@ private:
     {
         QFile file(image);
         return file.open(QIODevice::WriteOnly) && file.resize(2 * 1024 * 1024) &&
-               run(QStringLiteral("mkfs.vfat"), {image});
+               run("mkfs.vfat", {image});
     }
 
     void mountBest()
     {
-        const QString image = m_directory.filePath(QStringLiteral("image"));
+        const QString image = m_directory.filePath("image");
         const bool formatted = createImage(image);
-        if (formatted && run(QStringLiteral("mount"),
-                             {QStringLiteral("-t"), QStringLiteral("vfat"), QStringLiteral("-o"),
-                              QStringLiteral("loop"), image, m_path}))
+        if (formatted && run("mount", {"-t", "vfat", "-o", "loop", image, m_path}))
             m_kind = Fat;
         else if (formatted && startDriver(image))
             m_kind = FuseFat;
@@ -166,9 +153,7 @@ private:
     void mountMemory(int entries)
     {
         const QString options = QStringLiteral("size=2m,nr_inodes=%1").arg(entries);
-        if (run(QStringLiteral("mount"),
-                {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"), options,
-                 QStringLiteral("none"), m_path}))
+        if (run("mount", {"-t", "tmpfs", "-o", options, "none", m_path}))
             m_kind = Memory;
     }
 
@@ -176,8 +161,7 @@ private:
     {
         m_driver.setStandardOutputFile(QProcess::nullDevice());
         m_driver.setStandardErrorFile(QProcess::nullDevice());
-        m_driver.start(QStringLiteral("fusefat"), {QStringLiteral("-f"), QStringLiteral("-o"),
-                                                   QStringLiteral("rw+"), image, m_path});
+        m_driver.start("fusefat", {"-f", "-o", "rw+", image, m_path});
         // What is not known to run is not resumed.
         if (!m_driver.waitForStarted())
             return false;
@@ -201,18 +185,14 @@ private:
     {
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("PATH"), environment.value(QStringLiteral("PATH")) +
-                                                       QStringLiteral(":/sbin:/usr/sbin"));
+        environment.insert("PATH", environment.value("PATH") + ":/sbin:/usr/sbin");
         process.setProcessEnvironment(environment);
-        process.start(
-            QStringLiteral("sh"),
-            QStringList{QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\""), program} +
-                arguments);
+        process.start("sh", QStringList{"-c", "exec \"$0\" \"$@\"", program} + arguments);
         return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit &&
                process.exitCode() == 0;
     }
 
-    QTemporaryDir m_directory{mountFolder() + QStringLiteral("/XXXXXX")};
+    QTemporaryDir m_directory{mountFolder() + "/XXXXXX"};
     QString m_path;
     QProcess m_driver;
     Kind m_kind = Plain;

@@ -15,8 +15,7 @@
 class GuardFolder : public QTemporaryDir
 {
 public:
-    GuardFolder()
-        : QTemporaryDir(QDir::tempPath() + QStringLiteral("/XXXXXX")), m_before(qgetenv("TMPDIR"))
+    GuardFolder() : QTemporaryDir(QDir::tempPath() + "/XXXXXX"), m_before(qgetenv("TMPDIR"))
     {
         qputenv("TMPDIR", path().toLocal8Bit());
     }
@@ -33,7 +32,7 @@ public:
     static QString serverName()
     {
         InstanceName name;
-        name.applicationName = QStringLiteral("Hoopline Organizer");
+        name.applicationName = "Hoopline Organizer";
         name.organisationName = QString::fromLatin1(BuildConfig::Organisation);
         name.userName = InstanceName::currentUser();
         return name.toString();

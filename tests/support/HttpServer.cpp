@@ -90,8 +90,8 @@ void HttpServer::incomingConnection(qintptr descriptor)
         socket->deleteLater();
     });
     if (m_tls) {
-        socket->setLocalCertificate(QSslCertificate(tlsFile(QStringLiteral("self-signed.pem"))));
-        socket->setPrivateKey(QSslKey(tlsFile(QStringLiteral("self-signed.key")), QSsl::Rsa));
+        socket->setLocalCertificate(QSslCertificate(tlsFile("self-signed.pem")));
+        socket->setPrivateKey(QSslKey(tlsFile("self-signed.key"), QSsl::Rsa));
         socket->startServerEncryption();
     }
 }

@@ -53,7 +53,7 @@ public:
     /** By name, what no client should expect and every client should survive. */
     static QMap<QByteArray, Response> oddAnswers();
 
-    QUrl url(const QString &path = QStringLiteral("/")) const;
+    QUrl url(const QString &path = "/") const;
     int connections() const { return m_connections; }
     const QList<Request> &requests() const { return m_requests; }
 

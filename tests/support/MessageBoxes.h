@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "support/Widgets.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
@@ -10,13 +11,26 @@
 #include <QTimer>
 #include <QtTest>
 
-/** Presses a button of every message box that comes up, and keeps what the boxes said. */
+#include <functional>
+
+/**
+ * Presses a button of every message box that comes up, and keeps what the boxes said. The button
+ * is a standard one, or the next one of a list of texts, of which the last goes on.
+ */
 class MessageBoxes : public QObject
 {
 public:
     explicit MessageBoxes(QMessageBox::StandardButton button = QMessageBox::Ok) : m_button(button)
     {
         qApp->installEventFilter(this);
+    }
+
+    explicit MessageBoxes(const QStringList &buttons,
+                          const std::function<void()> &beforeAnswer = {})
+        : MessageBoxes()
+    {
+        m_buttons = buttons;
+        m_beforeAnswer = beforeAnswer;
     }
 
     /** Presses this one from now on. */
@@ -53,7 +67,12 @@ private:
         m_titles += box->windowTitle();
         m_texts += plain(box->text());
         m_informativeTexts += plain(box->informativeText());
-        if (QAbstractButton *button = box->button(m_button)) {
+        if (m_beforeAnswer)
+            m_beforeAnswer();
+        QAbstractButton *button = box->button(m_button);
+        if (!m_buttons.isEmpty())
+            button = buttonOf(*box, m_buttons.value(qMin(count(), m_buttons.size()) - 1));
+        if (button) {
             button->click();
         } else {
             QTest::qFail("a message box lacks the awaited button", __FILE__, __LINE__);
@@ -65,6 +84,8 @@ private:
     static QString plain(QString text) { return text.remove(QChar(0x200b)); }
 
     QMessageBox::StandardButton m_button;
+    QStringList m_buttons;
+    std::function<void()> m_beforeAnswer;
     QStringList m_titles;
     QStringList m_texts;
     QStringList m_informativeTexts;
