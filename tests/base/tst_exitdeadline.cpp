@@ -1,31 +1,26 @@
 #include "base/ExitDeadline.h"
+#include "support/Rows.h"
 
-#include <QCoreApplication>
-#include <QProcess>
 #include <QtTest>
 #include <thread>
 
 using namespace std::chrono_literals;
 
-namespace {
-
 constexpr int ExitCode = 7;
 
 // Stands for what keeps the application from going.
-int hang()
+static int hang()
 {
     ExitDeadline::start(100ms, ExitCode);
     std::this_thread::sleep_for(1h);
     return 0;
 }
 
-int leave()
+static int leave()
 {
     ExitDeadline::start(1h, ExitCode);
     return 3;
 }
-
-} // namespace
 
 /** Processes that hang at their end, and such that do not. */
 class tst_ExitDeadline : public QObject
@@ -33,27 +28,23 @@ class tst_ExitDeadline : public QObject
     Q_OBJECT
 
 private slots:
-    void endsTheProcess_data();
-    void endsTheProcess();
+    void endsTheProcess_data()
+    {
+        const Rows<QString, int> row("how", "exitCode");
+        row("hangs", "hang", ExitCode);
+        row("leaves by itself", "leave", 3);
+    }
+
+    void endsTheProcess()
+    {
+        QFETCH(QString, how);
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(), {"--child", how});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QTEST(process.exitCode(), "exitCode");
+    }
 };
-
-void tst_ExitDeadline::endsTheProcess_data()
-{
-    QTest::addColumn<QString>("how");
-    QTest::addColumn<int>("exitCode");
-    QTest::newRow("hangs") << "hang" << ExitCode;
-    QTest::newRow("leaves by itself") << "leave" << 3;
-}
-
-void tst_ExitDeadline::endsTheProcess()
-{
-    QFETCH(QString, how);
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), how});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QTEST(process.exitCode(), "exitCode");
-}
 
 int main(int argc, char **argv)
 {

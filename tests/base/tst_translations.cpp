@@ -1,9 +1,6 @@
 #include "base/GSettings.h"
 #include "base/GTranslationLoader.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 /** The choice of the language, without any translation compiled in. */
@@ -12,39 +9,35 @@ class tst_Translations : public QObject
     Q_OBJECT
 
 private slots:
-    void argumentOverridesTheSetting();
-    void noMatchFallsBackToEnglish();
-    void localizedFilename();
+    void argumentOverridesTheSetting()
+    {
+        QTemporaryDir dir;
+        GSettings::setIniFile(dir.filePath("s.ini"));
+        GSettings().setUiLanguage("en");
+        auto *loader = GTranslationLoader::instance();
+        loader->setTranslations(QCoreApplication::instance());
+        QCOMPARE(loader->languageCode(), "zh-CN");
+    }
+
+    void noMatchFallsBackToEnglish()
+    {
+        const auto *loader = GTranslationLoader::instance();
+        QVERIFY(loader->getAvailableLanguages().isEmpty());
+        QCOMPARE(loader->getBestMatchingLanguage({"de-DE"}), "en");
+    }
+
+    void localizedFilename()
+    {
+        QTemporaryDir dir;
+        const QString plain = dir.filePath("a.b.html");
+        const QString localized = dir.filePath("a.b.zh-CN.html");
+        const auto *loader = GTranslationLoader::instance();
+        QCOMPARE(loader->localizedFilename(plain), plain);
+        QFile file(localized);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(loader->localizedFilename(plain), localized);
+    }
 };
-
-void tst_Translations::argumentOverridesTheSetting()
-{
-    QTemporaryDir dir;
-    GSettings::setIniFile(dir.filePath(QStringLiteral("s.ini")));
-    GSettings().setUiLanguage(QStringLiteral("en"));
-    auto *loader = GTranslationLoader::instance();
-    loader->setTranslations(QCoreApplication::instance());
-    QCOMPARE(loader->languageCode(), QStringLiteral("zh-CN"));
-}
-
-void tst_Translations::noMatchFallsBackToEnglish()
-{
-    const auto *loader = GTranslationLoader::instance();
-    QVERIFY(loader->getAvailableLanguages().isEmpty());
-    QCOMPARE(loader->getBestMatchingLanguage({QStringLiteral("de-DE")}), QStringLiteral("en"));
-}
-
-void tst_Translations::localizedFilename()
-{
-    QTemporaryDir dir;
-    const QString plain = dir.filePath(QStringLiteral("a.b.html"));
-    const QString localized = dir.filePath(QStringLiteral("a.b.zh-CN.html"));
-    const auto *loader = GTranslationLoader::instance();
-    QCOMPARE(loader->localizedFilename(plain), plain);
-    QFile file(localized);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(loader->localizedFilename(plain), localized);
-}
 
 int main(int argc, char **argv)
 {
