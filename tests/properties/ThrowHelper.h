@@ -11,5 +11,5 @@ QString messageOf(Action action)
     } catch (const E &error) {
         return error.toString();
     }
-    return QStringLiteral("nothing thrown");
+    return "nothing thrown";
 }
