@@ -2,19 +2,15 @@
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"
 
-#include <QDirIterator>
-#include <QRandomGenerator>
 #include <QtTest>
 
 using namespace Embroidery;
-
-namespace {
 
 constexpr int MutationsPerFile = 100;
 constexpr int MaximumChanges = 8;
 
 /** Reads the bytes; a design must keep its promises, and any failure be an IOException. */
-void readAnyBytes(const QString &filename, const QByteArray &bytes)
+static void readAnyBytes(const QString &filename, const QByteArray &bytes)
 {
     try {
         const auto pattern = EmbroideryIO::readByteArray(filename, bytes);
@@ -26,7 +22,7 @@ void readAnyBytes(const QString &filename, const QByteArray &bytes)
     }
 }
 
-void addFiles(const QString &folder)
+static void addFiles(const QString &folder)
 {
     QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
@@ -34,17 +30,15 @@ void addFiles(const QString &folder)
         // The folder names the format, since a fuzzer names its files as it likes.
         const QString format = info.dir().dirName();
         QTest::addRow("%s %s", qPrintable(format), qPrintable(info.fileName()))
-            << QStringLiteral("design.") + format << info.filePath();
+            << "design." + format << info.filePath();
     }
 }
 
-QByteArray contentOf(const QString &path)
+static QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
-} // namespace
 
 /** Sound designs that are damaged in many ways, and damaged ones that once did harm. */
 class TestDamagedFiles : public QObject
@@ -52,64 +46,54 @@ class TestDamagedFiles : public QObject
     Q_OBJECT
 
 private slots:
-    void asTheyAre_data();
-    void asTheyAre();
-    void cut_data();
-    void cut();
-    void changed_data();
-    void changed();
-};
-
-void TestDamagedFiles::asTheyAre_data()
-{
-    QTest::addColumn<QString>("filename");
-    QTest::addColumn<QString>("path");
-    addFiles(QStringLiteral(FUZZ_SEEDS_DIR));
-    addFiles(QStringLiteral(TEST_DATA_DIR "/damaged"));
-}
-
-void TestDamagedFiles::asTheyAre()
-{
-    QFETCH(QString, filename);
-    QFETCH(QString, path);
-    readAnyBytes(filename, contentOf(path));
-}
-
-void TestDamagedFiles::cut_data()
-{
-    QTest::addColumn<QString>("filename");
-    QTest::addColumn<QString>("path");
-    addFiles(QStringLiteral(FUZZ_SEEDS_DIR));
-}
-
-void TestDamagedFiles::cut()
-{
-    QFETCH(QString, filename);
-    QFETCH(QString, path);
-    const QByteArray bytes = contentOf(path);
-    const int step = qMax(1, bytes.size() / 150);
-    for (int size = 0; size < bytes.size(); size += step)
-        readAnyBytes(filename, bytes.left(size));
-}
-
-void TestDamagedFiles::changed_data()
-{
-    cut_data();
-}
-
-void TestDamagedFiles::changed()
-{
-    QFETCH(QString, filename);
-    QFETCH(QString, path);
-    const QByteArray bytes = contentOf(path);
-    QRandomGenerator random(1);
-    for (int i = 0; i < MutationsPerFile && !bytes.isEmpty(); ++i) {
-        QByteArray damaged = bytes;
-        for (int changes = 1 + random.bounded(MaximumChanges); changes > 0; --changes)
-            damaged[random.bounded(damaged.size())] = static_cast<char>(random.bounded(256));
-        readAnyBytes(filename, damaged);
+    void asTheyAre_data()
+    {
+        QTest::addColumn<QString>("filename");
+        QTest::addColumn<QString>("path");
+        addFiles(QStringLiteral(FUZZ_SEEDS_DIR));
+        addFiles(QStringLiteral(TEST_DATA_DIR "/damaged"));
     }
-}
+
+    void asTheyAre()
+    {
+        QFETCH(QString, filename);
+        QFETCH(QString, path);
+        readAnyBytes(filename, contentOf(path));
+    }
+
+    void cut_data()
+    {
+        QTest::addColumn<QString>("filename");
+        QTest::addColumn<QString>("path");
+        addFiles(QStringLiteral(FUZZ_SEEDS_DIR));
+    }
+
+    void cut()
+    {
+        QFETCH(QString, filename);
+        QFETCH(QString, path);
+        const QByteArray bytes = contentOf(path);
+        const int step = qMax(1, bytes.size() / 150);
+        for (int size = 0; size < bytes.size(); size += step)
+            readAnyBytes(filename, bytes.left(size));
+    }
+
+    void changed_data() { cut_data(); }
+
+    void changed()
+    {
+        QFETCH(QString, filename);
+        QFETCH(QString, path);
+        const QByteArray bytes = contentOf(path);
+        QRandomGenerator random(1);
+        for (int i = 0; i < MutationsPerFile && !bytes.isEmpty(); ++i) {
+            QByteArray damaged = bytes;
+            for (int changes = 1 + random.bounded(MaximumChanges); changes > 0; --changes)
+                damaged[random.bounded(damaged.size())] = static_cast<char>(random.bounded(256));
+            readAnyBytes(filename, damaged);
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(TestDamagedFiles)
 #include "tst_damagedfiles.moc"

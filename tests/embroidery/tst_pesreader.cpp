@@ -1,21 +1,19 @@
-#include "embroidery/EmbPattern.h"
 #include "embroidery/support/FormatBytes.h"
 #include "embroidery/support/PatternText.h"
+#include "support/Rows.h"
 
 #include <QtTest>
 
 using namespace Embroidery;
 using namespace TestSupport;
 
-namespace {
-
-QByteArray text(const QByteArray &bytes)
+static QByteArray text(const QByteArray &bytes)
 {
     return QByteArray(1, static_cast<char>(bytes.size())) + bytes;
 }
 
-QByteArray threadRecord(const QByteArray &number, const QByteArray &rgb,
-                        const QByteArray &description)
+static QByteArray threadRecord(const QByteArray &number, const QByteArray &rgb,
+                               const QByteArray &description)
 {
     return text(number) + rgb + QByteArray(5, '#') + text(description) + text("Brand") +
            text("Chart");
@@ -28,7 +26,8 @@ const QByteArray twoThreads = counts + le16(2) + threadRecord("1", hex("ff0000")
                               threadRecord("2", hex("00ff00"), "Green");
 
 /** A file of the magic, the header between offset and block, and the block. */
-QByteArray pesFile(const QByteArray &magic, const QByteArray &header, const QByteArray &colors)
+static QByteArray pesFile(const QByteArray &magic, const QByteArray &header,
+                          const QByteArray &colors)
 {
     PecParts parts;
     parts.label = QByteArray(16, ' ');
@@ -37,177 +36,153 @@ QByteArray pesFile(const QByteArray &magic, const QByteArray &header, const QByt
     return magic + le32(12 + header.size()) + header + pecBlock(parts);
 }
 
-QByteArray version5(const QByteArray &threads)
+static QByteArray version5(const QByteArray &threads)
 {
     return "1234" + descriptions + QByteArray(24, '#') + text("from.png") + QByteArray(24, '#') +
            threads;
 }
 
-QByteArray version6(const QByteArray &image, const QByteArray &threads)
+static QByteArray version6(const QByteArray &image, const QByteArray &threads)
 {
     return "1234" + descriptions + QByteArray(36, '#') + text(image) + QByteArray(24, '#') +
            threads;
 }
 
-const QString described = QStringLiteral("author=Ann; category=Flowers; keywords=red; name=Rose");
-
-} // namespace
+const QString described = "author=Ann; category=Flowers; keywords=red; name=Rose";
 
 class TestPesReader : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void headers_data();
-    void headers();
-    void threads_data();
-    void threads();
-    void blockOnly();
-    void labelWinsOverTheName();
-    void failures_data();
-    void failures();
-    void thumbnailsOfVersion6LieEarlier();
-};
+    void headers_data()
+    {
+        const Rows<QByteArray, QString> row("file", "metadata");
 
-void TestPesReader::headers_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("metadata");
-
-    const QVector<QPair<const char *, const char *>> plain = {
-        {"#PES0100", "10"}, {"#PES0090", "9"},   {"#PES0080", "8"}, {"#PES0070", "7"},
-        {"#PES0030", "3"},  {"#PES0022", "2.2"}, {"#PES0020", "2"}, {"#PES0001", "1"}};
-    for (const auto &magic : plain) {
-        QTest::newRow(magic.first) << pesFile(magic.first, "anything", "\x05")
-                                   << QStringLiteral("version=") + magic.second;
+        const QVector<QPair<const char *, const char *>> plain = {
+            {"#PES0100", "10"}, {"#PES0090", "9"},   {"#PES0080", "8"}, {"#PES0070", "7"},
+            {"#PES0030", "3"},  {"#PES0022", "2.2"}, {"#PES0020", "2"}, {"#PES0001", "1"}};
+        for (const auto &magic : plain) {
+            row(magic.first, pesFile(magic.first, "anything", "\x05"), "version=" + magic.second);
+        }
+        row("unknown magic", pesFile("#PES9999", "", "\x05"), "");
+        row("4", pesFile("#PES0040", "1234" + descriptions + "more", "\x05"),
+            described + "; version=4");
+        row("5", pesFile("#PES0050", version5(twoThreads), "\x05"), described + "; version=5");
+        row("5.5", pesFile("#PES0055", version5(twoThreads), "\x05"), described + "; version=5.5");
+        row("5.6", pesFile("#PES0056", version5(twoThreads), "\x05"), described + "; version=5.6");
+        row("6", pesFile("#PES0060", version6("rose.png", twoThreads), "\x05"),
+            QString(described).replace("keywords", "image_file=rose.png; keywords") +
+                "; version=6");
+        row("6 without image", pesFile("#PES0060", version6("", twoThreads), "\x05"),
+            described + "; version=6");
     }
-    QTest::newRow("unknown magic") << pesFile("#PES9999", "", "\x05") << "";
-    QTest::newRow("4") << pesFile("#PES0040", "1234" + descriptions + "more", "\x05")
-                       << described + "; version=4";
-    QTest::newRow("5") << pesFile("#PES0050", version5(twoThreads), "\x05")
-                       << described + "; version=5";
-    QTest::newRow("5.5") << pesFile("#PES0055", version5(twoThreads), "\x05")
-                         << described + "; version=5.5";
-    QTest::newRow("5.6") << pesFile("#PES0056", version5(twoThreads), "\x05")
-                         << described + "; version=5.6";
-    QTest::newRow("6") << pesFile("#PES0060", version6("rose.png", twoThreads), "\x05")
-                       << QString(described).replace("keywords", "image_file=rose.png; keywords") +
-                              "; version=6";
-    QTest::newRow("6 without image")
-        << pesFile("#PES0060", version6("", twoThreads), "\x05") << described + "; version=6";
-}
 
-void TestPesReader::headers()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QString, metadata);
-    const auto pattern = design("pes", file);
-    QCOMPARE(pattern->format(), QStringLiteral("pes"));
-    QCOMPARE(metadataText(*pattern), metadata);
-    QCOMPARE(pointsText(*pattern), QStringLiteral("S1,1 E1,1"));
-}
+    void headers()
+    {
+        QFETCH(QByteArray, file);
+        const auto pattern = design("pes", file);
+        QCOMPARE(pattern->format(), "pes");
+        QTEST(metadataText(*pattern), "metadata");
+        QCOMPARE(pointsText(*pattern), "S1,1 E1,1");
+    }
 
-void TestPesReader::threads_data()
-{
-    QTest::addColumn<QByteArray>("threads");
-    QTest::addColumn<QByteArray>("colors");
-    QTest::addColumn<QString>("expected");
+    void threads_data()
+    {
+        const Rows<QByteArray, QByteArray, QString> row("threads", "colors", "expected");
 
-    const QString red = QStringLiteral("#ff0000 Red/1/Brand/Chart");
-    const QString green = QStringLiteral("#00ff00 Green/2/Brand/Chart");
-    const QString pecRed = QStringLiteral("#ed171f Red/5/Brother/Brother");
-    const QString pecBlack = QStringLiteral("#000000 Black/20/Brother/Brother");
-    const QString separator = QStringLiteral("; ");
+        const QString red = "#ff0000 Red/1/Brand/Chart";
+        const QString green = "#00ff00 Green/2/Brand/Chart";
+        const QString pecRed = "#ed171f Red/5/Brother/Brother";
+        const QString pecBlack = "#000000 Black/20/Brother/Brother";
+        const QString separator = "; ";
 
-    QTest::newRow("as many") << twoThreads << hex("1414") << red + separator + green;
-    QTest::newRow("one used twice")
-        << twoThreads << hex("050705") << red + separator + green + separator + red;
-    QTest::newRow("too few") << twoThreads << hex("05071405")
-                             << red + separator + green + separator + pecBlack + separator + red;
-    QTest::newRow("too many") << twoThreads << hex("05") << red;
-    QTest::newRow("none") << counts + le16(0) << hex("05") << pecRed;
-    QTest::newRow("first count") << hex("0100") << hex("05") << pecRed;
-    QTest::newRow("second count") << hex("0000 0100") << hex("05") << pecRed;
-    QTest::newRow("third count") << hex("0000 0000 0001") << hex("05") << pecRed;
-    QTest::newRow("text stops at zero")
-        << counts + le16(2) + text(QByteArray("1\0", 2)) + hex("ff0000") + QByteArray(5, '#') +
-               text("Red") + text("Brand") + text("Chart") +
-               threadRecord("2", hex("00ff00"), "Green")
-        << hex("1414") << red + separator + green;
-}
+        row("as many", twoThreads, hex("1414"), red + separator + green);
+        row("one used twice", twoThreads, hex("050705"), red + separator + green + separator + red);
+        row("too few", twoThreads, hex("05071405"),
+            red + separator + green + separator + pecBlack + separator + red);
+        row("too many", twoThreads, hex("05"), red);
+        row("none", counts + le16(0), hex("05"), pecRed);
+        row("first count", hex("0100"), hex("05"), pecRed);
+        row("second count", hex("0000 0100"), hex("05"), pecRed);
+        row("third count", hex("0000 0000 0001"), hex("05"), pecRed);
+        row("text stops at zero",
+            counts + le16(2) + text(QByteArray("1\0", 2)) + hex("ff0000") + QByteArray(5, '#') +
+                text("Red") + text("Brand") + text("Chart") +
+                threadRecord("2", hex("00ff00"), "Green"),
+            hex("1414"), red + separator + green);
+    }
 
-void TestPesReader::threads()
-{
-    QFETCH(QByteArray, threads);
-    QFETCH(QByteArray, colors);
-    QFETCH(QString, expected);
-    QCOMPARE(threadsText(*design("pes", pesFile("#PES0050", version5(threads), colors))), expected);
-    QCOMPARE(threadsText(*design("pes", pesFile("#PES0060", version6("i", threads), colors))),
-             expected);
-}
+    void threads()
+    {
+        QFETCH(QByteArray, threads);
+        QFETCH(QByteArray, colors);
+        QFETCH(QString, expected);
+        QCOMPARE(threadsText(*design("pes", pesFile("#PES0050", version5(threads), colors))),
+                 expected);
+        QCOMPARE(threadsText(*design("pes", pesFile("#PES0060", version6("i", threads), colors))),
+                 expected);
+    }
 
-void TestPesReader::blockOnly()
-{
-    PecParts parts;
-    parts.stitches = hex("0102 ff00");
-    const auto pattern = design("pes", pecFile(parts));
-    QCOMPARE(pointsText(*pattern), QStringLiteral("S1,2 E1,2"));
-    QCOMPARE(metadataText(*pattern), QStringLiteral("name=LA:Rose"));
-    QCOMPARE(pattern->format(), QStringLiteral("pes"));
-}
+    void blockOnly()
+    {
+        PecParts parts;
+        parts.stitches = hex("0102 ff00");
+        const auto pattern = design("pes", pecFile(parts));
+        QCOMPARE(pointsText(*pattern), "S1,2 E1,2");
+        QCOMPARE(metadataText(*pattern), "name=LA:Rose");
+        QCOMPARE(pattern->format(), "pes");
+    }
 
-void TestPesReader::labelWinsOverTheName()
-{
-    const QByteArray header = "1234" + descriptions;
-    const QByteArray file = "#PES0040" + le32(12 + header.size()) + header + pecBlock({});
-    QCOMPARE(design("pes", file)->getName(), QStringLiteral("LA:Rose"));
-}
+    void labelWinsOverTheName()
+    {
+        const QByteArray header = "1234" + descriptions;
+        const QByteArray file = "#PES0040" + le32(12 + header.size()) + header + pecBlock({});
+        QCOMPARE(design("pes", file)->getName(), "LA:Rose");
+    }
 
-void TestPesReader::failures_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("message");
+    void failures_data()
+    {
+        const Rows<QByteArray, QString> row("file", "message");
 
-    const QString endOfText = QStringLiteral("! Unexpected end of file");
-    const QString endOfFile = QStringLiteral("! Unexpected end of file.");
-    const QByteArray v5 = version5(twoThreads);
-    const QByteArray beyond = hex("ffffff7f");
-    QTest::newRow("empty") << QByteArray() << endOfText;
-    QTest::newRow("cut magic") << QByteArray("#PES000") << endOfText;
-    QTest::newRow("no offset") << QByteArray("#PES0001\1\0\0", 11) << endOfFile;
-    QTest::newRow("plain, beyond the end")
-        << "#PES0001" + beyond + QByteArray(600, '#') << endOfText;
-    QTest::newRow("4, beyond the end") << "#PES0040" + beyond + "1234" + descriptions << endOfText;
-    QTest::newRow("5, beyond the end") << "#PES0050" + beyond + v5 << endOfFile;
-    QTest::newRow("5, cut in a text") << ("#PES0050" + beyond + v5).left(20) << endOfText;
-    QTest::newRow("5, cut in a colour")
-        << "#PES0050" + beyond + version5(counts + le16(1) + hex("00ff")) << endOfFile;
-    // The difference to the offset wraps around and leads beyond the end.
-    QTest::newRow("smallest offset")
-        << "#PES0001" + hex("00000080") + QByteArray(600, '#') << endOfText;
-}
+        const QString endOfText = "! Unexpected end of file";
+        const QString endOfFile = "! Unexpected end of file.";
+        const QByteArray v5 = version5(twoThreads);
+        const QByteArray beyond = hex("ffffff7f");
+        row("empty", {}, endOfText);
+        row("cut magic", "#PES000", endOfText);
+        row("no offset", QByteArray("#PES0001\1\0\0", 11), endOfFile);
+        row("plain, beyond the end", "#PES0001" + beyond + QByteArray(600, '#'), endOfText);
+        row("4, beyond the end", "#PES0040" + beyond + "1234" + descriptions, endOfText);
+        row("5, beyond the end", "#PES0050" + beyond + v5, endOfFile);
+        row("5, cut in a text", ("#PES0050" + beyond + v5).left(20), endOfText);
+        row("5, cut in a colour", "#PES0050" + beyond + version5(counts + le16(1) + hex("00ff")),
+            endOfFile);
+        // The difference to the offset wraps around and leads beyond the end.
+        row("smallest offset", "#PES0001" + hex("00000080") + QByteArray(600, '#'), endOfText);
+    }
 
-void TestPesReader::failures()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QString, message);
-    QCOMPARE(read("pes", file), message);
-}
+    void failures()
+    {
+        QFETCH(QByteArray, file);
+        QTEST(read("pes", file), "message");
+    }
 
-void TestPesReader::thumbnailsOfVersion6LieEarlier()
-{
-    // The header moves the cursor by a seek, which the count of bytes does not follow: 20 bytes
-    // between header and block make the thumbnails be looked for 20 bytes too early.
-    PecParts parts;
-    parts.label = QByteArray(16, ' ');
-    parts.colors = hex("0505");
-    parts.width = 1;
-    parts.height = 21;
-    const QByteArray header = version6("", counts + le16(0)) + QByteArray(20, '#');
-    const QByteArray file = "#PES0060" + le32(12 + header.size()) + header + pecBlock(parts);
-    QVERIFY(!design("pes", file + 'x')->getMetadata().contains("pec_graphic_0"));
-    QVERIFY(design("pes", file)->getMetadata().contains("pec_graphic_0"));
-}
+    void thumbnailsOfVersion6LieEarlier()
+    {
+        // The header moves the cursor by a seek, which the count of bytes does not follow: 20 bytes
+        // between header and block make the thumbnails be looked for 20 bytes too early.
+        PecParts parts;
+        parts.label = QByteArray(16, ' ');
+        parts.colors = hex("0505");
+        parts.width = 1;
+        parts.height = 21;
+        const QByteArray header = version6("", counts + le16(0)) + QByteArray(20, '#');
+        const QByteArray file = "#PES0060" + le32(12 + header.size()) + header + pecBlock(parts);
+        QVERIFY(!design("pes", file + 'x')->getMetadata().contains("pec_graphic_0"));
+        QVERIFY(design("pes", file)->getMetadata().contains("pec_graphic_0"));
+    }
+};
 
 QTEST_APPLESS_MAIN(TestPesReader)
 #include "tst_pesreader.moc"

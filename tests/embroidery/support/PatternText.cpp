@@ -1,6 +1,5 @@
 #include "embroidery/support/PatternText.h"
 
-#include "embroidery/EmbPattern.h"
 #include "embroidery/EmbroideryIO.h"
 #include "embroidery/IOException.h"
 
@@ -12,7 +11,7 @@ namespace TestSupport {
 
 QString pointsText(const EmbPattern &pattern)
 {
-    const QString letters = QStringLiteral("SMTHECQq");
+    const QString letters = "SMTHECQq";
     QStringList words;
     for (int i = 0; i < pattern.size(); ++i) {
         words.append(QStringLiteral("%1%2,%3")
@@ -31,7 +30,7 @@ QString threadsText(const EmbPattern &pattern)
                          .arg(thread->getHexColor(), thread->getDescription(),
                               thread->getCatalogNumber(), thread->getBrand(), thread->getChart()));
     }
-    return words.join(QStringLiteral("; "));
+    return words.join("; ");
 }
 
 QString metadataText(const EmbPattern &pattern)
@@ -40,7 +39,7 @@ QString metadataText(const EmbPattern &pattern)
     const QMap<QString, QString> metadata = pattern.getMetadata();
     for (auto it = metadata.cbegin(); it != metadata.cend(); ++it)
         words.append(it.key() + QLatin1Char('=') + it.value());
-    return words.join(QStringLiteral("; "));
+    return words.join("; ");
 }
 
 QString read(const QString &extension, const QByteArray &bytes)
@@ -48,13 +47,13 @@ QString read(const QString &extension, const QByteArray &bytes)
     try {
         return pointsText(*design(extension, bytes));
     } catch (const IOException &e) {
-        return QStringLiteral("! ") + e.message;
+        return "! " + e.message;
     }
 }
 
 QSharedPointer<EmbPattern> design(const QString &extension, const QByteArray &bytes)
 {
-    return EmbroideryIO::readByteArray(QStringLiteral("design.") + extension, bytes);
+    return EmbroideryIO::readByteArray("design." + extension, bytes);
 }
 
 QByteArray hex(const char *digits)

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "embroidery/EmbPattern.h"
+
 #include <QByteArray>
 #include <QSharedPointer>
 #include <QString>
-
-namespace Embroidery {
-class EmbPattern;
-}
 
 namespace TestSupport {
 
