@@ -29,3 +29,11 @@ public:
 
     QSharedPointer<Project> project = QSharedPointer<Project>::create();
 };
+
+/** A catalogue of one design, with words, and a tag that none bears. */
+inline QByteArray catalogueWith(const QByteArray &tag)
+{
+    return "<hoopline_organizer version=\"1.0\"><files><file><absolute_file_path>/a</"
+           "absolute_file_path><notes>precious</notes></file></files><all_tags><string>" +
+           tag + "</string></all_tags></hoopline_organizer>";
+}

@@ -20,16 +20,16 @@ int main(int argc, char **argv)
     for (const auto &file : files) {
         const QString name = QFileInfo(file->absoluteFilePath()).fileName();
         if (name == QLatin1String("a.dst")) {
-            file->setTags({QStringLiteral("late"), QStringLiteral("\"quoted\"\n")});
-            file->setNotes(QStringLiteral("written last"));
+            file->setTags({"late", "\"quoted\"\n"});
+            file->setNotes("written last");
             file->setFavorite(true);
         }
         if (name == QLatin1String("b.dst")) {
             file->setTags({});
-            file->setNotes(QStringLiteral("a slip"));
+            file->setNotes("a slip");
             controller.project()->undoStack()->undo();
         }
     }
-    controller.project()->addTag(QStringLiteral("late"));
+    controller.project()->addTag("late");
     return QGuiApplication::exec();
 }

@@ -1,20 +1,8 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/folders/DirectoryModel.h"
+#include "support/Rows.h"
 
 #include <QtTest>
-
-class TestDirectoryModel : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void tree();
-    void namesakesTellTheirParents_data();
-    void namesakesTellTheirParents();
-    void neighbours_data();
-    void neighbours();
-    void hostileDepth();
-};
 
 /** The tree as text: names with their children in brackets. */
 static QString text(const QAbstractItemModel &model, const QModelIndex &parent = {})
@@ -28,87 +16,87 @@ static QString text(const QAbstractItemModel &model, const QModelIndex &parent =
     return items.join(' ');
 }
 
-void TestDirectoryModel::tree()
+class TestDirectoryModel : public QObject
 {
-    Catalogue catalogue;
-    for (const char *directory : {"/d/one", "/d/one/x", "/d/one/x/y", "/d/one/x10", "/d/one/x2",
-                                  "/d/two/A/1", "/d/two/A/3", "/d/two/a/2", "/d/two/a/4", "/e"})
-        catalogue.add(QLatin1String(directory) + "/a.pes");
-    catalogue.project->setSmartFolders({"/d/two", "/d/\"<a>\n", "/d/one"}, {});
-    DirectoryModel model(catalogue.project);
-    model.refresh();
-    model.refresh();
-    QCOMPARE(text(model), QStringLiteral("\"<a>\n one(x(y) x2 x10) two(A(1 3) a(2 4))"));
-    const QModelIndex index = model.indexForPath("/d/one/x/y");
-    QCOMPARE(index.data().toString(), QStringLiteral("y"));
-    QCOMPARE(model.absoluteFilePath(index), QStringLiteral("/d/one/x/y"));
-    QVERIFY(!model.indexForPath("/d").isValid());
-}
+    Q_OBJECT
 
-void TestDirectoryModel::namesakesTellTheirParents_data()
-{
-    QTest::addColumn<QStringList>("folders");
-    QTest::addColumn<QString>("tree");
-    QTest::newRow("two") << QStringList{"/mnt/usb1/Roses", "/home/me/Roses", "/d/Tulips"}
-                         << "Tulips Roses (me) Roses (usb1)";
-    QTest::newRow("parents alike")
-        << QStringList{"/a/x/R", "/b/x/R", "/a/y/R"} << "R (a/x) R (a/y) R (b/x)";
-    QTest::newRow("one right below the root") << QStringList{"/R", "/a/R"} << "R (a) R (/)";
-    QTest::newRow("the same twice") << QStringList{"/a/R", "/a/R"} << "R R";
-}
-
-void TestDirectoryModel::namesakesTellTheirParents()
-{
-    QFETCH(QStringList, folders);
-    Catalogue catalogue;
-    catalogue.project->setSmartFolders(folders, {});
-    DirectoryModel model(catalogue.project);
-    model.refresh();
-    QTEST(text(model), "tree");
-}
-
-void TestDirectoryModel::neighbours_data()
-{
-    QTest::addColumn<QStringList>("directories");
-    QTest::addColumn<QStringList>("folders");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("a name that begins as another")
-        << QStringList{"/d/Rose", "/d/Rose/wild", "/d/Rose-2", "/d/Rose-2/wild"}
-        << QStringList{"/d/Rose", "/d/Rose-2"} << "Rose(wild) Rose-2(wild)";
-    QTest::newRow("outside of all folders")
-        << QStringList{"/a/b", "/d/one/x", "/d/outside/y", "/d/two/z"}
-        << QStringList{"/d/one", "/d/two"} << "one(x) two(z)";
-    QTest::newRow("a folder within another")
-        << QStringList{"/d/x", "/d/x/y", "/d/z"} << QStringList{"/d", "/d/x"} << "d(x(y) z) x";
-    QTest::newRow("everything") << QStringList{"/d/x", "/e"} << QStringList{"/"} << "/(d(x) e)";
-}
-
-void TestDirectoryModel::neighbours()
-{
-    QFETCH(QStringList, directories);
-    QFETCH(QStringList, folders);
-    Catalogue catalogue;
-    for (const QString &directory : directories)
-        catalogue.add(directory + "/a.pes");
-    catalogue.project->setSmartFolders(folders, {});
-    DirectoryModel model(catalogue.project);
-    model.refresh();
-    QTEST(text(model), "shown");
-    for (const QString &directory : directories) {
-        const QModelIndex index = model.indexForPath(directory);
-        QVERIFY(!index.isValid() || model.absoluteFilePath(index) == directory);
+private slots:
+    void tree()
+    {
+        Catalogue catalogue;
+        for (const char *directory : {"/d/one", "/d/one/x", "/d/one/x/y", "/d/one/x10", "/d/one/x2",
+                                      "/d/two/A/1", "/d/two/A/3", "/d/two/a/2", "/d/two/a/4", "/e"})
+            catalogue.add(QLatin1String(directory) + "/a.pes");
+        catalogue.project->setSmartFolders({"/d/two", "/d/\"<a>\n", "/d/one"}, {});
+        DirectoryModel model(catalogue.project);
+        model.refresh();
+        model.refresh();
+        QCOMPARE(text(model), "\"<a>\n one(x(y) x2 x10) two(A(1 3) a(2 4))");
+        const QModelIndex index = model.indexForPath("/d/one/x/y");
+        QCOMPARE(index.data().toString(), "y");
+        QCOMPARE(model.absoluteFilePath(index), "/d/one/x/y");
+        QVERIFY(!model.indexForPath("/d").isValid());
     }
-}
 
-void TestDirectoryModel::hostileDepth()
-{
-    Catalogue catalogue;
-    catalogue.add("/d" + QStringLiteral("/x").repeated(200000));
-    catalogue.project->setSmartFolders({"/d"}, {});
-    DirectoryModel model(catalogue.project);
-    model.refresh();
-    QVERIFY(model.indexForPath("/d/x/x").isValid());
-}
+    void namesakesTellTheirParents_data()
+    {
+        const Rows<QStringList, QString> row("folders", "tree");
+        row("two", {"/mnt/usb1/Roses", "/home/me/Roses", "/d/Tulips"},
+            "Tulips Roses (me) Roses (usb1)");
+        row("parents alike", {"/a/x/R", "/b/x/R", "/a/y/R"}, "R (a/x) R (a/y) R (b/x)");
+        row("one right below the root", {"/R", "/a/R"}, "R (a) R (/)");
+        row("the same twice", {"/a/R", "/a/R"}, "R R");
+    }
+
+    void namesakesTellTheirParents()
+    {
+        QFETCH(QStringList, folders);
+        Catalogue catalogue;
+        catalogue.project->setSmartFolders(folders, {});
+        DirectoryModel model(catalogue.project);
+        model.refresh();
+        QTEST(text(model), "tree");
+    }
+
+    void neighbours_data()
+    {
+        const Rows<QStringList, QStringList, QString> row("directories", "folders", "shown");
+        row("a name that begins as another",
+            {"/d/Rose", "/d/Rose/wild", "/d/Rose-2", "/d/Rose-2/wild"}, {"/d/Rose", "/d/Rose-2"},
+            "Rose(wild) Rose-2(wild)");
+        row("outside of all folders", {"/a/b", "/d/one/x", "/d/outside/y", "/d/two/z"},
+            {"/d/one", "/d/two"}, "one(x) two(z)");
+        row("a folder within another", {"/d/x", "/d/x/y", "/d/z"}, {"/d", "/d/x"}, "d(x(y) z) x");
+        row("everything", {"/d/x", "/e"}, {"/"}, "/(d(x) e)");
+    }
+
+    void neighbours()
+    {
+        QFETCH(QStringList, directories);
+        QFETCH(QStringList, folders);
+        Catalogue catalogue;
+        for (const QString &directory : directories)
+            catalogue.add(directory + "/a.pes");
+        catalogue.project->setSmartFolders(folders, {});
+        DirectoryModel model(catalogue.project);
+        model.refresh();
+        QTEST(text(model), "shown");
+        for (const QString &directory : directories) {
+            const QModelIndex index = model.indexForPath(directory);
+            QVERIFY(!index.isValid() || model.absoluteFilePath(index) == directory);
+        }
+    }
+
+    void hostileDepth()
+    {
+        Catalogue catalogue;
+        catalogue.add("/d" + QStringLiteral("/x").repeated(200000));
+        catalogue.project->setSmartFolders({"/d"}, {});
+        DirectoryModel model(catalogue.project);
+        model.refresh();
+        QVERIFY(model.indexForPath("/d/x/x").isValid());
+    }
+};
 
 QTEST_MAIN(TestDirectoryModel)
 #include "tst_directorymodel.moc"
