@@ -16,7 +16,8 @@ class PreviewFixture
 public:
     PreviewFixture()
     {
-        GSettings::setIniFile(m_directory.filePath(QStringLiteral("settings.ini")));
+        Q_INIT_RESOURCE(hoopline_resources);
+        GSettings::setIniFile(m_directory.filePath("settings.ini"));
         GlobalSettings settings;
         settings.setApplicationDataPath(m_directory.path());
         settings.setImperialUnits(false);

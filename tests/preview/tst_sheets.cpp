@@ -7,18 +7,16 @@
 #include "preview/sheets/Sheet.h"
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
+#include "support/Rows.h"
 #include "support/ScriptedListener.h"
 #include <QPainter>
-#include <QRegularExpression>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(SheetOptions::Kind)
 
-namespace {
-
 const QSizeF A4(18600, 27300);
 
-DstDesign striped(int threads)
+static DstDesign striped(int threads)
 {
     DstDesign design;
     for (int i = 0; i < threads; ++i) {
@@ -28,14 +26,14 @@ DstDesign striped(int threads)
     return design.end();
 }
 
-int pagesOf(const QByteArray &pdf)
+static int pagesOf(const QByteArray &pdf)
 {
-    static const QRegularExpression page(QStringLiteral("/Type /Page\\b"));
+    static const QRegularExpression page("/Type /Page\\b");
     return QString::fromLatin1(pdf.constData(), pdf.size()).count(page);
 }
 
 /** A page as it comes onto paper, with so many pixels in a millimetre. */
-QImage painted(const Sheet &sheet, int page, const QVector<DrawnDesign> &drawn, double scale)
+static QImage painted(const Sheet &sheet, int page, const QVector<DrawnDesign> &drawn, double scale)
 {
     QImage image((A4 / PaperUnits::Millimetre * scale).toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -58,197 +56,185 @@ QRect boundsOf(const QImage &image, Matches matches)
     return bounds;
 }
 
-bool isRed(QRgb color)
+static bool isRed(QRgb color)
 {
     return qRed(color) > 150 && qGreen(color) < 60 && qBlue(color) < 60;
 }
-
-} // namespace
 
 class tst_Sheets : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void writesPages_data();
-    void writesPages();
-    void reportsAndIsCancelled();
-    void losesNothingToAFailure_data();
-    void losesNothingToAFailure();
-    void putsFoldersTogether();
-    void tellsWhatCannotBeRead();
-    void showsThePreviewOfAMissingFile();
-    void drawsInTrueSize();
-    void showsWhiteThread();
+    void writesPages_data()
+    {
+        const Rows<SheetOptions::Kind, int, int, bool, int> row("kind", "count", "threads",
+                                                                "trueSize", "pages");
+        row("contact sheet", SheetOptions::Contact, 45, 1, true, 3);
+        row("work sheets", SheetOptions::Work, 3, 1, true, 6);
+        row("without true size", SheetOptions::Work, 3, 1, false, 3);
+        row("many threads", SheetOptions::Work, 1, 100, false, 3);
+    }
+
+    void writesPages()
+    {
+        QFETCH(SheetOptions::Kind, kind);
+        QFETCH(int, count);
+        QFETCH(int, threads);
+        QFETCH(bool, trueSize);
+        QFETCH(int, pages);
+        const QString design = m_folder.design("design.dst");
+        QVERIFY(striped(threads).writeTo(design));
+        SheetOptions options;
+        options.kind = kind;
+        options.trueSize = trueSize;
+        const QString path = m_folder.design("sheet.pdf");
+        ScriptedListener listener;
+        const QVector<SheetDesign> designs(count, SheetDesign::of(design));
+        QCOMPARE(PdfFile::write(path, designs, options, listener), pages);
+        const QByteArray pdf = CatalogueFolder::read(path);
+        QVERIFY(pdf.startsWith("%PDF-"));
+        QVERIFY(pdf.trimmed().endsWith("%%EOF"));
+        QCOMPARE(pagesOf(pdf), pages);
+    }
+
+    void reportsAndIsCancelled()
+    {
+        const QString path = m_folder.design("cancelled.pdf");
+        QVERIFY(CatalogueFolder::write(path, "before"));
+        ScriptedListener listener;
+        listener.onProceed = [&listener](const QString &) {
+            listener.aborted = listener.texts.size() == 30;
+        };
+        QCOMPARE(PdfFile::write(path, designs(45), SheetOptions(), listener), 0);
+        QCOMPARE(listener.steps, QList<int>{45});
+        QCOMPARE(listener.texts.value(29), QString("29.dst"));
+        QCOMPARE(CatalogueFolder::read(path), "before");
+        QCOMPARE(QDir(m_folder.designs()).entryList({"*.part"}, QDir::Files | QDir::Hidden).size(),
+                 0);
+    }
+
+    void losesNothingToAFailure_data()
+    {
+        const Rows<QString> row("path");
+        row("no folder", m_folder.design("missing/sheet.pdf"));
+        row("full disk", "/dev/full");
+    }
+
+    void losesNothingToAFailure()
+    {
+        QFETCH(QString, path);
+        ScriptedListener listener;
+        QVERIFY_EXCEPTION_THROWN(PdfFile::write(path, designs(2), SheetOptions(), listener), Error);
+    }
+
+    void putsFoldersTogether()
+    {
+        SheetOptions options;
+        options.folderHeadings = true;
+        const QStringList paths{"/b/2.dst", "/a/1.dst", "/b/1.dst", "/a/sub/1.dst", "/a/2.dst"};
+        QVector<SheetDesign> designs;
+        for (const QString &path : paths)
+            designs.append(SheetDesign::of(path));
+        const auto sheet = Sheet::make(designs, options, A4);
+        QStringList order;
+        for (const SheetDesign &design : sheet->designs())
+            order.append(design.path);
+        QCOMPARE(order,
+                 QStringList({"/b/2.dst", "/b/1.dst", "/a/1.dst", "/a/2.dst", "/a/sub/1.dst"}));
+    }
+
+    void tellsWhatCannotBeRead()
+    {
+        const QString damaged = m_folder.design("damaged.hus");
+        QVERIFY(CatalogueFolder::write(damaged, "no design"));
+        for (const QString &path : {damaged, m_folder.design("gone.dst")}) {
+            const DrawnDesign drawn = DrawnDesign::of(SheetDesign::of(path), {100, true});
+            QVERIFY(drawn.picture.isNull());
+            QVERIFY(!drawn.error.isEmpty());
+            for (const auto kind : {SheetOptions::Contact, SheetOptions::Work}) {
+                SheetOptions options;
+                options.kind = kind;
+                const auto sheet = Sheet::make({SheetDesign::of(path)}, options, A4);
+                QCOMPARE(sheet->pageCount(0, {drawn}), 1);
+                QVERIFY(painted(*sheet, 0, {drawn}, 1) != painted(*sheet, 0, {}, 1));
+            }
+        }
+    }
+
+    void showsThePreviewOfAMissingFile()
+    {
+        SheetDesign design;
+        design.path = m_folder.design("on a drive that is not there.pes");
+        design.previewPath = m_folder.design("preview.png");
+        design.size = QSizeF(40, 20);
+        design.stitches = 1234;
+        QImage preview(400, 200, QImage::Format_ARGB32);
+        preview.fill(Qt::red);
+        QVERIFY(preview.save(design.previewPath));
+        const DrawnDesign drawn = DrawnDesign::of(design, {300, false});
+        QCOMPARE(drawn.picture.size(), QSize(300, 150));
+        QCOMPARE(drawn.stitches, 1234);
+        QCOMPARE(drawn.size, design.size);
+    }
+
+    void drawsInTrueSize()
+    {
+        const QString path = m_folder.design("square.dst");
+        DstDesign design;
+        design.thread("#c00000", "Red");
+        for (int i = 0; i < 10; ++i)
+            design.stitch(50, 0).stitch(0, 60).stitch(50, 0).stitch(-50, 0).stitch(0, -60);
+        QVERIFY(design.end().writeTo(path));
+        const auto sheet = workSheet(path);
+        const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().first(), sheet->wish())};
+        QCOMPARE(sheet->pageCount(0, drawn), 2);
+        const QRectF bounds = drawn.first().order->bounds();
+        constexpr double scale = 5; // pixels in a millimetre
+        const QRect found = boundsOf(painted(*sheet, 1, drawn, scale), isRed);
+        // Around the needle points lies half a thread on each side.
+        QVERIFY(qAbs(found.width() / scale - (bounds.width() / 10 + 0.4)) < 0.5);
+        QVERIFY(qAbs(found.height() / scale - (bounds.height() / 10 + 0.4)) < 0.5);
+    }
+
+    void showsWhiteThread()
+    {
+        const QString path = m_folder.design("white.dst");
+        DstDesign design;
+        design.thread("#ffffff", "White");
+        QVERIFY(design.stitch(100, 0).stitch(0, 100).stitch(-100, 0).end().writeTo(path));
+        const auto sheet = workSheet(path);
+        const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().first(), sheet->wish())};
+        const QImage page = painted(*sheet, 1, drawn, 5);
+        // The middle of the paper, within the hoop.
+        const QRect middle(page.width() / 2 - 100, page.height() / 2 - 100, 200, 240);
+        const QRect found =
+            boundsOf(page.copy(middle), [](QRgb color) { return qGray(color) < 230; });
+        QVERIFY(found.width() > 40);
+    }
 
 private:
-    QVector<SheetDesign> designs(int count) const;
+    static std::unique_ptr<Sheet> workSheet(const QString &design)
+    {
+        SheetOptions options;
+        options.kind = SheetOptions::Work;
+        return Sheet::make({SheetDesign::of(design)}, options, A4);
+    }
+
+    QVector<SheetDesign> designs(int count) const
+    {
+        QVector<SheetDesign> designs;
+        for (int i = 0; i < count; ++i) {
+            const QString path = m_folder.design(QStringLiteral("%1.dst").arg(i));
+            if (!DstDesign::square().writeTo(path))
+                return {};
+            designs.append(SheetDesign::of(path));
+        }
+        return designs;
+    }
 
     CatalogueFolder m_folder;
 };
-
-QVector<SheetDesign> tst_Sheets::designs(int count) const
-{
-    QVector<SheetDesign> designs;
-    for (int i = 0; i < count; ++i) {
-        const QString path = m_folder.design(QStringLiteral("%1.dst").arg(i));
-        if (!DstDesign::square().writeTo(path))
-            return {};
-        designs.append(SheetDesign::of(path));
-    }
-    return designs;
-}
-
-void tst_Sheets::writesPages_data()
-{
-    QTest::addColumn<SheetOptions::Kind>("kind");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("threads");
-    QTest::addColumn<bool>("trueSize");
-    QTest::addColumn<int>("pages");
-    QTest::newRow("contact sheet") << SheetOptions::Contact << 45 << 1 << true << 3;
-    QTest::newRow("work sheets") << SheetOptions::Work << 3 << 1 << true << 6;
-    QTest::newRow("without true size") << SheetOptions::Work << 3 << 1 << false << 3;
-    QTest::newRow("many threads") << SheetOptions::Work << 1 << 100 << false << 3;
-}
-
-void tst_Sheets::writesPages()
-{
-    QFETCH(SheetOptions::Kind, kind);
-    QFETCH(int, count);
-    QFETCH(int, threads);
-    QFETCH(bool, trueSize);
-    QFETCH(int, pages);
-    const QString design = m_folder.design("design.dst");
-    QVERIFY(striped(threads).writeTo(design));
-    SheetOptions options;
-    options.kind = kind;
-    options.trueSize = trueSize;
-    const QString path = m_folder.design("sheet.pdf");
-    ScriptedListener listener;
-    const QVector<SheetDesign> designs(count, SheetDesign::of(design));
-    QCOMPARE(PdfFile::write(path, designs, options, listener), pages);
-    const QByteArray pdf = CatalogueFolder::read(path);
-    QVERIFY(pdf.startsWith("%PDF-"));
-    QVERIFY(pdf.trimmed().endsWith("%%EOF"));
-    QCOMPARE(pagesOf(pdf), pages);
-}
-
-void tst_Sheets::reportsAndIsCancelled()
-{
-    const QString path = m_folder.design("cancelled.pdf");
-    QVERIFY(CatalogueFolder::write(path, "before"));
-    ScriptedListener listener;
-    listener.onProceed = [&listener](const QString &) {
-        listener.aborted = listener.texts.size() == 30;
-    };
-    QCOMPARE(PdfFile::write(path, designs(45), SheetOptions(), listener), 0);
-    QCOMPARE(listener.steps, QList<int>{45});
-    QCOMPARE(listener.texts.value(29), QString("29.dst"));
-    QCOMPARE(CatalogueFolder::read(path), QByteArray("before"));
-    QCOMPARE(QDir(m_folder.designs()).entryList({"*.part"}, QDir::Files | QDir::Hidden).size(), 0);
-}
-
-void tst_Sheets::losesNothingToAFailure_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("no folder") << m_folder.design("missing/sheet.pdf");
-    QTest::newRow("full disk") << "/dev/full";
-}
-
-void tst_Sheets::losesNothingToAFailure()
-{
-    QFETCH(QString, path);
-    ScriptedListener listener;
-    QVERIFY_EXCEPTION_THROWN(PdfFile::write(path, designs(2), SheetOptions(), listener), Error);
-}
-
-void tst_Sheets::putsFoldersTogether()
-{
-    SheetOptions options;
-    options.folderHeadings = true;
-    const QStringList paths{"/b/2.dst", "/a/1.dst", "/b/1.dst", "/a/sub/1.dst", "/a/2.dst"};
-    QVector<SheetDesign> designs;
-    for (const QString &path : paths)
-        designs.append(SheetDesign::of(path));
-    const auto sheet = Sheet::make(designs, options, A4);
-    QStringList order;
-    for (const SheetDesign &design : sheet->designs())
-        order.append(design.path);
-    QCOMPARE(order, QStringList({"/b/2.dst", "/b/1.dst", "/a/1.dst", "/a/2.dst", "/a/sub/1.dst"}));
-}
-
-void tst_Sheets::tellsWhatCannotBeRead()
-{
-    const QString damaged = m_folder.design("damaged.hus");
-    QVERIFY(CatalogueFolder::write(damaged, "no design"));
-    for (const QString &path : {damaged, m_folder.design("gone.dst")}) {
-        const DrawnDesign drawn = DrawnDesign::of(SheetDesign::of(path), {100, true});
-        QVERIFY(drawn.picture.isNull());
-        QVERIFY(!drawn.error.isEmpty());
-        for (const auto kind : {SheetOptions::Contact, SheetOptions::Work}) {
-            SheetOptions options;
-            options.kind = kind;
-            const auto sheet = Sheet::make({SheetDesign::of(path)}, options, A4);
-            QCOMPARE(sheet->pageCount(0, {drawn}), 1);
-            QVERIFY(painted(*sheet, 0, {drawn}, 1) != painted(*sheet, 0, {}, 1));
-        }
-    }
-}
-
-void tst_Sheets::showsThePreviewOfAMissingFile()
-{
-    SheetDesign design;
-    design.path = m_folder.design("on a drive that is not there.pes");
-    design.previewPath = m_folder.design("preview.png");
-    design.size = QSizeF(40, 20);
-    design.stitches = 1234;
-    QImage preview(400, 200, QImage::Format_ARGB32);
-    preview.fill(Qt::red);
-    QVERIFY(preview.save(design.previewPath));
-    const DrawnDesign drawn = DrawnDesign::of(design, {300, false});
-    QCOMPARE(drawn.picture.size(), QSize(300, 150));
-    QCOMPARE(drawn.stitches, 1234);
-    QCOMPARE(drawn.size, design.size);
-}
-
-void tst_Sheets::drawsInTrueSize()
-{
-    const QString path = m_folder.design("square.dst");
-    DstDesign design;
-    design.thread("#c00000", "Red");
-    for (int i = 0; i < 10; ++i)
-        design.stitch(50, 0).stitch(0, 60).stitch(50, 0).stitch(-50, 0).stitch(0, -60);
-    QVERIFY(design.end().writeTo(path));
-    SheetOptions options;
-    options.kind = SheetOptions::Work;
-    const auto sheet = Sheet::make({SheetDesign::of(path)}, options, A4);
-    const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().first(), sheet->wish())};
-    QCOMPARE(sheet->pageCount(0, drawn), 2);
-    const QRectF bounds = drawn.first().order->bounds();
-    constexpr double scale = 5; // pixels in a millimetre
-    const QRect found = boundsOf(painted(*sheet, 1, drawn, scale), isRed);
-    // Around the needle points lies half a thread on each side.
-    QVERIFY(qAbs(found.width() / scale - (bounds.width() / 10 + 0.4)) < 0.5);
-    QVERIFY(qAbs(found.height() / scale - (bounds.height() / 10 + 0.4)) < 0.5);
-}
-
-void tst_Sheets::showsWhiteThread()
-{
-    const QString path = m_folder.design("white.dst");
-    DstDesign design;
-    design.thread("#ffffff", "White");
-    QVERIFY(design.stitch(100, 0).stitch(0, 100).stitch(-100, 0).end().writeTo(path));
-    SheetOptions options;
-    options.kind = SheetOptions::Work;
-    const auto sheet = Sheet::make({SheetDesign::of(path)}, options, A4);
-    const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().first(), sheet->wish())};
-    const QImage page = painted(*sheet, 1, drawn, 5);
-    // The middle of the paper, within the hoop.
-    const QRect middle(page.width() / 2 - 100, page.height() / 2 - 100, 200, 240);
-    const QRect found = boundsOf(page.copy(middle), [](QRgb color) { return qGray(color) < 230; });
-    QVERIFY(found.width() > 40);
-}
 
 QTEST_MAIN(tst_Sheets)
 #include "tst_sheets.moc"
