@@ -1,3 +1,4 @@
+#include "support/PrivateBus.h"
 #include "widgets/style/DesktopColorScheme.h"
 #include "widgets/style/WidgetHelper.h"
 
@@ -5,16 +6,14 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QtTest>
 
 namespace {
 
-const QString Path = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString Interface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString Group = QStringLiteral("org.freedesktop.appearance");
-const QString Key = QStringLiteral("color-scheme");
+const QString Path = "/org/freedesktop/portal/desktop";
+const QString Interface = "org.freedesktop.portal.Settings";
+const QString Group = "org.freedesktop.appearance";
+const QString Key = "color-scheme";
 
 /** A desktop portal that knows one setting. */
 class Portal : public QDBusVirtualObject
@@ -33,8 +32,7 @@ public:
     void change(const QDBusConnection &bus, const QString &key, uint value)
     {
         scheme = value;
-        QDBusMessage signal =
-            QDBusMessage::createSignal(Path, Interface, QStringLiteral("SettingChanged"));
+        QDBusMessage signal = QDBusMessage::createSignal(Path, Interface, "SettingChanged");
         signal << Group << key << QVariant::fromValue(QDBusVariant(value));
         bus.send(signal);
     }
@@ -49,52 +47,38 @@ class tst_DesktopColorScheme : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
-    void followsThePortal();
+    void initTestCase()
+    {
+        if (!m_bus.start("session"))
+            QSKIP("there is no dbus-daemon here");
+    }
+
+    void cleanupTestCase() { QDBusConnection::disconnectFromBus("portal"); }
+
+    void followsThePortal()
+    {
+        QDBusConnection bus = QDBusConnection::connectToBus(
+            QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS")), "portal");
+        Portal portal;
+        portal.scheme = 1;
+        QVERIFY(bus.registerVirtualObject(Path, &portal));
+        QVERIFY(bus.registerService("org.freedesktop.portal.Desktop"));
+
+        QVERIFY(!WidgetHelper::isDarkMode());
+        DesktopColorScheme scheme(qApp);
+        QVERIFY2(!WidgetHelper::isDarkMode(), "asking must not wait for the answer");
+        QTRY_VERIFY(WidgetHelper::isDarkMode());
+
+        portal.change(bus, "contrast", 0);
+        portal.change(bus, Key, 2);
+        QTRY_VERIFY(!WidgetHelper::isDarkMode());
+        portal.change(bus, Key, 1);
+        QTRY_VERIFY(WidgetHelper::isDarkMode());
+    }
 
 private:
-    QProcess m_bus;
+    PrivateBus m_bus;
 };
-
-void tst_DesktopColorScheme::initTestCase()
-{
-    const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-    if (daemon.isEmpty())
-        QSKIP("dbus-daemon is not installed");
-    m_bus.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                         QStringLiteral("--print-address")});
-    QVERIFY(m_bus.waitForReadyRead());
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
-}
-
-void tst_DesktopColorScheme::cleanupTestCase()
-{
-    QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
-    m_bus.terminate();
-    m_bus.waitForFinished();
-}
-
-void tst_DesktopColorScheme::followsThePortal()
-{
-    QDBusConnection bus = QDBusConnection::connectToBus(
-        QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS")), QStringLiteral("portal"));
-    Portal portal;
-    portal.scheme = 1;
-    QVERIFY(bus.registerVirtualObject(Path, &portal));
-    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
-
-    QVERIFY(!WidgetHelper::isDarkMode());
-    DesktopColorScheme scheme(qApp);
-    QVERIFY2(!WidgetHelper::isDarkMode(), "asking must not wait for the answer");
-    QTRY_VERIFY(WidgetHelper::isDarkMode());
-
-    portal.change(bus, QStringLiteral("contrast"), 0);
-    portal.change(bus, Key, 2);
-    QTRY_VERIFY(!WidgetHelper::isDarkMode());
-    portal.change(bus, Key, 1);
-    QTRY_VERIFY(WidgetHelper::isDarkMode());
-}
 
 QTEST_MAIN(tst_DesktopColorScheme)
 #include "tst_desktopcolorscheme.moc"
