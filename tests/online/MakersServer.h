@@ -18,12 +18,11 @@ class MakersServer
 public:
     explicit MakersServer(const HttpServer::Response &response)
     {
-        GSettings::setIniFile(m_profile.filePath(QStringLiteral("settings.ini")));
+        GSettings::setIniFile(m_profile.filePath("settings.ini"));
         theDependencyRegistry()
             ->setConstructorWith1ParameterForRole<GUrlProvider, Provider, QString>(
                 GApplicationAddons::di_UrlProvider);
-        m_addons = std::make_unique<GApplicationAddons>(true, QStringLiteral("Hoopline Organizer"),
-                                                        QStringLiteral("hl"));
+        m_addons = std::make_unique<GApplicationAddons>(true, "Hoopline Organizer", "hl");
         answer(response);
     }
 

@@ -2,39 +2,32 @@
 #include "base/GSettings.h"
 #include "online/BreakpadCrashHandler.h"
 #include "online/GCrashLogCollector.h"
+#include "support/Rows.h"
 
 #include <climits>
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <stdexcept>
-
-namespace {
 
 volatile int sink = 0;
 volatile int Endless = INT_MAX;
 
 // NOLINTNEXTLINE(misc-no-recursion): running out of stack is what it is for
-int overflow(int depth)
+static int overflow(int depth)
 {
     volatile char frame[4096];
     frame[0] = char(depth);
     return depth < Endless ? overflow(depth + 1) + frame[0] : 0;
 }
 
-[[noreturn]] void crash(const QByteArray &how)
+[[noreturn]] static void crash(const QByteArray &how)
 {
     BreakpadCrashHandler::install();
-    theLogServer()->logMessage("Test", LogLevel::Warning, QStringLiteral("the last words"));
-    theLogServer()->logMessage("Test", LogLevel::Warning,
-                               QStringLiteral("reading /home/jo/secret rose.dst"));
+    theLogServer()->logMessage("Test", LogLevel::Warning, "the last words");
+    theLogServer()->logMessage("Test", LogLevel::Warning, "reading /home/jo/secret rose.dst");
     if (how == "segv") {
         // Not null, which a sanitizer would catch before the processor does.
         volatile std::uintptr_t nowhere = 64;
@@ -50,13 +43,11 @@ int overflow(int depth)
     std::exit(0);
 }
 
-void setNames()
+static void setNames()
 {
-    QCoreApplication::setApplicationName(QStringLiteral("Crash Test"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("9.8.7"));
+    QCoreApplication::setApplicationName("Crash Test");
+    QCoreApplication::setApplicationVersion("9.8.7");
 }
-
-} // namespace
 
 /** Real processes that really crash, and what the next start finds. */
 class tst_Crash : public QObject
@@ -64,131 +55,115 @@ class tst_Crash : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void logIsWritten_data();
-    void logIsWritten();
-    void anotherUsersFolderIsNotUsed();
-    void onlyNewLogsAreOffered();
-    void foldersAreLeftOut();
+    void initTestCase()
+    {
+        qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
+        GSettings::setIniFile(m_dir.filePath("s.ini"));
+    }
+
+    void init()
+    {
+        QDir(BreakpadCrashHandler::crashLogPath()).removeRecursively();
+        GSettings().flushSettings({});
+    }
+
+    void logIsWritten_data()
+    {
+        const Rows<int, QString> row("signal", "name");
+        row("segv", SIGSEGV, "SIGSEGV");
+        row("raised", SIGSEGV, "SIGSEGV");
+        row("overflow", SIGSEGV, "SIGSEGV");
+        row("throw", SIGABRT, "SIGABRT");
+        row("trap", SIGILL, "SIGILL");
+    }
+
+    void logIsWritten()
+    {
+        QFETCH(QString, name);
+        const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+        QTEST(exitSignal(QTest::currentDataTag()), "signal");
+        const QStringList logs = GCrashLogCollector().logsSince(before);
+        QCOMPARE(logs.size(), 1);
+        const QString log = logs.first();
+        for (const QString &part : QStringList{"Signal: " + name, "Version: 9.8.7\n",
+                                               "Build date: 20", "System: Linux", "the last words"})
+            QVERIFY2(log.contains(part), qPrintable(log));
+        QVERIFY(!log.contains("rose"));
+        // Frames of the program itself, to be resolved by their offset in it.
+        QVERIFY(log.contains(QRegularExpression("\ntst_crash\\(.*\\+0x[0-9a-f]+\\)")));
+        QVERIFY(!log.contains(QCoreApplication::applicationDirPath()));
+    }
+
+    void anotherUsersFolderIsNotUsed()
+    {
+        const QString path = BreakpadCrashHandler::crashLogPath();
+        QVERIFY(QDir().mkpath(path));
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                        QFile::WriteOther | QFile::ExeOther | QFile::ReadOther);
+        QCOMPARE(exitSignal("segv"), SIGSEGV);
+        QVERIFY(QDir(path).isEmpty());
+        QVERIFY(QDir().rmdir(path));
+        const QString elsewhere = m_dir.filePath("elsewhere");
+        QVERIFY(QDir().mkpath(elsewhere));
+        QVERIFY(QFile::link(elsewhere, path));
+        QCOMPARE(exitSignal("segv"), SIGSEGV);
+        QVERIFY(QDir(elsewhere).isEmpty());
+        QVERIFY(QFile::remove(path));
+    }
+
+    void onlyNewLogsAreOffered()
+    {
+        const QDateTime now = QDateTime::currentDateTime();
+        QCOMPARE(exitSignal("raised"), SIGSEGV);
+        writeLog("Crash Test-old.crash", "old", now.addSecs(-3600));
+        writeLog("Other-new.crash", "other", now.addSecs(60));
+        writeLog("Crash Test-new.txt", "text", now.addSecs(60));
+        // On a fresh store the last check is now.
+        QVERIFY(GCrashLogCollector().logsSinceLastCheck().isEmpty());
+        QVERIFY(qAbs(GSettings().crashLoggerLastCheck().secsTo(now)) < 60);
+        GSettings().setCrashLoggerLastCheck(now.addSecs(-5));
+        QCOMPARE(GCrashLogCollector().logsSinceLastCheck().size(), 1);
+        QVERIFY(GCrashLogCollector().logsSinceLastCheck().isEmpty());
+    }
+
+    void foldersAreLeftOut()
+    {
+        QCOMPARE(exitSignal("raised"), SIGSEGV);
+        const QDateTime later = QDateTime::currentDateTime().addSecs(60);
+        writeLog("Crash Test-x.crash",
+                 "/home/jo smith/bin/prog(main+0x1)[0x2]\n/usr/libc.so.6(+0x3)[0x4]\n"
+                 "bin/prog(+0x5) [0x6]\n1/2\n",
+                 later);
+        QCOMPARE(GCrashLogCollector().logsSince(later.addSecs(-1)),
+                 QStringList("prog(main+0x1)[0x2]\nlibc.so.6(+0x3)[0x4]\nprog(+0x5) [0x6]\n1/2\n"));
+    }
 
 private:
-    int exitSignal(const QByteArray &how) const;
-    static void writeLog(const QString &name, const QByteArray &text, const QDateTime &time);
+    int exitSignal(const QByteArray &how) const
+    {
+        QProcess process;
+        // A sanitizer's own handler would turn the signal into an exit status.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("ASAN_OPTIONS", "handle_segv=0");
+        process.setProcessEnvironment(environment);
+        process.setStandardErrorFile(QProcess::nullDevice());
+        process.start(QCoreApplication::applicationFilePath(),
+                      {"--crash", QString::fromLatin1(how)});
+        process.waitForFinished();
+        return process.exitStatus() == QProcess::CrashExit ? process.exitCode() : 0;
+    }
+
+    static void writeLog(const QString &name, const QByteArray &text, const QDateTime &time)
+    {
+        QFile file(BreakpadCrashHandler::crashLogPath() + QLatin1Char('/') + name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.flush();
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
 
     QTemporaryDir m_dir;
 };
-
-void tst_Crash::initTestCase()
-{
-#ifndef Q_OS_LINUX
-    QSKIP("the operating system writes the logs");
-#endif
-    qputenv("TMPDIR", QFile::encodeName(m_dir.path()));
-    GSettings::setIniFile(m_dir.filePath(QStringLiteral("s.ini")));
-}
-
-void tst_Crash::init()
-{
-    QDir(BreakpadCrashHandler::crashLogPath()).removeRecursively();
-    GSettings().flushSettings({});
-}
-
-int tst_Crash::exitSignal(const QByteArray &how) const
-{
-    QProcess process;
-    // A sanitizer's own handler would turn the signal into an exit status.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("handle_segv=0"));
-    process.setProcessEnvironment(environment);
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--crash"), QString::fromLatin1(how)});
-    process.waitForFinished();
-    return process.exitStatus() == QProcess::CrashExit ? process.exitCode() : 0;
-}
-
-void tst_Crash::writeLog(const QString &name, const QByteArray &text, const QDateTime &time)
-{
-    QFile file(BreakpadCrashHandler::crashLogPath() + QLatin1Char('/') + name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-    file.flush();
-    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
-}
-
-void tst_Crash::logIsWritten_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("segv") << SIGSEGV << QStringLiteral("SIGSEGV");
-    QTest::newRow("raised") << SIGSEGV << QStringLiteral("SIGSEGV");
-    QTest::newRow("overflow") << SIGSEGV << QStringLiteral("SIGSEGV");
-    QTest::newRow("throw") << SIGABRT << QStringLiteral("SIGABRT");
-    QTest::newRow("trap") << SIGILL << QStringLiteral("SIGILL");
-}
-
-void tst_Crash::logIsWritten()
-{
-    QFETCH(QString, name);
-    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
-    QTEST(exitSignal(QTest::currentDataTag()), "signal");
-    const QStringList logs = GCrashLogCollector().logsSince(before);
-    QCOMPARE(logs.size(), 1);
-    const QString log = logs.first();
-    for (const QString &part :
-         {"Signal: " + name, QStringLiteral("Version: 9.8.7\n"), QStringLiteral("Build date: 20"),
-          QStringLiteral("System: Linux"), QStringLiteral("the last words")})
-        QVERIFY2(log.contains(part), qPrintable(log));
-    QVERIFY(!log.contains(QStringLiteral("rose")));
-    // Frames of the program itself, to be resolved by their offset in it.
-    QVERIFY(log.contains(QRegularExpression(QStringLiteral("\ntst_crash\\(.*\\+0x[0-9a-f]+\\)"))));
-    QVERIFY(!log.contains(QCoreApplication::applicationDirPath()));
-}
-
-void tst_Crash::anotherUsersFolderIsNotUsed()
-{
-    const QString path = BreakpadCrashHandler::crashLogPath();
-    QVERIFY(QDir().mkpath(path));
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                    QFile::WriteOther | QFile::ExeOther | QFile::ReadOther);
-    QCOMPARE(exitSignal("segv"), SIGSEGV);
-    QVERIFY(QDir(path).isEmpty());
-    QVERIFY(QDir().rmdir(path));
-    const QString elsewhere = m_dir.filePath(QStringLiteral("elsewhere"));
-    QVERIFY(QDir().mkpath(elsewhere));
-    QVERIFY(QFile::link(elsewhere, path));
-    QCOMPARE(exitSignal("segv"), SIGSEGV);
-    QVERIFY(QDir(elsewhere).isEmpty());
-    QVERIFY(QFile::remove(path));
-}
-
-void tst_Crash::onlyNewLogsAreOffered()
-{
-    const QDateTime now = QDateTime::currentDateTime();
-    QCOMPARE(exitSignal("raised"), SIGSEGV);
-    writeLog(QStringLiteral("Crash Test-old.crash"), "old", now.addSecs(-3600));
-    writeLog(QStringLiteral("Other-new.crash"), "other", now.addSecs(60));
-    writeLog(QStringLiteral("Crash Test-new.txt"), "text", now.addSecs(60));
-    // On a fresh store the last check is now.
-    QVERIFY(GCrashLogCollector().logsSinceLastCheck().isEmpty());
-    QVERIFY(qAbs(GSettings().crashLoggerLastCheck().secsTo(now)) < 60);
-    GSettings().setCrashLoggerLastCheck(now.addSecs(-5));
-    QCOMPARE(GCrashLogCollector().logsSinceLastCheck().size(), 1);
-    QVERIFY(GCrashLogCollector().logsSinceLastCheck().isEmpty());
-}
-
-void tst_Crash::foldersAreLeftOut()
-{
-    QCOMPARE(exitSignal("raised"), SIGSEGV);
-    const QDateTime later = QDateTime::currentDateTime().addSecs(60);
-    writeLog(QStringLiteral("Crash Test-x.crash"),
-             "/home/jo smith/bin/prog(main+0x1)[0x2]\n/usr/libc.so.6(+0x3)[0x4]\n"
-             "bin/prog(+0x5) [0x6]\n1/2\n",
-             later);
-    QCOMPARE(GCrashLogCollector().logsSince(later.addSecs(-1)),
-             QStringList("prog(main+0x1)[0x2]\nlibc.so.6(+0x3)[0x4]\nprog(+0x5) [0x6]\n1/2\n"));
-}
 
 int main(int argc, char **argv)
 {
