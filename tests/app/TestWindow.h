@@ -31,14 +31,8 @@ public:
     QStringList loadedFiles;
 
 protected:
-    void writeSettings(GSettings &settings) override
-    {
-        settings.setValue(QStringLiteral("own"), QStringLiteral("stored"));
-    }
-    void readSettings(GSettings &settings) override
-    {
-        setProperty("own", settings.value(QStringLiteral("own")));
-    }
+    void writeSettings(GSettings &settings) override { settings.setValue("own", "stored"); }
+    void readSettings(GSettings &settings) override { setProperty("own", settings.value("own")); }
 };
 
 /** One of the windows there are; null when there is none. */
