@@ -13,28 +13,27 @@ CliProcess::CliProcess()
 
 QString CliProcess::workPath(const QString &name) const
 {
-    return QDir::cleanPath(m_root.filePath(QStringLiteral("work/")) + name);
+    return QDir::cleanPath(m_root.filePath("work/") + name);
 }
 
 QString CliProcess::dataPath(const QString &name) const
 {
-    return QDir::cleanPath(m_root.filePath(QStringLiteral("data/")) +
-                           QLatin1String(BuildConfig::Organisation) +
-                           QStringLiteral("/Hoopline Organizer/") + name);
+    return QDir::cleanPath(m_root.filePath("data/") + QLatin1String(BuildConfig::Organisation) +
+                           "/Hoopline Organizer/" + name);
 }
 
 bool CliProcess::start(QProcess &process, const QStringList &arguments,
                        const QString &program) const
 {
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    environment.remove(QStringLiteral("DISPLAY"));
-    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    environment.insert(QStringLiteral("HOME"), m_root.path());
-    environment.insert(QStringLiteral("TMPDIR"), temporaryPath());
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_root.filePath("config"));
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), m_root.filePath("data"));
-    environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_root.filePath("cache"));
+    environment.remove("QT_QPA_PLATFORM");
+    environment.remove("DISPLAY");
+    environment.remove("WAYLAND_DISPLAY");
+    environment.insert("HOME", m_root.path());
+    environment.insert("TMPDIR", temporaryPath());
+    environment.insert("XDG_CONFIG_HOME", m_root.filePath("config"));
+    environment.insert("XDG_DATA_HOME", m_root.filePath("data"));
+    environment.insert("XDG_CACHE_HOME", m_root.filePath("cache"));
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(workPath());
     process.start(program, arguments);

@@ -35,7 +35,7 @@ public:
     /** The folder that the companion runs in. */
     QString workPath(const QString &name = QString()) const;
     QString dataPath(const QString &name = QString()) const;
-    QString temporaryPath() const { return m_root.filePath(QStringLiteral("tmp")); }
+    QString temporaryPath() const { return m_root.filePath("tmp"); }
 
 private:
     GuardFolder m_root;

@@ -7,7 +7,7 @@
 static QString organiserName()
 {
     InstanceName name;
-    name.applicationName = QStringLiteral("Hoopline Organizer");
+    name.applicationName = "Hoopline Organizer";
     name.organisationName = QLatin1String(BuildConfig::Organisation);
     name.userName = InstanceName::currentUser();
     return name.toString();

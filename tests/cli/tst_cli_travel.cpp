@@ -1,7 +1,7 @@
 #include "CliProcess.h"
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
-#include <QDir>
+#include "support/Rows.h"
 #include <QImage>
 #include <QtTest>
 
@@ -11,191 +11,176 @@ class CliTravelTest : public QObject
     Q_OBJECT
 
 private slots:
-    void bringsWordsAlong_data();
-    void bringsWordsAlong();
-    void addsAndNeverReplaces();
-    void tellsWrongEntries_data();
-    void tellsWrongEntries();
-    void exportHarmsNoFile_data();
-    void exportHarmsNoFile();
-    void paintsThumbnails();
+    void bringsWordsAlong_data()
+    {
+        const Rows<QStringList> row("form");
+        row("CSV", {"export"});
+        row("JSON", {"export", "--json"});
+        row("list --csv", {"list", "--csv"});
+        row("list --json", {"list", "--json"});
+    }
+
+    void bringsWordsAlong()
+    {
+        QFETCH(QStringList, form);
+        const CliProcess here;
+        const CliProcess there;
+        QVERIFY(make(here));
+        QVERIFY(make(there, "d/sub/moved.dst"));
+        const QString notes = QString::fromUtf8("two\n\"lines\", \302\233 \350\212\261");
+        QCOMPARE(here.run({"tag", "add", "a;b,\"c\"", "d/a.dst"}).status, 0);
+        QCOMPARE(here.run({"tag", "add", "plain", "d/a.dst"}).status, 0);
+        QCOMPARE(here.run({"note", "-", "d/a.dst"}, notes.toUtf8()).status, 0);
+        QCOMPARE(here.run({"favorite", "d/b.dst"}).status, 0);
+        const QByteArray words = here.run(form).out;
+
+        const QByteArray before = shown(there);
+        const auto rehearsal = there.run({"import", "--dry-run", "-"}, words);
+        QCOMPARE(rehearsal.out, "update " + there.workPath("d/b.dst").toUtf8() + "\nupdate " +
+                                    there.workPath("d/sub/moved.dst").toUtf8() +
+                                    "\nwould update 2, unchanged 0, unknown 0\n");
+        QCOMPARE(shown(there), before);
+        QCOMPARE(there.run({"import", "-"}, words).out, "updated 2, unchanged 0, unknown 0\n");
+        QByteArrayList expected = shown(here).split('\n');
+        QByteArrayList arrived = shown(there).split('\n');
+        std::sort(expected.begin(), expected.end());
+        std::sort(arrived.begin(), arrived.end());
+        QCOMPARE(arrived, expected);
+        QCOMPARE(there.run({"import", "-"}, words).out, "updated 0, unchanged 2, unknown 0\n");
+    }
+
+    void addsAndNeverReplaces()
+    {
+        const CliProcess cli;
+        QVERIFY(make(cli));
+        QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath("d/copy.dst")));
+        QCOMPARE(cli.run({"scan"}).status, 0);
+        QCOMPARE(cli.run({"tag", "add", "old", "d/a.dst"}).status, 0);
+        QCOMPARE(cli.run({"note", "mine", "d/a.dst"}).status, 0);
+        const QByteArray hash =
+            cli.run({"list", "--search", "name:copy", "--format", "{md5}"}).out.trimmed();
+        const QByteArray a = cli.workPath("d/a.dst").toUtf8();
+        const QByteArray copy = cli.workPath("d/copy.dst").toUtf8();
+        const QByteArray words = "\357\273\277notes,tags,favorite,file,md5\r\n"
+                                 "theirs,new; old,,\"" +
+                                 a +
+                                 "\",00112233445566778899aabbccddeeff\r\n"
+                                 "\r\n"
+                                 ",,true,/elsewhere/copy.dst," +
+                                 hash +
+                                 "\r\n"
+                                 "x,,,/lost.dst,\r\n"
+                                 ",red,,," +
+                                 hash + "\n";
+        const auto result = cli.run({"import", "-"}, words);
+        QCOMPARE(result.out, "updated 3, unchanged 0, unknown 1\n");
+        QVERIFY2(result.error.contains("/lost.dst is not in the catalogue"), result.error);
+        QCOMPARE(shown(cli), "A|new;old|mine\ntheirs|false\nB|red||false\nB|red||true\n");
+    }
+
+    void tellsWrongEntries_data()
+    {
+        const Rows<QByteArray, QByteArray> row("words", "message");
+        const QByteArray good = R"({"file": "/a.dst", "tags": ["x"]})";
+        row("cut JSON", good + "\n{\"file\": \"/b.d", "Entry 2");
+        row("tags of numbers", QByteArray(R"([{"file": "/a", "tags": [1]}])"), "'tags'");
+        row("star of text", QByteArray(R"({"file": "/a", "favorite": "yes"})"), "'favorite'");
+        row("short hash", QByteArray(R"({"md5": "0011"})"), "'md5'");
+        row("no design", QByteArray(R"({"tags": ["x"]})"), "neither");
+        row("array of texts", QByteArray(R"(["x"])"), "Entry 1");
+        row("field too many", "file,tags\n/a,x,y\n", "Entry 1");
+        row("open quotation", "file,tags\n/a,\"x\n", "partner");
+        row("other columns", "a,b\n1,2\n", "'md5'");
+        row("no text", "file\n\377\376\n", "UTF-8");
+    }
+
+    void tellsWrongEntries()
+    {
+        QFETCH(QByteArray, words);
+        QFETCH(QByteArray, message);
+        const CliProcess cli;
+        QVERIFY(make(cli));
+        const auto result = cli.run({"import", "-"}, words);
+        QCOMPARE(result.status, 1);
+        QCOMPARE(result.out, QByteArray());
+        QVERIFY2(result.error.contains(message), result.error);
+    }
+
+    void exportHarmsNoFile_data()
+    {
+        const Rows<QString, QStringList, int> row("target", "options", "status");
+        row("other file", "mine.csv", {}, 1);
+        row("design", "d/a.dst", {"--force"}, 2);
+        row("catalogue", "data", {"--force"}, 2);
+        row("replaced", "mine.json", {"--force"}, 0);
+    }
+
+    void exportHarmsNoFile()
+    {
+        QFETCH(QString, target);
+        QFETCH(QStringList, options);
+        QFETCH(int, status);
+        const CliProcess cli;
+        QVERIFY(make(cli));
+        QCOMPARE(cli.run({"favorite", "d/a.dst"}).status, 0);
+        const QString path =
+            target == "data" ? cli.dataPath("hoopline-organizer.xml") : cli.workPath(target);
+        if (target.startsWith("mine"))
+            QVERIFY(CatalogueFolder::write(path, "mine"));
+        const QByteArray before = CatalogueFolder::read(path);
+        QCOMPARE(cli.run(QStringList{"export", path} + options).status, status);
+        if (status != 0)
+            QCOMPARE(CatalogueFolder::read(path), before);
+        else
+            QVERIFY(CatalogueFolder::read(path).startsWith("{\"md5\": "));
+    }
+
+    void paintsThumbnails()
+    {
+        const CliProcess cli;
+        QVERIFY(make(cli));
+        QVERIFY(DstDesign::square("C", 70).writeTo(cli.workPath("d/sub/A.dst")));
+        QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath("d/sub/b.dst")));
+        QVERIFY(CatalogueFolder::write(cli.workPath("d/bad.hus"), "junk"));
+        QVERIFY(CatalogueFolder::write(cli.workPath("d/sub/bad.hus"), "junk"));
+        QCOMPARE(cli.run({"scan"}).status, 0);
+        const auto first = cli.run({"thumbnails", "new/t", "--size", "64"});
+        QCOMPARE(first.status, 1);
+        QVERIFY2(first.error.contains("d/bad.hus"), first.error);
+        QVERIFY2(first.error.contains("d/sub/bad.hus"), first.error);
+        QCOMPARE(first.out, "painted 3, kept 1, failed 2\n");
+        // Other designs of one name have names of their own; copies share a picture.
+        const QDir folder(cli.workPath("new/t"));
+        const QStringList pictures = folder.entryList(QDir::Files, QDir::Name);
+        QCOMPARE(pictures.size(), 3);
+        QCOMPARE(pictures.filter(QRegularExpression("^[aA]\\.dst\\.[0-9a-f]{32}\\.png$")).size(),
+                 2);
+        QVERIFY(pictures.contains("b.dst.png"));
+        QCOMPARE(QImage(folder.filePath("b.dst.png")).width(), 64);
+        QCOMPARE(
+            cli.run({"thumbnails", "new/t", "-", "--force", "--card"}, "d/a.dst\nd/b.dst\n").out,
+            "painted 2, kept 0, failed 0\n");
+        QCOMPARE(QImage(folder.filePath("b.dst.png")).pixelColor(0, 0), QColor(Qt::white));
+        QVERIFY(QFile::remove(cli.workPath("d/b.dst"))); // its copy is there
+        QCOMPARE(cli.run({"thumbnails", "other", "-"}, "d/b.dst\nd/sub/b.dst\n").out,
+                 "painted 1, kept 0, failed 1\n");
+    }
 
 private:
     /** A catalogue of the designs "A" and "B". */
-    static bool make(const CliProcess &cli, const QString &a = "d/a.dst");
+    static bool make(const CliProcess &cli, const QString &a = "d/a.dst")
+    {
+        return QDir(cli.workPath()).mkpath("d/sub") &&
+               DstDesign::square("A", 50).writeTo(cli.workPath(a)) &&
+               DstDesign::square("B", 60).writeTo(cli.workPath("d/b.dst")) &&
+               cli.run({"scan", "d"}).status == 0;
+    }
+
     static QByteArray shown(const CliProcess &cli)
     {
         return cli.run({"list", "--format", "{name}|{tags}|{notes}|{favorite}"}).out;
     }
 };
-
-bool CliTravelTest::make(const CliProcess &cli, const QString &a)
-{
-    return QDir(cli.workPath()).mkpath("d/sub") &&
-           DstDesign::square("A", 50).writeTo(cli.workPath(a)) &&
-           DstDesign::square("B", 60).writeTo(cli.workPath("d/b.dst")) &&
-           cli.run({"scan", "d"}).status == 0;
-}
-
-void CliTravelTest::bringsWordsAlong_data()
-{
-    QTest::addColumn<QStringList>("form");
-    QTest::newRow("CSV") << QStringList{"export"};
-    QTest::newRow("JSON") << QStringList{"export", "--json"};
-    QTest::newRow("list --csv") << QStringList{"list", "--csv"};
-    QTest::newRow("list --json") << QStringList{"list", "--json"};
-}
-
-void CliTravelTest::bringsWordsAlong()
-{
-    QFETCH(QStringList, form);
-    const CliProcess here;
-    const CliProcess there;
-    QVERIFY(make(here));
-    QVERIFY(make(there, "d/sub/moved.dst"));
-    const QString notes = QString::fromUtf8("two\n\"lines\", \302\233 \350\212\261");
-    QCOMPARE(here.run({"tag", "add", "a;b,\"c\"", "d/a.dst"}).status, 0);
-    QCOMPARE(here.run({"tag", "add", "plain", "d/a.dst"}).status, 0);
-    QCOMPARE(here.run({"note", "-", "d/a.dst"}, notes.toUtf8()).status, 0);
-    QCOMPARE(here.run({"favorite", "d/b.dst"}).status, 0);
-    const QByteArray words = here.run(form).out;
-
-    const QByteArray before = shown(there);
-    const auto rehearsal = there.run({"import", "--dry-run", "-"}, words);
-    QCOMPARE(rehearsal.out, "update " + there.workPath("d/b.dst").toUtf8() + "\nupdate " +
-                                there.workPath("d/sub/moved.dst").toUtf8() +
-                                "\nwould update 2, unchanged 0, unknown 0\n");
-    QCOMPARE(shown(there), before);
-    QCOMPARE(there.run({"import", "-"}, words).out,
-             QByteArray("updated 2, unchanged 0, unknown 0\n"));
-    QByteArrayList expected = shown(here).split('\n');
-    QByteArrayList arrived = shown(there).split('\n');
-    std::sort(expected.begin(), expected.end());
-    std::sort(arrived.begin(), arrived.end());
-    QCOMPARE(arrived, expected);
-    QCOMPARE(there.run({"import", "-"}, words).out,
-             QByteArray("updated 0, unchanged 2, unknown 0\n"));
-}
-
-void CliTravelTest::addsAndNeverReplaces()
-{
-    const CliProcess cli;
-    QVERIFY(make(cli));
-    QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath("d/copy.dst")));
-    QCOMPARE(cli.run({"scan"}).status, 0);
-    QCOMPARE(cli.run({"tag", "add", "old", "d/a.dst"}).status, 0);
-    QCOMPARE(cli.run({"note", "mine", "d/a.dst"}).status, 0);
-    const QByteArray hash =
-        cli.run({"list", "--search", "name:copy", "--format", "{md5}"}).out.trimmed();
-    const QByteArray a = cli.workPath("d/a.dst").toUtf8();
-    const QByteArray copy = cli.workPath("d/copy.dst").toUtf8();
-    const QByteArray words = "\357\273\277notes,tags,favorite,file,md5\r\n"
-                             "theirs,new; old,,\"" +
-                             a +
-                             "\",00112233445566778899aabbccddeeff\r\n"
-                             "\r\n"
-                             ",,true,/elsewhere/copy.dst," +
-                             hash +
-                             "\r\n"
-                             "x,,,/lost.dst,\r\n"
-                             ",red,,," +
-                             hash + "\n";
-    const auto result = cli.run({"import", "-"}, words);
-    QCOMPARE(result.out, QByteArray("updated 3, unchanged 0, unknown 1\n"));
-    QVERIFY2(result.error.contains("/lost.dst is not in the catalogue"), result.error);
-    QCOMPARE(shown(cli), QByteArray("A|new;old|mine\ntheirs|false\nB|red||false\nB|red||true\n"));
-}
-
-void CliTravelTest::tellsWrongEntries_data()
-{
-    QTest::addColumn<QByteArray>("words");
-    QTest::addColumn<QByteArray>("message");
-    const QByteArray good = R"({"file": "/a.dst", "tags": ["x"]})";
-    QTest::newRow("cut JSON") << good + "\n{\"file\": \"/b.d" << QByteArray("Entry 2");
-    QTest::newRow("tags of numbers")
-        << QByteArray(R"([{"file": "/a", "tags": [1]}])") << QByteArray("'tags'");
-    QTest::newRow("star of text") << QByteArray(R"({"file": "/a", "favorite": "yes"})")
-                                  << QByteArray("'favorite'");
-    QTest::newRow("short hash") << QByteArray(R"({"md5": "0011"})") << QByteArray("'md5'");
-    QTest::newRow("no design") << QByteArray(R"({"tags": ["x"]})") << QByteArray("neither");
-    QTest::newRow("array of texts") << QByteArray(R"(["x"])") << QByteArray("Entry 1");
-    QTest::newRow("field too many") << QByteArray("file,tags\n/a,x,y\n") << QByteArray("Entry 1");
-    QTest::newRow("open quotation") << QByteArray("file,tags\n/a,\"x\n") << QByteArray("partner");
-    QTest::newRow("other columns") << QByteArray("a,b\n1,2\n") << QByteArray("'md5'");
-    QTest::newRow("no text") << QByteArray("file\n\377\376\n") << QByteArray("UTF-8");
-}
-
-void CliTravelTest::tellsWrongEntries()
-{
-    QFETCH(QByteArray, words);
-    QFETCH(QByteArray, message);
-    const CliProcess cli;
-    QVERIFY(make(cli));
-    const auto result = cli.run({"import", "-"}, words);
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.out, QByteArray());
-    QVERIFY2(result.error.contains(message), result.error);
-}
-
-void CliTravelTest::exportHarmsNoFile_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<int>("status");
-    QTest::newRow("other file") << "mine.csv" << QStringList{} << 1;
-    QTest::newRow("design") << "d/a.dst" << QStringList{"--force"} << 2;
-    QTest::newRow("catalogue") << "data" << QStringList{"--force"} << 2;
-    QTest::newRow("replaced") << "mine.json" << QStringList{"--force"} << 0;
-}
-
-void CliTravelTest::exportHarmsNoFile()
-{
-    QFETCH(QString, target);
-    QFETCH(QStringList, options);
-    QFETCH(int, status);
-    const CliProcess cli;
-    QVERIFY(make(cli));
-    QCOMPARE(cli.run({"favorite", "d/a.dst"}).status, 0);
-    const QString path =
-        target == "data" ? cli.dataPath("hoopline-organizer.xml") : cli.workPath(target);
-    if (target.startsWith("mine"))
-        QVERIFY(CatalogueFolder::write(path, "mine"));
-    const QByteArray before = CatalogueFolder::read(path);
-    QCOMPARE(cli.run(QStringList{"export", path} + options).status, status);
-    if (status != 0)
-        QCOMPARE(CatalogueFolder::read(path), before);
-    else
-        QVERIFY(CatalogueFolder::read(path).startsWith("{\"md5\": "));
-}
-
-void CliTravelTest::paintsThumbnails()
-{
-    const CliProcess cli;
-    QVERIFY(make(cli));
-    QVERIFY(DstDesign::square("C", 70).writeTo(cli.workPath("d/sub/A.dst")));
-    QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath("d/sub/b.dst")));
-    QVERIFY(CatalogueFolder::write(cli.workPath("d/bad.hus"), "junk"));
-    QVERIFY(CatalogueFolder::write(cli.workPath("d/sub/bad.hus"), "junk"));
-    QCOMPARE(cli.run({"scan"}).status, 0);
-    const auto first = cli.run({"thumbnails", "new/t", "--size", "64"});
-    QCOMPARE(first.status, 1);
-    QVERIFY2(first.error.contains("d/bad.hus"), first.error);
-    QVERIFY2(first.error.contains("d/sub/bad.hus"), first.error);
-    QCOMPARE(first.out, QByteArray("painted 3, kept 1, failed 2\n"));
-    // Other designs of one name have names of their own; copies share a picture.
-    const QDir folder(cli.workPath("new/t"));
-    const QStringList pictures = folder.entryList(QDir::Files, QDir::Name);
-    QCOMPARE(pictures.size(), 3);
-    QCOMPARE(pictures.filter(QRegularExpression("^[aA]\\.dst\\.[0-9a-f]{32}\\.png$")).size(), 2);
-    QVERIFY(pictures.contains("b.dst.png"));
-    QCOMPARE(QImage(folder.filePath("b.dst.png")).width(), 64);
-    QCOMPARE(cli.run({"thumbnails", "new/t", "-", "--force", "--card"}, "d/a.dst\nd/b.dst\n").out,
-             QByteArray("painted 2, kept 0, failed 0\n"));
-    QCOMPARE(QImage(folder.filePath("b.dst.png")).pixelColor(0, 0), QColor(Qt::white));
-    QVERIFY(QFile::remove(cli.workPath("d/b.dst"))); // its copy is there
-    QCOMPARE(cli.run({"thumbnails", "other", "-"}, "d/b.dst\nd/sub/b.dst\n").out,
-             QByteArray("painted 1, kept 0, failed 1\n"));
-}
 
 QTEST_GUILESS_MAIN(CliTravelTest)
 #include "tst_cli_travel.moc"
