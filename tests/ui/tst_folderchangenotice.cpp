@@ -1,12 +1,10 @@
 #include "catalogue/records/Project.h"
+#include "support/Rows.h"
 #include "ui/FolderChangeNotice.h"
 #include "ui/NoticeBar.h"
 #include "ui/NoticeRow.h"
 
-#include <QDir>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
 
 class tst_folderchangenotice : public QObject
@@ -14,63 +12,57 @@ class tst_folderchangenotice : public QObject
     Q_OBJECT
 
 private slots:
-    void tellsWhichHaveChanged_data();
-    void tellsWhichHaveChanged();
+    void tellsWhichHaveChanged_data()
+    {
+        const Rows<QStringList, QString> row("changed", "told");
+        row("one", {"Roses"}, "The folder Roses has changed.");
+        row("two", {"Roses", "Christmas %1"}, "The folders Roses and Christmas %1 have changed.");
+        row("three", {"Roses", "Christmas %1", "a/Sport"},
+            "The folders Roses, Christmas %1 and Sport have changed.");
+        row("same name", {"a/Sport", "b/Sport"},
+            "The folders %1/a/Sport and %1/b/Sport have changed.");
+        row("many", {"Roses", "Christmas %1", "a/Sport", "b/Sport"}, "4 folders have changed.");
+    }
+
+    void tellsWhichHaveChanged()
+    {
+        QFETCH(QStringList, changed);
+        QFETCH(QString, told);
+        const QTemporaryDir directory;
+        const auto project = QSharedPointer<Project>::create();
+        NoticeBar bar;
+        int rescans = 0;
+        FolderChangeNotice notice(
+            project, &bar, [&] { ++rescans; }, nullptr);
+        notice.watcher()->setDelay(0);
+
+        QStringList folders;
+        for (const char *name : {"Roses", "Christmas %1", "a/Sport", "b/Sport"}) {
+            folders.append(directory.filePath(QString::fromLatin1(name)));
+            QDir().mkpath(folders.last());
+        }
+        QSignalSpy watched(notice.watcher(), &FolderWatcher::folderWatched);
+        project->setSmartFolders(folders, "add directory");
+        while (watched.count() < folders.size())
+            QVERIFY2(watched.wait(), "The system watches no folders.");
+
+        notice.watcher()->beginScan();
+        for (const QString &name : changed) {
+            QFile file(directory.filePath(name + "/new.pes"));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        // The system tells at once, and the watcher hears of it when events are read.
+        QCoreApplication::processEvents();
+        QVERIFY(bar.findChildren<NoticeRow *>().isEmpty());
+        notice.watcher()->endScan(true);
+        const auto *row = bar.findChild<NoticeRow *>();
+        QVERIFY(row);
+        told.replace("%1/", directory.path() + QLatin1Char('/'));
+        QCOMPARE(row->text(), told);
+        row->findChild<QPushButton *>()->click();
+        QCOMPARE(rescans, 1);
+    }
 };
-
-void tst_folderchangenotice::tellsWhichHaveChanged_data()
-{
-    QTest::addColumn<QStringList>("changed");
-    QTest::addColumn<QString>("told");
-    QTest::newRow("one") << QStringList{"Roses"} << "The folder Roses has changed.";
-    QTest::newRow("two") << QStringList{"Roses", "Christmas %1"}
-                         << "The folders Roses and Christmas %1 have changed.";
-    QTest::newRow("three") << QStringList{"Roses", "Christmas %1", "a/Sport"}
-                           << "The folders Roses, Christmas %1 and Sport have changed.";
-    QTest::newRow("same name") << QStringList{"a/Sport", "b/Sport"}
-                               << "The folders %1/a/Sport and %1/b/Sport have changed.";
-    QTest::newRow("many") << QStringList{"Roses", "Christmas %1", "a/Sport", "b/Sport"}
-                          << "4 folders have changed.";
-}
-
-void tst_folderchangenotice::tellsWhichHaveChanged()
-{
-    QFETCH(QStringList, changed);
-    QFETCH(QString, told);
-    const QTemporaryDir directory;
-    const auto project = QSharedPointer<Project>::create();
-    NoticeBar bar;
-    int rescans = 0;
-    FolderChangeNotice notice(
-        project, &bar, [&] { ++rescans; }, nullptr);
-    notice.watcher()->setDelay(0);
-
-    QStringList folders;
-    for (const char *name : {"Roses", "Christmas %1", "a/Sport", "b/Sport"}) {
-        folders.append(directory.filePath(QString::fromLatin1(name)));
-        QDir().mkpath(folders.last());
-    }
-    QSignalSpy watched(notice.watcher(), &FolderWatcher::folderWatched);
-    project->setSmartFolders(folders, QStringLiteral("add directory"));
-    while (watched.count() < folders.size())
-        QVERIFY2(watched.wait(), "The system watches no folders.");
-
-    notice.watcher()->beginScan();
-    for (const QString &name : changed) {
-        QFile file(directory.filePath(name + QStringLiteral("/new.pes")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    // The system tells at once, and the watcher hears of it when events are read.
-    QCoreApplication::processEvents();
-    QVERIFY(bar.findChildren<NoticeRow *>().isEmpty());
-    notice.watcher()->endScan(true);
-    const auto *row = bar.findChild<NoticeRow *>();
-    QVERIFY(row);
-    told.replace(QStringLiteral("%1/"), directory.path() + QLatin1Char('/'));
-    QCOMPARE(row->text(), told);
-    row->findChild<QPushButton *>()->click();
-    QCOMPARE(rescans, 1);
-}
 
 QTEST_MAIN(tst_folderchangenotice)
 #include "tst_folderchangenotice.moc"

@@ -1,16 +1,11 @@
-#include "app/application/HooplineApplication.h"
-#include "base/GlobalSettings.h"
+#include "MainWindowTest.h"
+
 #include "preview/grid/GridPreviewScene.h"
-#include "support/DstDesign.h"
-#include "ui/MainWindow.h"
 #include "ui/ProgressDialog.h"
 #include "widgets/controls/FocusReturn.h"
 
 #include <QGraphicsView>
 #include <QLineEdit>
-#include <QPointer>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -57,11 +52,7 @@ bool strike(const QStringList &keys)
     // This very program gets the keys meanwhile.
     QObject::connect(&xdotool, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &loop,
                      &QEventLoop::quit);
-    xdotool.start(QStringLiteral("xdotool"),
-                  QStringList{QStringLiteral("sleep"), QStringLiteral("0.02"),
-                              QStringLiteral("key"), QStringLiteral("--delay"),
-                              QStringLiteral("0")} +
-                      keys);
+    xdotool.start("xdotool", QStringList{"sleep", "0.02", "key", "--delay", "0"} + keys);
     return xdotool.waitForStarted() && loop.exec() == 0 && xdotool.exitCode() == 0;
 }
 
@@ -73,103 +64,86 @@ class tst_keyboardfocus : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void survivesQuickRescans();
-    void survivesMomentaryDialogs();
-    void survivesDialogsThatCloseAfterTheirWork();
-    void keysStruckDuringTheWorkWaitForItsEnd();
+    void initTestCase()
+    {
+        GlobalSettings().setApplicationDataPath(m_directory.filePath("data"));
+        QVERIFY(QDir(m_directory.path()).mkpath("data"));
+        QVERIFY(QDir(m_directory.path()).mkpath("designs"));
+        for (int i = 0; i < Designs; ++i)
+            QVERIFY(DstDesign::square(QByteArray::number(i))
+                        .writeTo(m_directory.filePath(QStringLiteral("designs/%1.dst").arg(i))));
+    }
+
+    void survivesQuickRescans()
+    {
+        MainWindow window;
+        // It is the test that deletes it.
+        window.setAttribute(Qt::WA_DeleteOnClose, false);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.filesDropped({m_directory.filePath("designs")});
+        auto *view = window.findChild<QGraphicsView *>();
+        auto *scene = window.findChild<GridPreviewScene *>();
+        view->setFocus();
+        for (int round = 0; round < Rounds; ++round) {
+            scene->selectNone();
+            QVERIFY(strike({"F5", "ctrl+a"}));
+            QTRY_COMPARE(scene->selectedFiles().size(), Designs);
+        }
+    }
+
+    void survivesMomentaryDialogs()
+    {
+        Window window;
+        ProgressDialog dialog(&window);
+        for (int round = 1; round <= Rounds; ++round) {
+            showForAMoment(&dialog, round);
+            QVERIFY(strike({"x"}));
+            QTRY_COMPARE(window.text(), QString(round, QLatin1Char('x')));
+        }
+    }
+
+    // As a transfer does: a dialog that works and closes itself.
+    void survivesDialogsThatCloseAfterTheirWork()
+    {
+        Window window;
+        for (int round = 1; round <= FewRounds; ++round) {
+            {
+                QDialog dialog(&window, Qt::Sheet);
+                new FocusReturn(&dialog);
+                dialog.open();
+                QVERIFY(QTest::qWaitForWindowActive(&dialog));
+                {
+                    ProgressDialog progress(&dialog);
+                    showForAMoment(&progress, round);
+                }
+                dialog.accept();
+            }
+            QVERIFY(strike({"x"}));
+            QTRY_COMPARE(window.text(), QString(round, QLatin1Char('x')));
+            QTRY_COMPARE(QApplication::activeWindow(), &window);
+        }
+    }
+
+    void keysStruckDuringTheWorkWaitForItsEnd()
+    {
+        Window window;
+        ProgressDialog dialog(&window);
+        dialog.begin();
+        QProcess::execute("xdotool", {"key", "x"});
+        dialog.proceed(QString());
+        QVERIFY(window.text().isEmpty());
+        dialog.hide();
+        QTRY_COMPARE(window.text(), "x");
+    }
 
 private:
     QTemporaryDir m_directory;
 };
 
-void tst_keyboardfocus::initTestCase()
-{
-    GlobalSettings().setApplicationDataPath(m_directory.filePath(QStringLiteral("data")));
-    QVERIFY(QDir(m_directory.path()).mkpath(QStringLiteral("data")));
-    QVERIFY(QDir(m_directory.path()).mkpath(QStringLiteral("designs")));
-    for (int i = 0; i < Designs; ++i)
-        QVERIFY(DstDesign::square(QByteArray::number(i))
-                    .writeTo(m_directory.filePath(QStringLiteral("designs/%1.dst").arg(i))));
-}
-
-void tst_keyboardfocus::survivesQuickRescans()
-{
-    MainWindow window;
-    // It is the test that deletes it.
-    window.setAttribute(Qt::WA_DeleteOnClose, false);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    window.filesDropped({m_directory.filePath(QStringLiteral("designs"))});
-    auto *view = window.findChild<QGraphicsView *>();
-    auto *scene = window.findChild<GridPreviewScene *>();
-    view->setFocus();
-    for (int round = 0; round < Rounds; ++round) {
-        scene->selectNone();
-        QVERIFY(strike({QStringLiteral("F5"), QStringLiteral("ctrl+a")}));
-        QTRY_COMPARE(scene->selectedFiles().size(), Designs);
-    }
-}
-
-void tst_keyboardfocus::survivesMomentaryDialogs()
-{
-    Window window;
-    ProgressDialog dialog(&window);
-    for (int round = 1; round <= Rounds; ++round) {
-        showForAMoment(&dialog, round);
-        QVERIFY(strike({QStringLiteral("x")}));
-        QTRY_COMPARE(window.text(), QString(round, QLatin1Char('x')));
-    }
-}
-
-// As a transfer does: a dialog that works and closes itself.
-void tst_keyboardfocus::survivesDialogsThatCloseAfterTheirWork()
-{
-    Window window;
-    for (int round = 1; round <= FewRounds; ++round) {
-        {
-            QDialog dialog(&window, Qt::Sheet);
-            new FocusReturn(&dialog);
-            dialog.open();
-            QVERIFY(QTest::qWaitForWindowActive(&dialog));
-            {
-                ProgressDialog progress(&dialog);
-                showForAMoment(&progress, round);
-            }
-            dialog.accept();
-        }
-        QVERIFY(strike({QStringLiteral("x")}));
-        QTRY_COMPARE(window.text(), QString(round, QLatin1Char('x')));
-        QTRY_COMPARE(QApplication::activeWindow(), &window);
-    }
-}
-
-void tst_keyboardfocus::keysStruckDuringTheWorkWaitForItsEnd()
-{
-    Window window;
-    ProgressDialog dialog(&window);
-    dialog.begin();
-    QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("x")});
-    dialog.proceed(QString());
-    QVERIFY(window.text().isEmpty());
-    dialog.hide();
-    QTRY_COMPARE(window.text(), QStringLiteral("x"));
-}
-
 int main(int argc, char **argv)
 {
-    Q_INIT_RESOURCE(tnw_resources);
-    Q_INIT_RESOURCE(hoopline_resources);
-    HooplineApplication application(argc, argv);
-    // The window of the start is one of the program's own; it is not what is tested.
-    QPointer<MainWindow> first;
-    HooplineApplication::setWindowFactory([&first] { return first = new MainWindow; });
-    GSettings().setAutoUpdatesEnabled(false);
-    GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
-    QCoreApplication::processEvents();
-    delete first;
-    tst_keyboardfocus test;
-    return QTest::qExec(&test, argc, argv);
+    return MainWindowTest::run<tst_keyboardfocus>(argc, argv);
 }
 
 #include "tst_keyboardfocus.moc"

@@ -8,30 +8,125 @@
 #include "online/AutoUpdater.h"
 #include "online/metrics/Metrics.h"
 #include "support/MessageBoxes.h"
+#include "support/Rows.h"
 #include "ui/PreferencesDialog.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTabWidget>
-#include <QTemporaryDir>
 #include <QtTest>
+#include <QtWidgets>
 
 class tst_preferences : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void showsWhatIsStored();
-    void appliesUnitsAtOnce();
-    void appliesUpdateChoices();
-    void appliesTracking();
-    void showsTheRealIdentifier();
-    void textIsNotClipped();
-    void forgetsAbsentDesigns_data();
-    void forgetsAbsentDesigns();
+    void showsWhatIsStored()
+    {
+        GlobalSettings().setImperialUnits(true);
+        GSettings().setAutoUpdatesEnabled(false);
+        PreferencesDialog dialog(nullptr);
+        QVERIFY(child<QCheckBox>(dialog, "useImperialUnits")->isChecked());
+        QVERIFY(!child<QCheckBox>(dialog, "autoUpdatesCheckBox")->isChecked());
+        QCOMPARE(child<QLineEdit>(dialog, "appDataDirectory")->text(),
+                 GlobalSettings().applicationDataPath());
+        auto *ok = child<QPushButton>(dialog, "okButton");
+        QTimer::singleShot(0, ok, &QPushButton::click);
+        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    }
+
+    void appliesUnitsAtOnce()
+    {
+        GlobalSettings().setImperialUnits(false);
+        PreferencesDialog dialog(nullptr);
+        bool seen = false;
+        const auto connection =
+            connect(HooplineApplication::instance(), &HooplineApplication::syncGlobalSettings,
+                    [&seen] { seen = GlobalSettings().imperialUnits(); });
+        child<QCheckBox>(dialog, "useImperialUnits")->click();
+        disconnect(connection);
+        QVERIFY(seen);
+    }
+
+    void appliesUpdateChoices()
+    {
+        PreferencesDialog dialog(nullptr);
+        auto *automatic = child<QCheckBox>(dialog, "autoUpdatesCheckBox");
+        auto *beta = child<QCheckBox>(dialog, "includeBetaUpdatesCheckBox");
+        for (int i = 0; i < 2; ++i) {
+            automatic->click();
+            QCOMPARE(theAutoUpdater()->autoUpdatesEnabled(), automatic->isChecked());
+            beta->click();
+            QCOMPARE(theAutoUpdater()->betaUpdatesEnabled(), beta->isChecked());
+        }
+    }
+
+    void appliesTracking()
+    {
+        PreferencesDialog dialog(nullptr);
+        auto *statistics = child<QCheckBox>(dialog, "sendStatisticsCheckBox");
+        QVERIFY(!statistics->isChecked());
+        statistics->click();
+        QVERIFY(!Metrics::instance()->doNotTrack());
+        QVERIFY(GSettings().sendStatisticsEnabled());
+        statistics->click();
+        QVERIFY(Metrics::instance()->doNotTrack());
+    }
+
+    void showsTheRealIdentifier()
+    {
+        PreferencesDialog dialog(nullptr);
+        const auto *label = child<QLabel>(dialog, "trackingDescriptionLabel");
+        const QString identifier = GSettings().statisticsUUID();
+        QCOMPARE(identifier.size(), 32);
+        QVERIFY(
+            label->text().contains(QStringLiteral("Random user indentifier (%1)").arg(identifier)));
+        QVERIFY(label->text().contains(
+            QStringLiteral("href=\"%1\"").arg(QLatin1String(BuildConfig::PrivacyUrl))));
+    }
+
+    void textIsNotClipped()
+    {
+        PreferencesDialog dialog(nullptr);
+        child<QTabWidget>(dialog, "tabWidget")->setCurrentIndex(1);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        const auto *label = child<QLabel>(dialog, "trackingDescriptionLabel");
+        QVERIFY(label->height() >= label->heightForWidth(label->width()));
+    }
+
+    void forgetsAbsentDesigns_data()
+    {
+        const Rows<int, int> row("button", "left");
+
+        row("no", int(QMessageBox::No), 1);
+        row("yes", int(QMessageBox::Yes), 0);
+    }
+
+    void forgetsAbsentDesigns()
+    {
+        QFETCH(int, button);
+        QFETCH(int, left);
+        const QTemporaryDir folder;
+        const auto project = QSharedPointer<Project>::create();
+        const auto file = QSharedPointer<File>::create(project.data());
+        file->setAbsoluteFilePath("/designs/rose.dst");
+        file->setContentHash(QByteArray(16, 'h'));
+        file->setNotes("years of evenings");
+        project->setFiles({file});
+        UserDataMemory memory(project, folder.filePath("user-data.sqlite"));
+        memory.adopt(std::async(std::launch::deferred, [] { return QByteArray("hash"); }).share());
+        project->setFiles({});
+
+        PreferencesDialog dialog(nullptr, &memory);
+        auto *forget = child<QPushButton>(dialog, "forgetAbsentDesigns");
+        const auto *label = child<QLabel>(dialog, "absentDesignsLabel");
+        QVERIFY2(label->text().contains(QLatin1Char('1')), qPrintable(label->text()));
+        MessageBoxes boxes{QMessageBox::StandardButton(button)};
+        forget->click();
+        QCOMPARE(boxes.count(), 1);
+        QCOMPARE(memory.absentDesigns(), left);
+        QCOMPARE(forget->isEnabled(), left > 0);
+        QCOMPARE(label->text().contains(QLatin1Char('1')), left > 0);
+    }
 
 private:
     template <typename T>
@@ -41,115 +136,6 @@ private:
     }
 };
 
-void tst_preferences::showsWhatIsStored()
-{
-    GlobalSettings().setImperialUnits(true);
-    GSettings().setAutoUpdatesEnabled(false);
-    PreferencesDialog dialog(nullptr);
-    QVERIFY(child<QCheckBox>(dialog, "useImperialUnits")->isChecked());
-    QVERIFY(!child<QCheckBox>(dialog, "autoUpdatesCheckBox")->isChecked());
-    QCOMPARE(child<QLineEdit>(dialog, "appDataDirectory")->text(),
-             GlobalSettings().applicationDataPath());
-    auto *ok = child<QPushButton>(dialog, "okButton");
-    QTimer::singleShot(0, ok, &QPushButton::click);
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-}
-
-void tst_preferences::appliesUnitsAtOnce()
-{
-    GlobalSettings().setImperialUnits(false);
-    PreferencesDialog dialog(nullptr);
-    bool seen = false;
-    const auto connection =
-        connect(HooplineApplication::instance(), &HooplineApplication::syncGlobalSettings,
-                [&seen] { seen = GlobalSettings().imperialUnits(); });
-    child<QCheckBox>(dialog, "useImperialUnits")->click();
-    disconnect(connection);
-    QVERIFY(seen);
-}
-
-void tst_preferences::appliesUpdateChoices()
-{
-    PreferencesDialog dialog(nullptr);
-    auto *automatic = child<QCheckBox>(dialog, "autoUpdatesCheckBox");
-    auto *beta = child<QCheckBox>(dialog, "includeBetaUpdatesCheckBox");
-    for (int i = 0; i < 2; ++i) {
-        automatic->click();
-        QCOMPARE(theAutoUpdater()->autoUpdatesEnabled(), automatic->isChecked());
-        beta->click();
-        QCOMPARE(theAutoUpdater()->betaUpdatesEnabled(), beta->isChecked());
-    }
-}
-
-void tst_preferences::appliesTracking()
-{
-    PreferencesDialog dialog(nullptr);
-    auto *statistics = child<QCheckBox>(dialog, "sendStatisticsCheckBox");
-    QVERIFY(!statistics->isChecked());
-    statistics->click();
-    QVERIFY(!Metrics::instance()->doNotTrack());
-    QVERIFY(GSettings().sendStatisticsEnabled());
-    statistics->click();
-    QVERIFY(Metrics::instance()->doNotTrack());
-}
-
-void tst_preferences::showsTheRealIdentifier()
-{
-    PreferencesDialog dialog(nullptr);
-    const auto *label = child<QLabel>(dialog, "trackingDescriptionLabel");
-    const QString identifier = GSettings().statisticsUUID();
-    QCOMPARE(identifier.size(), 32);
-    QVERIFY(label->text().contains(QStringLiteral("Random user indentifier (%1)").arg(identifier)));
-    QVERIFY(label->text().contains(
-        QStringLiteral("href=\"%1\"").arg(QLatin1String(BuildConfig::PrivacyUrl))));
-}
-
-void tst_preferences::forgetsAbsentDesigns_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::addColumn<int>("left");
-
-    QTest::newRow("no") << int(QMessageBox::No) << 1;
-    QTest::newRow("yes") << int(QMessageBox::Yes) << 0;
-}
-
-void tst_preferences::forgetsAbsentDesigns()
-{
-    QFETCH(int, button);
-    QFETCH(int, left);
-    const QTemporaryDir folder;
-    const auto project = QSharedPointer<Project>::create();
-    const auto file = QSharedPointer<File>::create(project.data());
-    file->setAbsoluteFilePath(QStringLiteral("/designs/rose.dst"));
-    file->setContentHash(QByteArray(16, 'h'));
-    file->setNotes(QStringLiteral("years of evenings"));
-    project->setFiles({file});
-    UserDataMemory memory(project, folder.filePath(QStringLiteral("user-data.sqlite")));
-    memory.adopt(std::async(std::launch::deferred, [] { return QByteArray("hash"); }).share());
-    project->setFiles({});
-
-    PreferencesDialog dialog(nullptr, &memory);
-    auto *forget = child<QPushButton>(dialog, "forgetAbsentDesigns");
-    const auto *label = child<QLabel>(dialog, "absentDesignsLabel");
-    QVERIFY2(label->text().contains(QLatin1Char('1')), qPrintable(label->text()));
-    MessageBoxes boxes{QMessageBox::StandardButton(button)};
-    forget->click();
-    QCOMPARE(boxes.count(), 1);
-    QCOMPARE(memory.absentDesigns(), left);
-    QCOMPARE(forget->isEnabled(), left > 0);
-    QCOMPARE(label->text().contains(QLatin1Char('1')), left > 0);
-}
-
-void tst_preferences::textIsNotClipped()
-{
-    PreferencesDialog dialog(nullptr);
-    child<QTabWidget>(dialog, "tabWidget")->setCurrentIndex(1);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const auto *label = child<QLabel>(dialog, "trackingDescriptionLabel");
-    QVERIFY(label->height() >= label->heightForWidth(label->width()));
-}
-
 int main(int argc, char **argv)
 {
     HooplineApplication::setWindowFactory([] { return new TestWindow; });
@@ -157,8 +143,8 @@ int main(int argc, char **argv)
     GSettings().flushSettings({});
     GSettings().setAutoUpdatesEnabled(false);
     GSettings().setCrashLoggerLastCheck(QDateTime::currentDateTime());
-    Metrics::setEndpoint(QUrl(QStringLiteral("http://127.0.0.1:9")));
-    Metrics::createInstance(QStringLiteral("40817263"));
+    Metrics::setEndpoint(QUrl("http://127.0.0.1:9"));
+    Metrics::createInstance("40817263");
     tst_preferences test;
     const int result = QTest::qExec(&test, argc, argv);
     Metrics::deleteInstance();

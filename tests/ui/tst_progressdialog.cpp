@@ -1,9 +1,8 @@
+#include "support/Rows.h"
 #include "ui/ProgressDialog.h"
 
-#include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -29,102 +28,96 @@ class tst_progressdialog : public QObject
     Q_OBJECT
 
 private slots:
-    void showsProgress();
-    void pumpsEventsAtMostOnceInAHundredMilliseconds();
-    void comesUpWhenTheWorkLasts();
-    void everyWayOutOnlyAsksForTheEnd_data();
-    void everyWayOutOnlyAsksForTheEnd();
-};
+    void showsProgress()
+    {
+        ProgressDialog dialog(nullptr);
+        const auto *bar = dialog.findChild<QProgressBar *>();
+        const auto *label = dialog.findChild<QLabel *>();
+        QCOMPARE(bar->maximum(), 0);
+        dialog.setSteps(2);
+        dialog.proceed("<b>rose</b>.dst");
+        QCOMPARE(label->text(), "<b>rose</b>.dst");
+        QCOMPARE(bar->value(), 1);
+        dialog.proceed(QString());
+        QCOMPARE(label->text(), "<b>rose</b>.dst");
+        dialog.proceed(QLatin1String(""));
+        QVERIFY(label->text().isEmpty());
+        QCOMPARE(bar->value(), 2);
+        dialog.proceed(QString());
+        QCOMPARE(bar->value(), 2);
+        dialog.setSteps(5);
+        QCOMPARE(bar->value(), 0);
+        QVERIFY(label->text().isEmpty());
+    }
 
-void tst_progressdialog::showsProgress()
-{
-    ProgressDialog dialog(nullptr);
-    const auto *bar = dialog.findChild<QProgressBar *>();
-    const auto *label = dialog.findChild<QLabel *>();
-    QCOMPARE(bar->maximum(), 0);
-    dialog.setSteps(2);
-    dialog.proceed(QStringLiteral("<b>rose</b>.dst"));
-    QCOMPARE(label->text(), QStringLiteral("<b>rose</b>.dst"));
-    QCOMPARE(bar->value(), 1);
-    dialog.proceed(QString());
-    QCOMPARE(label->text(), QStringLiteral("<b>rose</b>.dst"));
-    dialog.proceed(QLatin1String(""));
-    QVERIFY(label->text().isEmpty());
-    QCOMPARE(bar->value(), 2);
-    dialog.proceed(QString());
-    QCOMPARE(bar->value(), 2);
-    dialog.setSteps(5);
-    QCOMPARE(bar->value(), 0);
-    QVERIFY(label->text().isEmpty());
-}
-
-void tst_progressdialog::pumpsEventsAtMostOnceInAHundredMilliseconds()
-{
-    ProgressDialog dialog(nullptr);
-    EventCounter counter;
-    dialog.setSteps(10);
-    QElapsedTimer timer;
-    timer.start();
-    counter.post();
-    dialog.proceed(QString());
-    QCOMPARE(counter.count, 1);
-    counter.post();
-    dialog.proceed(QString());
-    if (timer.elapsed() < 90)
+    void pumpsEventsAtMostOnceInAHundredMilliseconds()
+    {
+        ProgressDialog dialog(nullptr);
+        EventCounter counter;
+        dialog.setSteps(10);
+        QElapsedTimer timer;
+        timer.start();
+        counter.post();
+        dialog.proceed(QString());
         QCOMPARE(counter.count, 1);
-    QTest::qSleep(110);
-    dialog.proceed(QString());
-    QCOMPARE(counter.count, 2);
-}
+        counter.post();
+        dialog.proceed(QString());
+        if (timer.elapsed() < 90)
+            QCOMPARE(counter.count, 1);
+        QTest::qSleep(110);
+        dialog.proceed(QString());
+        QCOMPARE(counter.count, 2);
+    }
 
-void tst_progressdialog::comesUpWhenTheWorkLasts()
-{
-    ProgressDialog dialog(nullptr);
-    dialog.reject();
-    dialog.begin();
-    QCOMPARE(dialog.abortState(), 0);
-    dialog.proceed(QString());
-    QVERIFY(!dialog.isVisible());
-    dialog.hide();
+    void comesUpWhenTheWorkLasts()
+    {
+        ProgressDialog dialog(nullptr);
+        dialog.reject();
+        dialog.begin();
+        QCOMPARE(dialog.abortState(), 0);
+        dialog.proceed(QString());
+        QVERIFY(!dialog.isVisible());
+        dialog.hide();
 
-    dialog.begin();
-    QTest::qSleep(ProgressDialog::Patience + 1);
-    dialog.proceed(QString());
-    QVERIFY(dialog.isVisible());
-    dialog.hide();
-    dialog.proceed(QString());
-    QVERIFY(!dialog.isVisible());
-}
+        dialog.begin();
+        QTest::qSleep(ProgressDialog::Patience + 1);
+        dialog.proceed(QString());
+        QVERIFY(dialog.isVisible());
+        dialog.hide();
+        dialog.proceed(QString());
+        QVERIFY(!dialog.isVisible());
+    }
 
-void tst_progressdialog::everyWayOutOnlyAsksForTheEnd_data()
-{
-    QTest::addColumn<QString>("way");
-    QTest::newRow("button") << "button";
-    QTest::newRow("escape") << "escape";
-    QTest::newRow("close") << "close";
-}
+    void everyWayOutOnlyAsksForTheEnd_data()
+    {
+        const Rows<QString> row("way");
+        row("button", "button");
+        row("escape", "escape");
+        row("close", "close");
+    }
 
-void tst_progressdialog::everyWayOutOnlyAsksForTheEnd()
-{
-    QFETCH(QString, way);
-    ProgressDialog dialog(nullptr);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    if (way == QLatin1String("button"))
-        QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
-    else if (way == QLatin1String("escape"))
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    else
-        dialog.close();
-    QCOMPARE(dialog.abortState(), 2);
-    QVERIFY(dialog.isVisible());
+    void everyWayOutOnlyAsksForTheEnd()
+    {
+        QFETCH(QString, way);
+        ProgressDialog dialog(nullptr);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        if (way == QLatin1String("button"))
+            QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
+        else if (way == QLatin1String("escape"))
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            dialog.close();
+        QCOMPARE(dialog.abortState(), 2);
+        QVERIFY(dialog.isVisible());
 
-    dialog.hide();
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.abortState(), 2);
-    dialog.show();
-    QCOMPARE(dialog.abortState(), 0);
-}
+        dialog.hide();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.abortState(), 2);
+        dialog.show();
+        QCOMPARE(dialog.abortState(), 0);
+    }
+};
 
 QTEST_MAIN(tst_progressdialog)
 #include "tst_progressdialog.moc"

@@ -1,16 +1,12 @@
 #include "PanelFixture.h"
 
 #include "catalogue/models/FilterModel.h"
+#include "support/Rows.h"
 #include "ui/panels/TagListWidget.h"
 #include "ui/panels/TagsBox.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QScrollBar>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -47,13 +43,93 @@ class tst_tagsbox : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void refusedRenameKeepsTheChoice_data();
-    void refusedRenameKeepsTheChoice();
-    void menuLeavesTheChoice_data();
-    void menuLeavesTheChoice();
-    void newTagLeavesTheListWhereItIs();
+    void init()
+    {
+        m_project = projectOfSize(2);
+        m_project->setAllTags({"aster", "rose", "tulip"});
+        m_filter = std::make_unique<FilterModel>(m_project);
+        m_box = std::make_unique<TagsBox>(nullptr, m_project, m_filter.get());
+        m_list = m_box->findChild<TagListWidget *>();
+        m_box->resize(200, 300);
+        m_box->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_box.get()));
+    }
+
+    void cleanup() { m_box.reset(); }
+
+    void refusedRenameKeepsTheChoice_data()
+    {
+        const Rows<QString, QString> row("name", "told");
+        row("another tag's", "rose", "Tag with this name already exists!");
+        row("empty", " ", "Empty tag name not allowed!");
+    }
+
+    // The next Delete would hit another tag.
+    void refusedRenameKeepsTheChoice()
+    {
+        QFETCH(QString, name);
+        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {}, placeOf(3));
+        QSignalSpy chosen(m_filter.get(), &IFilterModel::tagFilterChanged);
+        QTest::keyClick(m_list, Qt::Key_F2);
+        Hand hand;
+        type(name);
+        QTRY_COMPARE(hand.texts.size(), 1);
+        QTEST(hand.texts.first(), "told");
+        QTRY_VERIFY(!editor());
+        QCOMPARE(m_list->selectedTag(), "tulip");
+        QCOMPARE(chosen.count(), 0);
+        QTest::keyClick(m_list, Qt::Key_Delete);
+        QCOMPARE(m_project->allTags(), QStringList({"aster", "rose"}));
+    }
+
+    void menuLeavesTheChoice_data()
+    {
+        const Rows<int, int, QString, QStringList> row("chosenRow", "entry", "filter", "tags");
+        const QString tulip = "tulip";
+        const QStringList fewer{"aster", tulip};
+        const QStringList renamed{"aster", "peony", tulip};
+        row("remove another", 3, 0, tulip, fewer);
+        row("rename another", 3, 1, tulip, renamed);
+        row("remove with none chosen", 0, 0, {}, fewer);
+        row("rename with none chosen", 0, 1, {}, renamed);
+        row("remove the chosen", 2, 0, {}, fewer);
+        row("rename the chosen", 2, 1, "peony", renamed);
+    }
+
+    void menuLeavesTheChoice()
+    {
+        QFETCH(int, chosenRow);
+        QFETCH(int, entry);
+        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {}, placeOf(chosenRow));
+        const QString before = m_filter->tagFilter();
+        const QPoint place = placeOf(2);
+        QTest::mouseClick(m_list->viewport(), Qt::RightButton, {}, place);
+        QCOMPARE(m_filter->tagFilter(), before);
+        Hand hand(entry);
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, place,
+                               m_list->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(m_list->viewport(), &menu);
+        if (entry == 1)
+            type("peony");
+        QTRY_VERIFY(!editor());
+        QTEST(m_project->allTags(), "tags");
+        QTEST(m_filter->tagFilter(), "filter");
+        QTEST(m_list->selectedTag(), "filter");
+        // The next command is about the chosen tag again.
+        QCOMPARE(m_list->commandTag(), m_list->selectedTag());
+    }
+
+    void newTagLeavesTheListWhereItIs()
+    {
+        for (int i = 0; i < 60; ++i)
+            m_project->addTag(QStringLiteral("tag %1").arg(i));
+        QScrollBar *bar = m_list->verticalScrollBar();
+        QTRY_VERIFY(bar->maximum() > 0);
+        bar->setValue(bar->maximum() / 2);
+        const int before = bar->value();
+        m_project->addTag("zinnia");
+        QCOMPARE(bar->value(), before);
+    }
 
 private:
     QLineEdit *editor() const { return m_list->findChild<QLineEdit *>(); }
@@ -61,113 +137,19 @@ private:
     {
         return m_list->visualRect(m_list->model()->index(row, 0)).center();
     }
-    void type(const QString &text);
+
+    void type(const QString &text)
+    {
+        editor()->selectAll();
+        QTest::keyClicks(editor(), text);
+        QTest::keyClick(editor(), Qt::Key_Return);
+    }
 
     QSharedPointer<Project> m_project;
     std::unique_ptr<FilterModel> m_filter;
     std::unique_ptr<TagsBox> m_box;
     TagListWidget *m_list = nullptr;
 };
-
-void tst_tagsbox::init()
-{
-    m_project = projectOfSize(2);
-    m_project->setAllTags(
-        {QStringLiteral("aster"), QStringLiteral("rose"), QStringLiteral("tulip")});
-    m_filter = std::make_unique<FilterModel>(m_project);
-    m_box = std::make_unique<TagsBox>(nullptr, m_project, m_filter.get());
-    m_list = m_box->findChild<TagListWidget *>();
-    m_box->resize(200, 300);
-    m_box->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_box.get()));
-}
-
-void tst_tagsbox::cleanup()
-{
-    m_box.reset();
-}
-
-void tst_tagsbox::type(const QString &text)
-{
-    editor()->selectAll();
-    QTest::keyClicks(editor(), text);
-    QTest::keyClick(editor(), Qt::Key_Return);
-}
-
-void tst_tagsbox::refusedRenameKeepsTheChoice_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("another tag's") << "rose";
-    QTest::newRow("empty") << " ";
-}
-
-// The next Delete would hit another tag.
-void tst_tagsbox::refusedRenameKeepsTheChoice()
-{
-    QFETCH(QString, name);
-    QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {}, placeOf(3));
-    QSignalSpy chosen(m_filter.get(), &IFilterModel::tagFilterChanged);
-    QTest::keyClick(m_list, Qt::Key_F2);
-    Hand hand;
-    type(name);
-    QTRY_COMPARE(hand.texts.size(), 1);
-    QTRY_VERIFY(!editor());
-    QCOMPARE(m_list->selectedTag(), QStringLiteral("tulip"));
-    QCOMPARE(chosen.count(), 0);
-    QTest::keyClick(m_list, Qt::Key_Delete);
-    QCOMPARE(m_project->allTags(), QStringList({QStringLiteral("aster"), QStringLiteral("rose")}));
-}
-
-void tst_tagsbox::menuLeavesTheChoice_data()
-{
-    QTest::addColumn<int>("chosenRow");
-    QTest::addColumn<int>("entry");
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QStringList>("tags");
-    const QString tulip = QStringLiteral("tulip");
-    const QStringList fewer{QStringLiteral("aster"), tulip};
-    const QStringList renamed{QStringLiteral("aster"), QStringLiteral("peony"), tulip};
-    QTest::newRow("remove another") << 3 << 0 << tulip << fewer;
-    QTest::newRow("rename another") << 3 << 1 << tulip << renamed;
-    QTest::newRow("remove with none chosen") << 0 << 0 << QString() << fewer;
-    QTest::newRow("rename with none chosen") << 0 << 1 << QString() << renamed;
-    QTest::newRow("remove the chosen") << 2 << 0 << QString() << fewer;
-    QTest::newRow("rename the chosen") << 2 << 1 << QStringLiteral("peony") << renamed;
-}
-
-void tst_tagsbox::menuLeavesTheChoice()
-{
-    QFETCH(int, chosenRow);
-    QFETCH(int, entry);
-    QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {}, placeOf(chosenRow));
-    const QString before = m_filter->tagFilter();
-    const QPoint place = placeOf(2);
-    QTest::mouseClick(m_list->viewport(), Qt::RightButton, {}, place);
-    QCOMPARE(m_filter->tagFilter(), before);
-    Hand hand(entry);
-    QContextMenuEvent menu(QContextMenuEvent::Mouse, place, m_list->viewport()->mapToGlobal(place));
-    QCoreApplication::sendEvent(m_list->viewport(), &menu);
-    if (entry == 1)
-        type(QStringLiteral("peony"));
-    QTRY_VERIFY(!editor());
-    QTEST(m_project->allTags(), "tags");
-    QTEST(m_filter->tagFilter(), "filter");
-    QTEST(m_list->selectedTag(), "filter");
-    // The next command is about the chosen tag again.
-    QCOMPARE(m_list->commandTag(), m_list->selectedTag());
-}
-
-void tst_tagsbox::newTagLeavesTheListWhereItIs()
-{
-    for (int i = 0; i < 60; ++i)
-        m_project->addTag(QStringLiteral("tag %1").arg(i));
-    QScrollBar *bar = m_list->verticalScrollBar();
-    QTRY_VERIFY(bar->maximum() > 0);
-    bar->setValue(bar->maximum() / 2);
-    const int before = bar->value();
-    m_project->addTag(QStringLiteral("zinnia"));
-    QCOMPARE(bar->value(), before);
-}
 
 QTEST_MAIN(tst_tagsbox)
 #include "tst_tagsbox.moc"
