@@ -31,7 +31,7 @@ static QStringList pathsOf(const Files &files)
     return paths;
 }
 
-/** Presses on a card and moves by `distance` pixels; the button stays down. */
+/** Presses on a card and moves by @p distance pixels; the button stays down. */
 static void pull(const GridFixture &grid, int card, int distance,
                  Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
