@@ -2,7 +2,6 @@
 
 #include "ui/NoticeRow.h"
 
-#include <QAccessible>
 #include <QVBoxLayout>
 
 NoticeBar::NoticeBar(QWidget *parent) : QWidget(parent), m_layout(new QVBoxLayout(this))
@@ -26,8 +25,6 @@ void NoticeBar::tell(const Notice &notice)
     m_layout->addWidget(row);
     row->show();
     show();
-    QAccessibleEvent alert(row, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 void NoticeBar::withdraw(const QString &id)

@@ -1,5 +1,6 @@
 #include "ui/NoticeRow.h"
 
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
 
@@ -29,6 +30,8 @@ NoticeRow::NoticeRow(const Notice &notice, QWidget *parent)
     : QFrame(parent), m_id(notice.id), m_kind(notice.kind), m_icon(new QLabel(this)),
       m_text(new QLabel(notice.text, this)), m_buttons(new QHBoxLayout)
 {
+    // Which is read out as soon as it is shown.
+    ScreenReader::setRole(this, QAccessible::Notification);
     setObjectName(QStringLiteral("notice"));
     setAccessibleName(notice.text);
     m_text->setTextFormat(Qt::PlainText);

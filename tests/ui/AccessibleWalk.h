@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QStringList>
 #include <QTabBar>
+#include <QTextDocument>
 #include <QTextEdit>
 
 /** Collects what a user of a screen reader would miss in a window that is being shown. */
@@ -40,6 +41,16 @@ private:
         const QString step = widget ? QString::fromLatin1(widget->metaObject()->className())
                                     : roleName(node->role());
         const QString here = QStringLiteral("%1/%2").arg(path, step);
+        if (Qt::mightBeRichText(node->text(QAccessible::Description)))
+            m_faults.append(here + QStringLiteral(": raw markup in the description"));
+        const bool isOpened = node->role() == QAccessible::Window ||
+                              node->role() == QAccessible::Dialog ||
+                              node->role() == QAccessible::AlertMessage;
+        if (widget && widget->isWindow() && !isOpened)
+            m_faults.append(here + QStringLiteral(": is no window"));
+        // What Qt says of a QFrame of which nobody has said what it is.
+        if (node->role() == QAccessible::Border)
+            m_faults.append(here + QStringLiteral(": is a mere frame"));
         if (isControl(node, widget))
             check(node, widget, here);
         for (int i = 0; i < node->childCount(); ++i) {

@@ -3,9 +3,9 @@
 #include "preview/drawing/HoopOutline.h"
 #include "ui/design/DesignRenderer.h"
 #include "ui/design/ScreenScale.h"
+#include "widgets/controls/ScreenReader.h"
 
 #include <cmath>
-#include <QAccessibleWidget>
 #include <QGestureEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -28,22 +28,16 @@ constexpr int PictureMargin = 128;
 constexpr double NeedleRadius = 5.0;
 constexpr int MessageMargin = 40;
 
-// By itself Qt tells of no picture where a widget paints one.
-QAccessibleInterface *createAccessible(const QString &, QObject *object)
-{
-    auto *view = qobject_cast<DesignView *>(object);
-    return view ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
-}
-
 } // namespace
 
 DesignView::DesignView(QWidget *parent)
     : QWidget(parent), m_renderer(new DesignRenderer(this)), m_message(new QLabel(this))
 {
+    // By itself Qt tells of no picture where a widget paints one.
+    ScreenReader::setRole(this, QAccessible::Graphic);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(200, 150);
     setCursor(Qt::OpenHandCursor);
-    QAccessible::installFactory(createAccessible);
     setAccessibleName(tr("Design"));
     grabGesture(Qt::PinchGesture);
     m_message->setAlignment(Qt::AlignCenter);

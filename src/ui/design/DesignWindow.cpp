@@ -13,6 +13,7 @@
 #include "ui/design/PlaybackBar.h"
 #include "ui/design/SewingSlider.h"
 #include "ui/design/ThreadTable.h"
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/style/GWidgetStyles.h"
 
 #include <algorithm>
@@ -40,6 +41,8 @@ DesignWindow::DesignWindow(IFilterModel *filter)
       m_toolBar(new DesignToolBar(m_view, this)), m_facts(new DesignFactsPanel(this)),
       m_playbackBar(new PlaybackBar(m_playback, this))
 {
+    // Screen readers are told of windows only where Qt takes a widget for one.
+    ScreenReader::setRole(this, QAccessible::Window);
     createLayout();
     connectParts();
     applyAppearance();

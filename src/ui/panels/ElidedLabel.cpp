@@ -1,5 +1,6 @@
 #include "ui/panels/ElidedLabel.h"
 
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/style/WidgetHelper.h"
 
 #include <QPainter>
@@ -14,6 +15,7 @@ constexpr int LeastChars = 3;
 ElidedLabel::ElidedLabel(const QString &text, QWidget *parent, Qt::TextElideMode elideMode)
     : QFrame(parent), m_elideMode(elideMode)
 {
+    ScreenReader::setRole(this, QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setText(text);
 }
@@ -21,9 +23,20 @@ ElidedLabel::ElidedLabel(const QString &text, QWidget *parent, Qt::TextElideMode
 void ElidedLabel::setText(const QString &text)
 {
     m_content = text;
-    setAccessibleName(text);
+    updateAccessibleName();
     updateGeometry();
     update();
+}
+
+void ElidedLabel::setCaption(const QString &caption)
+{
+    m_caption = caption;
+    updateAccessibleName();
+}
+
+void ElidedLabel::updateAccessibleName()
+{
+    setAccessibleName(m_caption.isEmpty() ? m_content : m_caption + QLatin1Char(' ') + m_content);
 }
 
 QString ElidedLabel::wrapText(const QString &text, int width)

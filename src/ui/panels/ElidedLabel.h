@@ -17,6 +17,9 @@ public:
     QString text() const { return m_content; }
     void setText(const QString &text);
 
+    /** What stands beside the text; a screen reader, which goes from text to text, reads both. */
+    void setCaption(const QString &caption);
+
     /** Whether the text was too wide when it was last painted. */
     bool isElided() const { return m_elided; }
 
@@ -36,8 +39,10 @@ private:
     QSize frameExtent() const;
     QString displayText() const;
     void setElided(bool elided);
+    void updateAccessibleName();
 
     bool m_elided = false;
     QString m_content;
+    QString m_caption;
     Qt::TextElideMode m_elideMode;
 };

@@ -71,6 +71,7 @@ void FilterBar::initWidgets()
         box->setInsertPolicy(QComboBox::NoInsert);
         // Some assistive technologies take the chosen text for the name of a box.
         box->setAccessibleDescription(box->accessibleName());
+        box->lineEdit()->setAccessibleName(box->accessibleName());
     }
     m_ui->searchTextLineEdit->installEventFilter(this);
 }

@@ -104,6 +104,8 @@ void PropertiesBox::addSimpleProperties()
 QLabel *PropertiesBox::addSimpleProperty(const QString &text, ElidedLabel *value)
 {
     QLabel *caption = createCaption(text);
+    caption->setBuddy(value);
+    value->setCaption(caption->text());
     const int row = m_rows++;
     m_grid->addWidget(caption, row, 0);
     m_grid->addWidget(value, row, 1);
@@ -168,6 +170,7 @@ void PropertiesBox::placeFileName()
     // How many are selected is no file name, and needs the room.
     const bool isName = m_files.count() == 1;
     m_fileNameCaption->setVisible(isName);
+    m_fileNameValue->setCaption(isName ? m_fileNameCaption->text() : QString());
     m_grid->addWidget(m_fileNameValue, FileNameRow, isName ? 1 : 0, 1, isName ? 1 : 2);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/panels/SearchCompleter.h"
 
 #include "catalogue/query/QueryLexer.h"
+#include "widgets/controls/ScreenReader.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -39,6 +40,9 @@ SearchCompleter::SearchCompleter(QLineEdit *field, const std::function<QStringLi
     connect(field, &QLineEdit::textEdited, this, &SearchCompleter::narrowCandidates);
     connect(this, QOverload<const QString &>::of(&QCompleter::activated), this,
             &SearchCompleter::choose);
+    // The keyboard stays in the field, where nothing tells what the list has come to.
+    connect(this, QOverload<const QString &>::of(&QCompleter::highlighted), this,
+            [this](const QString &shown) { ScreenReader::say(m_field->window(), shown); });
 }
 
 bool SearchCompleter::eventFilter(QObject *watched, QEvent *event)

@@ -1,8 +1,8 @@
 #include "ui/panels/SearchMessage.h"
 
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/style/WidgetHelper.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QLineEdit>
 
@@ -31,12 +31,9 @@ void SearchMessage::setRemark(const std::optional<QueryRemark> &remark, QLineEdi
     updateColor();
     if (!changed)
         return;
-    // Some assistive technologies tell of alerts, some of a new description of what has the focus.
     field->setAccessibleDescription(message);
-    if (remark) {
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    if (remark)
+        ScreenReader::say(window(), message);
 }
 
 void SearchMessage::setTextIndent(int indent)

@@ -1,5 +1,6 @@
 #include "ui/panels/TagCompleter.h"
 
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/controls/WidePopup.h"
 
 #include <QComboBox>
@@ -15,6 +16,8 @@ TagCompleter::TagCompleter(QComboBox *box)
     setModel(m_matches);
     setCaseSensitivity(Qt::CaseSensitive);
     setCompletionMode(QCompleter::PopupCompletion);
+    connect(this, QOverload<const QString &>::of(&QCompleter::highlighted), this,
+            [box](const QString &tag) { ScreenReader::say(box->window(), tag); });
 }
 
 QStringList TagCompleter::splitPath(const QString &path) const

@@ -1,9 +1,9 @@
 #include "ui/print/SheetPreview.h"
 
 #include "ui/print/SheetPages.h"
+#include "widgets/controls/ScreenReader.h"
 
 #include <cmath>
-#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -16,19 +16,13 @@ constexpr QSize UsualSize(540, 680);
 constexpr int Margin = 16; // pixels
 constexpr int WheelStep = 120;
 
-// By itself Qt tells of no picture where a widget paints one.
-QAccessibleInterface *createAccessible(const QString &, QObject *object)
-{
-    auto *preview = qobject_cast<SheetPreview *>(object);
-    return preview ? new QAccessibleWidget(preview, QAccessible::Graphic) : nullptr;
-}
-
 } // namespace
 
 SheetPreview::SheetPreview(SheetPages *pages, QWidget *parent) : QWidget(parent), m_pages(pages)
 {
+    // By itself Qt tells of no picture where a widget paints one.
+    ScreenReader::setRole(this, QAccessible::Graphic);
     setFocusPolicy(Qt::StrongFocus);
-    QAccessible::installFactory(createAccessible);
     setAccessibleName(tr("Preview"));
     setMinimumSize(UsualSize / 2);
     connect(pages, &SheetPages::changed, this, &SheetPreview::pageChanged);

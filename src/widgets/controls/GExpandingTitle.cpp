@@ -1,5 +1,7 @@
 #include "widgets/controls/GExpandingTitle.h"
 
+#include "widgets/controls/ScreenReader.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -24,6 +26,7 @@ GExpandingTitle::GExpandingTitle(const QString &title, QWidget *parent)
     : QFrame(parent), m_layout(new QHBoxLayout(this)), m_arrow(createFlatButton(this)),
       m_label(new QLabel(this))
 {
+    ScreenReader::setRole(this, QAccessible::Grouping);
     m_arrow->setCheckable(true);
     m_arrow->setChecked(true);
     connect(m_arrow, &QToolButton::toggled, this, [this](bool expanded) {
