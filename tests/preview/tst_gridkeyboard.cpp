@@ -288,6 +288,19 @@ private slots:
         QVERIFY(!list->child(49)->state().selected && list->child(49)->state().offscreen);
         QCOMPARE(list->childAt(card->rect().center().x(), card->rect().center().y()), card);
 
+        // Nobody has to see a card for it to be read.
+        const int cards = grid.scene->items().size();
+        QCOMPARE(list->child(49)->text(QAccessible::Description), QStringLiteral("100mm x 50mm"));
+        QCOMPARE(grid.scene->items().size(), cards);
+
+        // Qt asks whatever stands at a place that a client names, even where nothing does.
+        QAccessibleTableInterface *table = list->tableInterface();
+        QVERIFY(table->cellAt(50, 0)->tableCellInterface() != nullptr);
+        QVERIFY(!table->cellAt(50, 0)->isValid() && !table->selectRow(50));
+        QVERIFY(table->selectRow(40) && table->unselectRow(3));
+        QCOMPARE(table->selectedRows(), QList<int>{40});
+        QCOMPARE(grid.selected(), grid.range(40, 40));
+
         // Another file at the same place is another item.
         const QAccessible::Id id = QAccessible::uniqueId(card);
         grid.models.filter()->setFileType("pes");

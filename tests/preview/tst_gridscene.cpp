@@ -1,5 +1,6 @@
 #include "catalogue/records/Thread.h"
 #include "preview/cache/PreviewCache.h"
+#include "preview/grid/CardTexts.h"
 #include "preview/grid/GridEmbroideryItem.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
@@ -236,12 +237,12 @@ private slots:
         file->setFavorite(true);
         const QImage unread = sheet.picture();
         QCOMPARE(loads.count(), 0);
-        QCOMPARE(sheet.card(0)->description(), "Not read yet, favorite");
+        QCOMPARE(CardTexts::description(*file), "Not read yet, favorite");
         // Looked into, but damaged.
         file->setModificationDate(1);
         QVERIFY(sheet.picture() != unread);
         QCOMPARE(loads.count(), 1);
-        QCOMPARE(sheet.card(0)->description(), "favorite");
+        QCOMPARE(CardTexts::description(*file), "favorite");
     }
 
     void groundShowsTheThreads_data()

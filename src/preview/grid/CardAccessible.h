@@ -5,14 +5,18 @@
 #include <QPointer>
 #include <QSharedPointer>
 
-class GridEmbroideryItem;
 class GridGraphicsView;
 
-/** The card that shows a file at a place of the sheet, as assistive technologies see it. */
-class CardAccessible : public QAccessibleInterface
+/**
+ * The card that shows a file at a place of the sheet, as assistive technologies see it:
+ * it is made without the card itself, which is there only while it is seen.
+ */
+class CardAccessible : public QAccessibleInterface,
+                       public QAccessibleTableCellInterface,
+                       public QAccessibleActionInterface
 {
 public:
-    /** For the card that stands at @p index now; @p view has so many cards. */
+    /** For the card that stands at @p index now; never valid where none stands. */
     CardAccessible(GridGraphicsView *view, int index);
 
     int index() const { return m_index; }
@@ -31,10 +35,28 @@ public:
     QRect rect() const override;
     QAccessible::Role role() const override { return QAccessible::ListItem; }
     QAccessible::State state() const override;
+    void *interface_cast(QAccessible::InterfaceType type) override;
+
+    bool isSelected() const override;
+    QList<QAccessibleInterface *> columnHeaderCells() const override { return {}; }
+    QList<QAccessibleInterface *> rowHeaderCells() const override { return {}; }
+    int columnIndex() const override { return 0; }
+    int rowIndex() const override { return m_index; }
+    int columnExtent() const override { return 1; }
+    int rowExtent() const override { return 1; }
+    QAccessibleInterface *table() const override { return parent(); }
+
+    /** What a click does comes first; toggling selects the card beside others. */
+    QStringList actionNames() const override;
+    QString localizedActionName(const QString &name) const override;
+    QString localizedActionDescription(const QString &name) const override;
+    void doAction(const QString &name) override;
+    QStringList keyBindingsForAction(const QString &name) const override;
+
+    static const QString &openAction();
+    static const QString &favoriteAction();
 
 private:
-    GridEmbroideryItem *card() const;
-
     QPointer<GridGraphicsView> m_view;
     int m_index;
     QSharedPointer<IFile> m_file;

@@ -2,6 +2,7 @@
 
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "preview/cache/PreviewCache.h"
+#include "preview/grid/CardTexts.h"
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PictureGround.h"
@@ -10,7 +11,6 @@
 #include "widgets/controls/DesktopInteraction.h"
 #include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
-#include <QFileInfo>
 #include <QFont>
 #include <QFontMetrics>
 #include <QGraphicsSceneEvent>
@@ -52,18 +52,6 @@ int lineSpacing()
     return spacing;
 }
 
-// A file name may hold line breaks and tabs; a label has one line.
-QString singleLine(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
-            c.category() == QChar::Separator_Paragraph) {
-            c = QLatin1Char(' ');
-        }
-    }
-    return text;
-}
-
 } // namespace
 
 GridEmbroideryItem::GridEmbroideryItem(const QSharedPointer<IFile> &file, GridPreviewScene *scene,
@@ -86,7 +74,6 @@ GridEmbroideryItem::~GridEmbroideryItem() = default;
 
 void GridEmbroideryItem::refreshLabels(bool imperial)
 {
-    m_path = m_file->absoluteFilePath();
     m_designSize = m_file->designSize();
     m_labelsImperial = imperial;
     layoutItem(m_layout, m_viewScaleFactor);
@@ -115,26 +102,6 @@ void GridEmbroideryItem::layoutItem(const ItemLayout *layout, double s)
     setRect(QRectF(QPointF(), sizeAt(s)));
 }
 
-QString GridEmbroideryItem::fullName() const
-{
-    return singleLine(QFileInfo(m_path).fileName());
-}
-
-QString GridEmbroideryItem::description() const
-{
-    const QString size = LocaleAwareFunctions::toString(m_file->designSize(), m_labelsImperial);
-    QStringList parts;
-    if (UnreadDesign::is(*m_file)) {
-        parts.append(UnreadDesign::text());
-    } else if (!size.isEmpty()) {
-        parts.append(size);
-    }
-    if (m_file->isFavorite()) {
-        parts.append(tr("favorite"));
-    }
-    return parts.join(QStringLiteral(", "));
-}
-
 void GridEmbroideryItem::clearLabels()
 {
     if (!toolTip().isEmpty()) {
@@ -146,7 +113,7 @@ void GridEmbroideryItem::clearLabels()
 
 void GridEmbroideryItem::fillLabels()
 {
-    const QString name = fullName();
+    const QString name = CardTexts::name(*m_file);
     m_nameLabel = QFontMetrics(QFont()).elidedText(name, Qt::ElideRight, qMax(0, m_maxLabelWidth));
     if (m_nameLabel != name) {
         setToolTip(WidgetHelper::toolTipText(name));

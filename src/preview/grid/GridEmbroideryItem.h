@@ -46,11 +46,6 @@ public:
     /** The size of every card, in scene units, where so many pixels are one. */
     static QSizeF sizeAt(double scale);
 
-    /** The name of the file, on one line. */
-    QString fullName() const;
-    /** In words what the card shows beside the name: the size, whether it is a favourite. */
-    QString description() const;
-
     /** Reads name and size of the file anew. */
     void refreshLabels(bool imperial);
 
@@ -80,8 +75,7 @@ private:
 
     QSharedPointer<IFile> m_file;
     GridPreviewScene *m_scene;
-    // What the labels tell, as of the last refresh.
-    QString m_path;
+    // What the label tells, as of the last refresh.
     QSizeF m_designSize;
     bool m_labelsImperial = false;
     // As given at construction; a change of the file falls back to it.

@@ -54,8 +54,9 @@ void GridGraphicsView::setScene(GridPreviewScene *scene)
 {
     m_gridScene = scene;
     EditorGraphicsView::setScene(scene);
-    connect(scene, &GridPreviewScene::currentChanged, this,
-            [this](int index) { announce(QAccessible::Focus, index); });
+    connect(scene, &GridPreviewScene::currentChanged, this, &GridGraphicsView::announceFocus);
+    connect(scene, &GridPreviewScene::filesSelected, this,
+            [this] { announce(QAccessible::Selection); });
 }
 
 void GridGraphicsView::changeEvent(QEvent *event)
@@ -168,7 +169,6 @@ bool GridGraphicsView::handleCardKey(QKeyEvent *event)
     } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) &&
                modifiers == Qt::ControlModifier) {
         m_gridScene->toggleCurrent();
-        announce(QAccessible::Selection, m_gridScene->currentIndex());
     } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && modifiers == Qt::NoModifier) {
         if (!event->isAutoRepeat()) {
             emit openDesign();
@@ -176,7 +176,7 @@ bool GridGraphicsView::handleCardKey(QKeyEvent *event)
     } else if (key == Qt::Key_F && modifiers == Qt::NoModifier) {
         if (!event->isAutoRepeat()) {
             emit toggleFavorites();
-            announce(QAccessible::DescriptionChanged, m_gridScene->currentIndex());
+            announce(QAccessible::DescriptionChanged);
         }
     } else if (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier) {
         openContextMenu();
@@ -234,11 +234,19 @@ QRect GridGraphicsView::screenRectOf(int index) const
     return QRect(viewport()->mapToGlobal(shown.topLeft()), shown.size());
 }
 
-void GridGraphicsView::announce(QAccessible::Event type, int index)
+void GridGraphicsView::announceFocus()
 {
-    if (index >= 0 && hasFocus()) {
+    if (hasFocus()) {
+        announce(QAccessible::Focus);
+    }
+}
+
+void GridGraphicsView::announce(QAccessible::Event type)
+{
+    // Qt makes the card's accessible side also where nobody listens.
+    if (QAccessible::isActive() && m_gridScene->currentIndex() >= 0) {
         QAccessibleEvent event(this, type);
-        event.setChild(index);
+        event.setChild(m_gridScene->currentIndex());
         QAccessible::updateAccessibility(&event);
     }
 }
@@ -257,6 +265,8 @@ void GridGraphicsView::focusInEvent(QFocusEvent *event)
     }
     m_usedByKeys = m_usedByKeys || byKey;
     m_gridScene->setFocusShown(m_usedByKeys);
+    // Qt tells of the view as a whole after this; the card is what is to be read at last.
+    QMetaObject::invokeMethod(this, &GridGraphicsView::announceFocus, Qt::QueuedConnection);
 }
 
 void GridGraphicsView::focusOutEvent(QFocusEvent *event)

@@ -27,6 +27,10 @@ public:
     /** Makes the card the current one and scrolls to it; the selection stays. */
     void goTo(int index);
 
+public slots:
+    /** That of the current card, if any. */
+    void openContextMenu();
+
 signals:
     /** The view shows @p width scene units from left to right. */
     void widthChanged(int width);
@@ -61,11 +65,11 @@ private:
     void moveByKey(int key, GridPreviewScene::Selecting selecting);
     int rowsPerPage() const;
     int firstIndexInView() const;
-    void openContextMenu();
     void dragDesigns();
     bool isOnStar(const QPoint &pos) const;
     void continueRubberBand();
-    void announce(QAccessible::Event type, int index);
+    void announceFocus();
+    void announce(QAccessible::Event type);
 
     GridPreviewScene *m_gridScene = nullptr;
     EdgeScroller *m_edgeScroller;

@@ -46,6 +46,7 @@ public:
     const SheetLayout &sheetLayout() const { return m_layout; }
 
     bool isSelected(int index) const { return m_selected.testBit(index); }
+    int selectedCount() const { return m_selected.count(true); }
     /** Those of the selected cards, in the order of the grid. */
     QList<QSharedPointer<IFile>> selectedFiles() const;
 
