@@ -1,6 +1,8 @@
 #include "ui/panels/TagLabel.h"
 
 #include "ui/panels/ElidedLabel.h"
+#include "ui/panels/TagLabelAccessible.h"
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetHelper.h"
 #include "widgets/style/WidgetStyles.h"
@@ -27,6 +29,7 @@ TagLabel::TagLabel(const QString &text, MultiSelection multiSelect, QWidget *par
       m_removeButton(new QToolButton(this)), m_label(new ElidedLabel(text, this)),
       m_multiSelect(multiSelect)
 {
+    TagLabelAccessible::install();
     m_removeAction->setIcon(GIcon(QStringLiteral(":/icons/small_clear.svg")));
     m_removeButton->setDefaultAction(m_removeAction);
     m_removeButton->setIconSize(QSize(CrossSize, CrossSize));
@@ -63,6 +66,10 @@ void TagLabel::setMultiSelect(MultiSelection multiSelect)
     m_multiSelect = multiSelect;
     updateStyle();
     updateToolTips();
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void TagLabel::changeEvent(QEvent *event)
@@ -89,9 +96,13 @@ void TagLabel::updateStyle()
 void TagLabel::updateToolTips()
 {
     const QString tag = WidgetHelper::breakable(text()).toHtmlEscaped();
-    setToolTip(m_multiSelect == SetOnAll
-                   ? tr("The tag <b>%1</b> is set on all selected files.").arg(tag)
-                   : tr("The tag <b>%1</b> is set on some of the selected files.").arg(tag));
+    const QString place =
+        m_multiSelect == SetOnAll
+            ? tr("The tag <b>%1</b> is set on all selected files.").arg(tag)
+            : tr("The tag <b>%1</b> is set on some of the selected files.").arg(tag);
+    ScreenReader::setRichToolTip(this, place);
     m_removeAction->setToolTip(tr("Remove tag <b>%1</b> from all selected files").arg(tag));
     m_removeButton->setAccessibleName(tr("Remove tag %1").arg(text()));
+    // What the keyboard comes to tells of the chip around it.
+    m_removeButton->setAccessibleDescription(accessibleDescription());
 }

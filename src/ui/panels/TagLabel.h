@@ -28,6 +28,8 @@ public:
 
 signals:
     void removeTag(TagLabel *label);
+    /** A tag of some of the files is to be set on all. */
+    void completeTag(TagLabel *label);
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -6,11 +6,13 @@
 #include "ui/panels/FlowLayout.h"
 #include "ui/panels/TagCompleter.h"
 #include "ui/panels/TagLabel.h"
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/controls/WidePopup.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -33,6 +35,8 @@ TagWidget::TagWidget(const QSharedPointer<Project> &project, QWidget *parent)
       m_comboBox(new QComboBox(m_input)), m_addButton(new QPushButton(tr("Add"), m_input)),
       m_project(project), m_mostChips(ChipsAtOnce)
 {
+    ScreenReader::setRole(this, QAccessible::Grouping);
+    setAccessibleName(tr("Tags"));
     createMoreButton();
     createInput();
     auto *layout = new QVBoxLayout(this);
@@ -61,14 +65,16 @@ void TagWidget::createInput()
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_comboBox->setMinimumContentsLength(LeastComboChars);
     m_comboBox->setAccessibleName(tr("New tag"));
-    m_comboBox->setToolTip(tr("<p>Select an existing tag from the drop down list or enter a new "
-                              "tag. The tag is added to all selected files.</p>"));
+    m_comboBox->lineEdit()->setAccessibleName(m_comboBox->accessibleName());
+    ScreenReader::setRichToolTip(
+        m_comboBox, tr("<p>Select an existing tag from the drop down list or enter a new "
+                       "tag. The tag is added to all selected files.</p>"));
     m_comboBox->installEventFilter(this);
     m_comboBox->view()->window()->installEventFilter(this);
     connect(m_comboBox, &QComboBox::textActivated, this, &TagWidget::addTag);
     connect(m_comboBox, &QComboBox::editTextChanged, this, &TagWidget::updateAddButtonState);
 
-    m_addButton->setToolTip(tr("<p>Add tag to all selected files.</p>"));
+    ScreenReader::setRichToolTip(m_addButton, tr("<p>Add tag to all selected files.</p>"));
     m_addButton->setEnabled(false);
     connect(m_addButton, &QPushButton::clicked, this, &TagWidget::addPressed);
 
@@ -127,14 +133,19 @@ void TagWidget::addTag(const QString &text)
         updateAllTagsListInComboBox();
         return;
     }
+    setOnAll(tag);
+    m_comboBox->clearEditText();
+    m_comboBox->setFocus(Qt::OtherFocusReason);
+    emit ensureVisible();
+}
+
+void TagWidget::setOnAll(const QString &tag)
+{
     changeInBulk(tr("add tag '%1'").arg(tag), [&] {
         addTagToTagLists(tag);
         addTagToAllTagsList(tag);
     });
     refreshProperties();
-    m_comboBox->clearEditText();
-    m_comboBox->setFocus(Qt::OtherFocusReason);
-    emit ensureVisible();
 }
 
 void TagWidget::addPressed()
@@ -270,6 +281,8 @@ TagLabel *TagWidget::createNewTagLabel()
     auto *label = new TagLabel(QString(), TagLabel::SetOnAll, this);
     m_flowLayout->addWidget(label);
     connect(label, &TagLabel::removeTag, this, &TagWidget::removeTag);
+    connect(label, &TagLabel::completeTag, this,
+            [this](TagLabel *chip) { setOnAll(chip->text()); });
     // A new chip is the window's last widget; it belongs behind the one before it,
     // ahead of the button for more.
     QWidget *before = m_addButton;

@@ -61,6 +61,7 @@ private:
     void createMoreButton();
     void createInput();
     void changeInBulk(const QString &text, const std::function<void()> &change);
+    void setOnAll(const QString &tag);
     void addTagToTagLists(const QString &tag);
     void addTagToAllTagsList(const QString &tag);
     void removeTagFromLists(const QString &tag);
