@@ -5,11 +5,13 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"
+#include "widgets/controls/ScreenReader.h"
 
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <utility>
 
 namespace {
 
@@ -104,6 +106,7 @@ void StatusLine::refresh()
 
 void StatusLine::count()
 {
+    announceCounts();
     m_totals->count(m_selected.isEmpty() ? m_model->filter()->filteredFiles() : m_selected);
 }
 
@@ -114,11 +117,32 @@ void StatusLine::showCounted(qint64 stitches, int colors)
     showText();
 }
 
+QString StatusLine::shownText() const
+{
+    return tr("%1 designs", nullptr, m_shownCount).arg(text(m_shownCount));
+}
+
+QString StatusLine::selectedText() const
+{
+    return tr("%1 selected", nullptr, m_selected.size()).arg(text(m_selected.size()));
+}
+
+void StatusLine::announceCounts()
+{
+    QStringList changes;
+    if (std::exchange(m_announcedCount, m_shownCount) != m_shownCount)
+        changes.append(shownText());
+    if (std::exchange(m_announcedSelected, m_selected.size()) != m_selected.size())
+        changes.append(selectedText());
+    if (!changes.isEmpty())
+        ScreenReader::say(window(), changes.join(QStringLiteral(", ")));
+}
+
 void StatusLine::showText()
 {
-    QStringList parts{tr("%1 designs", nullptr, m_shownCount).arg(text(m_shownCount))};
+    QStringList parts{shownText()};
     if (!m_selected.isEmpty())
-        parts.append(tr("%1 selected", nullptr, m_selected.size()).arg(text(m_selected.size())));
+        parts.append(selectedText());
     parts.append(tr("%1 stitches", nullptr, pluralOf(m_stitches)).arg(text(m_stitches)));
     parts.append(tr("%1 colors", nullptr, m_colors).arg(text(m_colors)));
     m_text->setText(parts.join(QStringLiteral(" · ")));

@@ -46,7 +46,10 @@ private:
     void designsChanged();
     void count();
     void showCounted(qint64 stitches, int colors);
+    QString shownText() const;
+    QString selectedText() const;
     void showText();
+    void announceCounts();
 
     FilterSelectionModel *m_model;
     DesignTotals *m_totals;
@@ -57,6 +60,9 @@ private:
     QSlider *m_zoom;
     QLabel *m_percent;
     int m_shownCount = 0;
+    // What users of screen readers have been told of last.
+    int m_announcedCount = 0;
+    int m_announcedSelected = 0;
     QList<QSharedPointer<IFile>> m_selected;
     qint64 m_stitches = 0;
     int m_colors = 0;

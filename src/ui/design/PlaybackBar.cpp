@@ -4,6 +4,7 @@
 #include "catalogue/records/DesignTexts.h"
 #include "ui/design/Playback.h"
 #include "ui/design/SewingSlider.h"
+#include "widgets/controls/ScreenReader.h"
 #include "widgets/style/GIcon.h"
 #include "widgets/style/WidgetStyles.h"
 
@@ -18,6 +19,7 @@ namespace {
 constexpr int Speeds[] = {10, 50, 100, 250, 500, 1000, 2500, 5000, 10000};
 constexpr int ButtonIconSize = 24;
 constexpr int Margin = 10;
+constexpr int SpeakAfter = 300; // milliseconds; a held key steps faster
 
 GIcon icon(const char *name)
 {
@@ -30,6 +32,10 @@ PlaybackBar::PlaybackBar(Playback *playback, QWidget *parent)
     : QWidget(parent), m_playback(playback), m_slider(new SewingSlider(this)),
       m_position(new QLabel(this)), m_speeds(new QComboBox(this))
 {
+    m_toSpeak.setSingleShot(true);
+    m_toSpeak.setInterval(SpeakAfter);
+    connect(&m_toSpeak, &QTimer::timeout, this,
+            [this] { ScreenReader::say(window(), m_slider->accessibleDescription()); });
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(Margin, Margin / 2, Margin, Margin / 2);
     createButtons(layout);
@@ -91,6 +97,7 @@ void PlaybackBar::createSpeeds()
 void PlaybackBar::setDesign(const QSharedPointer<const SewingOrder> &order)
 {
     const QSignalBlocker blocker(m_slider);
+    m_order = order;
     m_slider->setDesign(order);
     m_playback->setPointCount(order ? order->pointCount() : 0);
     // As wide as it gets, so that nothing moves while it plays.
@@ -100,6 +107,7 @@ void PlaybackBar::setDesign(const QSharedPointer<const SewingOrder> &order)
     m_position->setMinimumWidth(m_position->fontMetrics().horizontalAdvance(widest));
     showPosition(m_playback->position());
     setEnabled(!order.isNull());
+    m_toSpeak.stop();
 }
 
 void PlaybackBar::showPosition(int position)
@@ -109,6 +117,20 @@ void PlaybackBar::showPosition(int position)
     m_position->setText(
         tr("%1 of %2")
             .arg(DesignTexts::number(position), DesignTexts::number(m_playback->pointCount())));
+    // While it plays nobody could listen as fast.
+    if (!m_playback->isPlaying())
+        describePosition();
+}
+
+void PlaybackBar::describePosition()
+{
+    QStringList words{m_position->text()};
+    const int sewn = m_playback->position();
+    if (const int use = m_order && sewn > 0 ? m_order->useAt(sewn - 1) : -1; use >= 0)
+        words.append(m_order->threadUses().at(use).thread->getDescription());
+    words.removeAll(QString());
+    m_slider->setAccessibleDescription(words.join(QStringLiteral(", ")));
+    m_toSpeak.start();
 }
 
 void PlaybackBar::showPlaying(bool playing)
@@ -116,4 +138,6 @@ void PlaybackBar::showPlaying(bool playing)
     m_playAction->setIcon(icon(playing ? "pause" : "play"));
     m_playAction->setText(playing ? tr("Pause") : tr("Play"));
     m_playAction->setToolTip(tr("%1 (Space)").arg(m_playAction->text()));
+    if (!playing)
+        describePosition();
 }

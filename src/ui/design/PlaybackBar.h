@@ -3,6 +3,7 @@
 #include "preview/drawing/SewingOrder.h"
 
 #include <QSharedPointer>
+#include <QTimer>
 #include <QWidget>
 
 class GAction;
@@ -31,10 +32,13 @@ private:
     QToolButton *addButton(QHBoxLayout *layout, GAction *action);
     void showPosition(int position);
     void showPlaying(bool playing);
+    void describePosition();
 
     Playback *m_playback;
     GAction *m_playAction = nullptr;
     SewingSlider *m_slider;
     QLabel *m_position;
     QComboBox *m_speeds;
+    QSharedPointer<const SewingOrder> m_order;
+    QTimer m_toSpeak; ///< until a position that is stepped to is read out
 };

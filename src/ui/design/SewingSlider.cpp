@@ -18,7 +18,6 @@ SewingSlider::SewingSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Sewing progress"));
-    setAccessibleDescription(tr("The point of the design up to which it is sewn."));
 }
 
 void SewingSlider::setDesign(const QSharedPointer<const SewingOrder> &order)
