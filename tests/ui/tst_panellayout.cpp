@@ -56,6 +56,12 @@ private slots:
         file(0)->setThreads({});
         const int caption = tree->fontMetrics().horizontalAdvance(tree->headerItem()->text(1));
         QVERIFY(tree->columnWidth(1) > caption);
+        // So does a long chart, also when it has gone.
+        thread->setChart(QStringLiteral("Threads of the far north"));
+        file(0)->setThreads({thread});
+        QVERIFY(tree->columnWidth(1) > caption);
+        box.setFiles({});
+        QVERIFY(tree->columnWidth(1) > caption);
     }
 
     void longNamesDontWidenThePanel()

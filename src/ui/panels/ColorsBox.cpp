@@ -16,7 +16,6 @@ enum Column { ColorColumn, NameColumn, ChartColumn };
 
 constexpr int ColorColumnWidth = 30;
 constexpr int RowHeight = 30;
-constexpr int LeastNameWidth = 60;
 
 } // namespace
 
@@ -61,8 +60,14 @@ void ColorsBox::setFiles(const QList<QSharedPointer<IFile>> &files)
 void ColorsBox::observedObjectChanged(const Observable *)
 {
     m_tree->clear();
-    if (!m_file)
-        return;
+    if (m_file)
+        addThreads();
+    // The columns of what was shown before need not suit the captions.
+    fitColumns();
+}
+
+void ColorsBox::addThreads()
+{
     const auto textOr = [](const QString &text) { return text.isEmpty() ? tr("undefined") : text; };
     QList<QTreeWidgetItem *> rows;
     const QList<QSharedPointer<IThread>> threads = m_file->threads();
@@ -76,7 +81,6 @@ void ColorsBox::observedObjectChanged(const Observable *)
         rows.append(row);
     }
     m_tree->addTopLevelItems(rows);
-    fitColumns();
 }
 
 void ColorsBox::fitColumns()
@@ -88,7 +92,7 @@ void ColorsBox::fitColumns()
     const int chart =
         qMax(view->sizeHintForColumn(ChartColumn), m_tree->header()->sectionSizeHint(ChartColumn));
     const int room = m_tree->viewport()->width() - ColorColumnWidth;
-    const int name = qMax(room - chart, LeastNameWidth);
+    const int name = qMax(room - chart, m_tree->header()->sectionSizeHint(NameColumn));
     if (m_tree->columnWidth(NameColumn) > name)
         m_tree->setColumnWidth(NameColumn, name);
 }

@@ -25,6 +25,7 @@ protected:
 
 private:
     void initTree();
+    void addThreads();
     void fitColumns();
 
     QSharedPointer<IFile> m_file;
