@@ -164,6 +164,18 @@ private slots:
         QCOMPARE(inkOf(detail), WidgetStyles::Accent());
     }
 
+    void groupTitleIsWhole()
+    {
+        const QGroupBox box(QStringLiteral("Kontaktbogen"));
+        QStyleOptionGroupBox option;
+        option.initFrom(&box);
+        option.text = box.title();
+        option.subControls = QStyle::SC_GroupBoxLabel;
+        const QRect title = box.style()->subControlRect(QStyle::CC_GroupBox, &option,
+                                                        QStyle::SC_GroupBoxLabel, &box);
+        QVERIFY(title.width() >= box.fontMetrics().horizontalAdvance(box.title()));
+    }
+
     void iconStates()
     {
         const GIcon icon(writeSvg("off.svg", "#46505a"), writeSvg("on.svg", "#ff0000"));

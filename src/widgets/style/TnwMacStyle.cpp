@@ -275,7 +275,16 @@ QRect TnwMacStyle::subControlRect(ComplexControl control, const QStyleOptionComp
     const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
     if (control == CC_ScrollBar && slider)
         return FlatControls::scrollBarPart(slider, part);
-    return QProxyStyle::subControlRect(control, option, part, widget);
+    QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    const auto *group = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+    if (group && part == SC_GroupBoxLabel) {
+        // The base style leaves room for the ink, but writes from where the letters begin.
+        const int width = group->fontMetrics.size(Qt::TextShowMnemonic, group->text).width();
+        const int missing = qMax(width - rect.width(), 0);
+        const bool fromRight = group->direction == Qt::RightToLeft;
+        rect.adjust(fromRight ? -missing : 0, 0, fromRight ? 0 : missing, 0);
+    }
+    return rect;
 }
 
 QRect TnwMacStyle::subElementRect(SubElement element, const QStyleOption *option,
