@@ -12,12 +12,13 @@ case ${1:-} in
 --no-install) no_install=1; shift ;;
 esac
 
-# The last ten are what the tests themselves call upon: a FAT file system for the
+# The last thirteen are what the tests themselves call upon: a FAT file system for the
 # transfer, also where the kernel has none, certificates, the validators of the
-# desktop files, and a virtual display with a window manager and real keys.
+# desktop files, and a virtual display with a window manager and real keys, and what a
+# screen reader looks through.
 install_missing "${build_packages[@]}" \
     dbus dosfstools fusefat openssl desktop-file-utils appstream shared-mime-info \
-    xvfb openbox xdotool
+    xvfb openbox xdotool at-spi2-core gir1.2-atspi-2.0 python3-gi
 
 build dev
 

@@ -134,6 +134,31 @@
     </message>
 </context>
 <context>
+    <name>CardTexts</name>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 Stich</numerusform>
+            <numerusform>%1 Stiche</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 Farbe</numerusform>
+            <numerusform>%1 Farben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>tags: %1</source>
+        <translation>Schlagwörter: %1</translation>
+    </message>
+    <message>
+        <source>favorite</source>
+        <translation>Favorit</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueChoice</name>
     <message>
         <source>Work on this catalogue rather than the organizer&apos;s.</source>
@@ -1345,10 +1370,6 @@ Befehle; jeder hat eine eigene --help:</translation>
 <context>
     <name>GridEmbroideryItem</name>
     <message>
-        <source>favorite</source>
-        <translation>Favorit</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Öffnen</translation>
     </message>
@@ -1362,6 +1383,30 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>The arrow keys choose a design, Return opens it, Space enlarges it, F marks it as a favorite.</source>
         <translation>Die Pfeiltasten wählen ein Stickmuster aus, die Eingabetaste öffnet es, die Leertaste vergrößert es, F macht es zum Favoriten.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Selects this design alone</source>
+        <translation>Wählt nur dieses Stickmuster aus</translation>
+    </message>
+    <message>
+        <source>Selects this design beside others, or no longer does</source>
+        <translation>Nimmt dieses Stickmuster in die Auswahl oder heraus</translation>
+    </message>
+    <message>
+        <source>Opens the design in its window</source>
+        <translation>Öffnet das Stickmuster in seinem Fenster</translation>
+    </message>
+    <message>
+        <source>Marks the design as a favorite, or no longer does</source>
+        <translation>Macht das Stickmuster zum Favoriten oder nimmt ihm den Stern</translation>
     </message>
 </context>
 <context>
@@ -2579,10 +2624,6 @@ Optionen:
         <source>Sewing progress</source>
         <translation>Fortschritt des Stickens</translation>
     </message>
-    <message>
-        <source>The point of the design up to which it is sewn.</source>
-        <translation>Die Stelle des Stickmusters, bis zu der gestickt ist.</translation>
-    </message>
 </context>
 <context>
     <name>SheetCommand</name>
@@ -3106,6 +3147,10 @@ Optionen:
     <message>
         <source>+ %1 more</source>
         <translation>+ %1 weitere</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
     </message>
 </context>
 <context>

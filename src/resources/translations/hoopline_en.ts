@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CardTexts</name>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 stitch</numerusform>
+            <numerusform>%1 stitches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 color</numerusform>
+            <numerusform>%1 colors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CatalogueKeeper</name>
     <message numerus="yes">
         <source>The catalogue was damaged. %n design(s) could be taken over; the damaged file was kept as %1.</source>

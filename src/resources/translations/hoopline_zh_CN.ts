@@ -134,6 +134,29 @@
     </message>
 </context>
 <context>
+    <name>CardTexts</name>
+    <message numerus="yes">
+        <source>%1 stitches</source>
+        <translation>
+            <numerusform>%1 针</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 colors</source>
+        <translation>
+            <numerusform>%1 种颜色</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>tags: %1</source>
+        <translation>标签：%1</translation>
+    </message>
+    <message>
+        <source>favorite</source>
+        <translation>已收藏</translation>
+    </message>
+</context>
+<context>
     <name>CatalogueChoice</name>
     <message>
         <source>Work on this catalogue rather than the organizer&apos;s.</source>
@@ -1325,10 +1348,6 @@ Commands; each has a --help of its own:</source>
 <context>
     <name>GridEmbroideryItem</name>
     <message>
-        <source>favorite</source>
-        <translation>已收藏</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>打开</translation>
     </message>
@@ -1342,6 +1361,30 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>The arrow keys choose a design, Return opens it, Space enlarges it, F marks it as a favorite.</source>
         <translation>方向键选择花样，回车键打开，空格键放大，F 键标记为收藏。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>Selects this design alone</source>
+        <translation>只选择此花样</translation>
+    </message>
+    <message>
+        <source>Selects this design beside others, or no longer does</source>
+        <translation>将此花样加入选择，或取消选择</translation>
+    </message>
+    <message>
+        <source>Opens the design in its window</source>
+        <translation>在单独的窗口中打开花样</translation>
+    </message>
+    <message>
+        <source>Marks the design as a favorite, or no longer does</source>
+        <translation>收藏此花样，或取消收藏</translation>
     </message>
 </context>
 <context>
@@ -2544,10 +2587,6 @@ Options:
         <source>Sewing progress</source>
         <translation>刺绣进度</translation>
     </message>
-    <message>
-        <source>The point of the design up to which it is sewn.</source>
-        <translation>已绣到的位置。</translation>
-    </message>
 </context>
 <context>
     <name>SheetCommand</name>
@@ -3065,6 +3104,10 @@ Options:
     <message>
         <source>+ %1 more</source>
         <translation>另有 %1 个</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
     </message>
 </context>
 <context>
