@@ -4,6 +4,7 @@
 #
 #   format         the C++ sources stand as .clang-format would put them
 #   floors         who includes and links what, against docs/architecture.md
+#   faults         the faults that scripts/mutate.sh puts in still fit the sources
 #   shell          shellcheck of every script
 #   translations   every text is translated, and the manuals agree
 #   desktop        the desktop entry, the metadata and the MIME types
@@ -30,6 +31,9 @@ check_format() {
 
 needs_floors() { echo python3 qtbase5-dev; }
 check_floors() { python3 scripts/checks/floors.py .; }
+
+needs_faults() { echo python3; }
+check_faults() { python3 tools/mutate/mutate.py --check; }
 
 needs_shell() { echo shellcheck; }
 check_shell() {
@@ -89,14 +93,14 @@ run() {
     fi
 }
 
-all=(format floors shell translations desktop tidy)
+all=(format floors faults shell translations desktop tidy)
 checks=() files=() failed=()
 for argument in "$@"; do
     case $argument in
     --help | -h) usage; exit 0 ;;
     --no-install) no_install=1 ;;
-    --quick) checks+=(format floors shell translations desktop) ;;
-    format | floors | shell | translations | desktop | tidy) checks+=("$argument") ;;
+    --quick) checks+=(format floors faults shell translations desktop) ;;
+    format | floors | faults | shell | translations | desktop | tidy) checks+=("$argument") ;;
     *)
         if [ ! -e "$argument" ] || [ "${checks[*]}" != tidy ]; then
             usage >&2
