@@ -1,4 +1,5 @@
 #include "base/Error.h"
+#include "base/files/FileStamp.h"
 #include "base/files/FileTools.h"
 #include "support/FullDisk.h"
 #include "support/Rows.h"
@@ -90,6 +91,19 @@ private slots:
         QVERIFY2(message.startsWith("Failed to write " + path("file") + ": "), qPrintable(message));
         QCOMPARE(FileTools::readAll(path("file")), "precious");
         QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden), QStringList("file"));
+    }
+
+    void stampsTellFractionsOfASecond()
+    {
+        FileTools::writeAll(path("file"), "x");
+        const auto stampAt = [this](long nanoseconds) {
+            const timespec times[] = {{1, nanoseconds}, {1, nanoseconds}};
+            utimensat(AT_FDCWD, QFile::encodeName(path("file")).constData(), times, 0);
+            return FileStamp::of(path("file"));
+        };
+        const FileStamp before = stampAt(1000);
+        QVERIFY(stampAt(2000).isNewerThan(before));
+        QVERIFY(!stampAt(1000).isNewerThan(before));
     }
 
     void keepsLinksAndPermissions()

@@ -248,6 +248,8 @@ private slots:
             "<fime>\n            <absolute_file_path>/b", "/a /c");
         row("end of a record", "</file>", "</fi,e>", "/b /c");
         row("end of the list", "</files>", "</filer>", "/a /b /c");
+        row("the same twice", "<file>\n            <absolute_file_path>/b",
+            "<oh><file>\n            <absolute_file_path>/a", "/a /c");
         row("root", "<hoopline_organizer", "<hooPline_organizer", "/a /b /c");
         row("list", "<files>", "<~iles>", "/a /b /c");
     }

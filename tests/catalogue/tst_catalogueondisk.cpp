@@ -5,6 +5,7 @@
 #include "catalogue/sync/ProjectController.h"
 #include "properties/undo/GUndoStack.h"
 #include "support/CatalogueFolder.h"
+#include "support/DriveFixture.h"
 #include "support/FullDisk.h"
 #include "support/Rows.h"
 
@@ -109,6 +110,20 @@ private slots:
         QVERIFY(QDir().mkpath(drive));
         controller.loadOrCreateProject();
         QVERIFY(QFile::exists(controller.projectFilePath()));
+    }
+
+    void writesNothingBesideAPulledDrive()
+    {
+        DriveFixture drive(DriveFixture::InMemory);
+        if (!drive.isMounted())
+            QSKIP("Nothing can be mounted here.");
+        GlobalSettings().setApplicationDataPath(drive.path());
+        ProjectController controller;
+        controller.loadOrCreateProject();
+        controller.project()->addTag("edited");
+        QVERIFY(drive.pull());
+        QVERIFY_EXCEPTION_THROWN(controller.saveProjectIfModified(), CatalogueUnsavedError);
+        QVERIFY(!QFile::exists(controller.projectFilePath()));
     }
 
     void createsAFolderThatIsNew()

@@ -137,12 +137,12 @@ private slots:
     void changesNothingWhenScanIsAborted()
     {
         write("a.dst", DstDesign::square());
+        write("b.dst", DstDesign::square("Stays"));
         sync();
         QVERIFY(QFile::remove(path("a.dst")));
-        write("b.dst", DstDesign::square());
         m_listener.onProceed = [this](const QString &) { m_listener.aborted = true; };
         QCOMPARE(sync(), (QList<int>{0, 0, 0, 0, 0}));
-        QCOMPARE(m_project->files().size(), 1);
+        QCOMPARE(m_project->files().size(), 2);
         QVERIFY(file("a.dst"));
     }
 

@@ -198,7 +198,7 @@ private slots:
     {
         Catalogue catalogue;
         catalogue.add("/a/x");
-        catalogue.add("/b/x");
+        catalogue.add("/b/a/x");
         FilterModel model(catalogue.project);
         const Told told(&model);
         model.setDirectory("/a");

@@ -1,8 +1,10 @@
 #include "catalogue/watch/FolderWalk.h"
 #include "catalogue/watch/FolderWatcher.h"
 #include "catalogue/watch/WatchTable.h"
+#include "support/CatalogueFolder.h"
 #include "support/Rows.h"
 
+#include <cstdio>
 #include <QtTest>
 
 static void write(const QString &path)
@@ -216,6 +218,20 @@ private slots:
         write(path("roses/wild/newer.pes"));
         write(path("xmas/new.pes"));
         QVERIFY(comesToTellOf("xmas"));
+    }
+
+    void takesLostEventsForChanges()
+    {
+        const int limit =
+            CatalogueFolder::read("/proc/sys/fs/inotify/max_queued_events").trimmed().toInt();
+        write(path("roses/a"));
+        watch({"roses", "xmas"});
+        const QByteArray a = QFile::encodeName(path("roses/a"));
+        const QByteArray b = QFile::encodeName(path("roses/b"));
+        // Four events a time, none of them of a design.
+        for (int i = limit; i >= 0; i -= 4)
+            QVERIFY(std::rename(a, b) == 0 && std::rename(b, a) == 0);
+        QTRY_COMPARE(told().size(), 2);
     }
 
     void watchesTheUpperFoldersWhenThereIsLittleRoom()

@@ -250,6 +250,24 @@ private slots:
                  "added 0, updated " + rest + ", moved 0, removed 0, unreadable 0");
     }
 
+    void leavesWhatOthersWroteMeanwhile()
+    {
+        QCOMPARE(m_cli->run({"scan"}).status, 0);
+        makeDesigns(Many);
+        QProcess process;
+        QVERIFY(m_cli->start(process, {"scan", "designs"}));
+        QTRY_VERIFY_WITH_TIMEOUT(previewCount() > 0, 60000);
+        const QByteArray other = catalogue() + "<!-- by hand -->\n";
+        const QString path = m_cli->dataPath("hoopline-organizer.xml");
+        QVERIFY(CatalogueFolder::write(path, other));
+        QVERIFY(CatalogueFolder::setDate(path, QDateTime::currentDateTime().addSecs(5)));
+        ::kill(pid_t(process.processId()), SIGINT); // what is left to scan makes no difference
+        const auto result = CliProcess::finish(process);
+        QCOMPARE(result.status, 3);
+        QVERIFY2(result.error.contains("changed meanwhile"), result.error);
+        QCOMPARE(catalogue(), other);
+    }
+
     void showsProgressOnTerminalOnly()
     {
         makeDesigns(20);

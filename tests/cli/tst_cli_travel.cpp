@@ -31,6 +31,7 @@ private slots:
         QCOMPARE(here.run({"tag", "add", "a;b,\"c\"", "d/a.dst"}).status, 0);
         QCOMPARE(here.run({"tag", "add", "plain", "d/a.dst"}).status, 0);
         QCOMPARE(here.run({"note", "-", "d/a.dst"}, notes.toUtf8()).status, 0);
+        QCOMPARE(here.run({"note", "-", "d/b.dst"}, "of an\rold Mac").status, 0);
         QCOMPARE(here.run({"favorite", "d/b.dst"}).status, 0);
         const QByteArray words = here.run(form).out;
 
@@ -53,29 +54,31 @@ private slots:
     {
         const CliProcess cli;
         QVERIFY(make(cli));
-        QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath("d/copy.dst")));
+        for (const char *copy : {"d/copy.dst", "d/sub/copy.dst"})
+            QVERIFY(QFile::copy(cli.workPath("d/b.dst"), cli.workPath(copy)));
         QCOMPARE(cli.run({"scan"}).status, 0);
         QCOMPARE(cli.run({"tag", "add", "old", "d/a.dst"}).status, 0);
         QCOMPARE(cli.run({"note", "mine", "d/a.dst"}).status, 0);
         const QByteArray hash =
-            cli.run({"list", "--search", "name:copy", "--format", "{md5}"}).out.trimmed();
+            cli.run({"list", "--search", "folder:sub", "--format", "{md5}"}).out.trimmed();
         const QByteArray a = cli.workPath("d/a.dst").toUtf8();
-        const QByteArray copy = cli.workPath("d/copy.dst").toUtf8();
+        const QByteArray copy = cli.workPath("d/sub/copy.dst").toUtf8();
         const QByteArray words = "\357\273\277notes,tags,favorite,file,md5\r\n"
-                                 "theirs,new; old,,\"" +
+                                 "theirs,new; newer,,\"" +
                                  a +
                                  "\",00112233445566778899aabbccddeeff\r\n"
                                  "\r\n"
                                  ",,true,/elsewhere/copy.dst," +
-                                 hash +
+                                 hash + "\r\n,there,," + copy + ',' + hash +
                                  "\r\n"
                                  "x,,,/lost.dst,\r\n"
                                  ",red,,," +
                                  hash + "\n";
         const auto result = cli.run({"import", "-"}, words);
-        QCOMPARE(result.out, "updated 3, unchanged 0, unknown 1\n");
+        QCOMPARE(result.out, "updated 4, unchanged 0, unknown 1\n");
         QVERIFY2(result.error.contains("/lost.dst is not in the catalogue"), result.error);
-        QCOMPARE(shown(cli), "A|new;old|mine\ntheirs|false\nB|red||false\nB|red||true\n");
+        QCOMPARE(shown(cli), "A|new;newer;old|mine\ntheirs|false\nB|red||false\n"
+                             "B|red||true\nB|red;there||true\n");
     }
 
     void tellsWrongEntries_data()
@@ -89,6 +92,7 @@ private slots:
         row("no design", QByteArray(R"({"tags": ["x"]})"), "neither");
         row("array of texts", QByteArray(R"(["x"])"), "Entry 1");
         row("field too many", "file,tags\n/a,x,y\n", "Entry 1");
+        row("field too few", "file,tags\n/a\n", "Entry 1");
         row("open quotation", "file,tags\n/a,\"x\n", "partner");
         row("other columns", "a,b\n1,2\n", "'md5'");
         row("no text", "file\n\377\376\n", "UTF-8");

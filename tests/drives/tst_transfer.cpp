@@ -5,7 +5,23 @@
 
 #include <QtTest>
 
+#include <atomic>
+#include <cerrno>
+#include <sys/syscall.h>
+#include <unistd.h>
+
 Q_DECLARE_METATYPE(DriveFixture::Wanted)
+
+static std::atomic<int> syncError{0};
+
+/** Takes the place of the system's: no drive breaks on demand. */
+int syncfs(int folder) noexcept
+{
+    if (syncError == 0)
+        return int(syscall(SYS_syncfs, folder));
+    errno = syncError;
+    return -1;
+}
 
 class tst_transfer : public QObject
 {
@@ -132,6 +148,17 @@ private slots:
         const TransferResult result = transfer({m_designs->filePath("folder.dst")}, drive.path());
         QCOMPARE(result.reason, TransferResult::SourceUnreadable);
         QVERIFY(drive.files().isEmpty());
+    }
+
+    void tellsOfWhatDoesNotReachTheDrive()
+    {
+        DriveFixture drive;
+        const QString rose = createDesign("rose.dst", "rose");
+        syncError = ENOSPC;
+        const TransferResult result = transfer({rose}, drive.path());
+        syncError = 0;
+        QCOMPARE(result.reason, TransferResult::NoSpace);
+        QCOMPARE(result.failedName, "rose.dst");
     }
 
     void noticesAPulledDrive()

@@ -182,7 +182,7 @@ private slots:
         row("1023 MB", "STICK", 1023 * megabyte, "STICK (1023 MB)");
         row("a byte less", "STICK", 1024 * megabyte - 1, "STICK (1023 MB)");
         row("1024 MB", "STICK", 1024 * megabyte, "STICK (1 GB)");
-        row("1536 MB", "STICK", 1536 * megabyte, "STICK (1 GB)");
+        row("2047 MB", "STICK", 2047 * megabyte, "STICK (1 GB)");
         row("nameless", "", 8 * megabyte, "/media/stick (8 MB)");
         row("percent", "%2 %1", 8 * megabyte, "%2 %1 (8 MB)");
     }

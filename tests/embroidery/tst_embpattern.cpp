@@ -52,6 +52,7 @@ private slots:
         row("one stitch at the start", "S", 1, "0:0,1");
         row("one stitch after a move", "MS", 1, "0:1,2");
         row("change before the first stitch", "CSS", 1, "0:0,2,3");
+        row("changes before the first stitch", "CCS", 2, "1:0,3");
         row("two colours join", "SSCSS", 2, "0:0,1,2 1:2,4,5");
         row("other colour changes", "S9SXS", 3, "0:0,1 1:1,3 2:3,5");
         row("trailing colour change", "SCE", 2, "0:0,1");

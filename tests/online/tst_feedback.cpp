@@ -183,6 +183,10 @@ private slots:
         QTRY_COMPARE(boxes.count(), 1);
         QVERIFY(boxes.allTexts().endsWith(QStringLiteral(
             "Please consider adding your mail address so I can answer your request.")));
+        dialog.includeMail()->click();
+        dialog.mail()->clear();
+        dialog.accept();
+        QTRY_COMPARE(boxes.count(), 2);
         QCOMPARE(m_maker->server().connections(), 0);
         QVERIFY(dialog.isVisible());
         QVERIFY(dialog.send()->isEnabled());

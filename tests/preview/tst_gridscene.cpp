@@ -5,6 +5,7 @@
 #include "preview/grid/GridFavoriteItem.h"
 #include "preview/grid/GridPreviewScene.h"
 #include "preview/grid/PictureGround.h"
+#include "preview/grid/ThumbnailCache.h"
 #include "PreviewFixture.h"
 #include "support/Rows.h"
 #include "widgets/style/Palettes.h"
@@ -197,6 +198,25 @@ private slots:
         sheet.scene.refresh();
         QCOMPARE(sheet.picture(), imperial);
         GlobalSettings().setImperialUnits(false);
+    }
+
+    void smallCardTellsNoSize()
+    {
+        Sheet sheet(1);
+        sheet.scene.setScaleFactor(0.5);
+        const QImage small = sheet.picture();
+        sheet.scene.setScaleFactor(1);
+        QVERIFY(sheet.picture() != small);
+        sheet.scene.setScaleFactor(0.5);
+        QCOMPARE(sheet.picture(), small);
+    }
+
+    void thumbnailsAreOfTheirScreen()
+    {
+        ThumbnailCache cache;
+        const QPixmap image(100, 100);
+        for (const qreal ratio : {1.0, 2.0})
+            QCOMPARE(cache.thumbnail(image, QSize(50, 50), ratio).devicePixelRatio(), ratio);
     }
 
     void selectionColorsTheLabel()

@@ -59,6 +59,19 @@ private slots:
         QVERIFY(qAbs(grid.cardRect(0).left() - right) <= 2);
     }
 
+    void labelsGrowWithTheFont()
+    {
+        GridFixture grid(1);
+        const int height = grid.cardRect(0).height();
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPointSize(2 * usual.pointSize());
+        QApplication::setFont(large);
+        QVERIFY(grid.cardRect(0).height() > height);
+        QApplication::setFont(usual);
+        QCOMPARE(grid.cardRect(0).height(), height);
+    }
+
     void keysSelect()
     {
         GridFixture grid(40);

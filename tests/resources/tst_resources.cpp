@@ -1,3 +1,4 @@
+#include "base/GTranslationLoader.h"
 #include "support/Rows.h"
 
 #include <QCoreApplication>
@@ -73,6 +74,22 @@ private slots:
         QTranslator translator;
         QVERIFY(translator.load(path));
         QTEST(translator.translate(context.constData(), text.constData()), "translation");
+    }
+
+    void choosesTheLanguage_data()
+    {
+        const Rows<QStringList, QString> row("wanted", "chosen");
+        row("nothing", {}, "en");
+        row("country", {"de-AT"}, "de");
+        row("second choice", {"fr-FR", "de-DE"}, "de");
+        row("Chinese", {"zh-Hans-CN", "en"}, "zh-CN");
+        row("other script", {"zh-Hant-TW"}, "en");
+    }
+
+    void choosesTheLanguage()
+    {
+        QFETCH(QStringList, wanted);
+        QTEST(GTranslationLoader::instance()->getBestMatchingLanguage(wanted), "chosen");
     }
 
     void countsFiles_data()

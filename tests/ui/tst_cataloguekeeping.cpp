@@ -200,6 +200,7 @@ private slots:
         const Rows<QStringList, bool, bool> row("answers", "closes", "saves");
         row("tries again", {"Try again", "Try again"}, true, true);
         row("stays", {"Cancel"}, false, false);
+        row("has no place for a copy", {"Save a copy...", "Cancel"}, false, false);
         row("gives up", {"Quit without saving"}, true, false);
     }
 
@@ -216,6 +217,12 @@ private slots:
             if (++given == 2)
                 QDir(catalogueFile()).removeRecursively();
         });
+        QTimer noPlace;
+        connect(&noPlace, &QTimer::timeout, this, [] {
+            if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget()))
+                dialog->reject();
+        });
+        noPlace.start(10);
         QCOMPARE(m_window->closeWindow(), closes);
         QCOMPARE(boxes.count(), answers.size());
         QTRY_COMPARE(m_window.isNull(), closes);

@@ -69,17 +69,16 @@ private slots:
     {
         DriveFixture first;
         DriveFixture second;
-        if (!second.isFat())
-            QSKIP("No FAT image can be mounted here.");
-        ExportDialog dialog(nullptr, {}, DriveFixture::volumes({&first, &second}));
-        QComboBox *drives = drivesOf(dialog);
-        QTRY_COMPARE(drives->count(), 2);
-        drives->setCurrentIndex(1);
-        QVERIFY(first.pull());
-        QTRY_COMPARE(drives->count(), 1);
-        QCOMPARE(drives->currentData().toString(), second.path());
         DriveFixture third;
-        QCOMPARE(drives->currentData().toString(), second.path());
+        if (!third.isFat())
+            QSKIP("No FAT image can be mounted here.");
+        ExportDialog dialog(nullptr, {}, DriveFixture::volumes({&first, &second, &third}));
+        QComboBox *drives = drivesOf(dialog);
+        QTRY_COMPARE(drives->count(), 3);
+        drives->setCurrentIndex(2);
+        QVERIFY(first.pull());
+        QTRY_COMPARE(drives->count(), 2);
+        QCOMPARE(drives->currentData().toString(), third.path());
     }
 
     void copies()
@@ -106,6 +105,19 @@ private slots:
                                                     "%1\n\nThe file is no longer in its folder.")
                                          .arg(drive.path()));
         QCOMPARE(dialog.transferResult().copied, 1);
+    }
+
+    void copiesNothingBesideAPulledDrive()
+    {
+        DriveFixture drive;
+        if (!drive.isFat())
+            QSKIP("No FAT image can be mounted here.");
+        const auto project = projectWithFiles({createDesign("rose.dst", "rose")});
+        ExportDialog dialog(nullptr, project->files(), DriveFixture::volumes({&drive}));
+        openWith(&dialog, drive);
+        QVERIFY(drive.pull());
+        QVERIFY(pressCopy(&dialog).endsWith("The drive is no longer there."));
+        QCOMPARE(drive.files(), QStringList());
     }
 
     void livesWhileADriveIsSlow()

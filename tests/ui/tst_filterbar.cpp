@@ -60,7 +60,7 @@ private slots:
         QCOMPARE(shown(), 2);
         width->setEditText("wide");
         QCOMPARE(shown(), 3);
-        child<QComboBox>("heightCombobox")->setCurrentText("100");
+        child<QComboBox>("heightCombobox")->setCurrentText("130");
         QCOMPARE(shown(), 2);
     }
 
@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(child<QLabel>("maxSizeLabel")->text(), "Max. size (in):");
         width->setEditText("4");
         QCOMPARE(shown(), 2);
-        width->setEditText("4.4");
+        width->setEditText("4.34");
         QCOMPARE(shown(), 3);
     }
 

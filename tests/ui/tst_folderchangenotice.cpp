@@ -62,6 +62,21 @@ private slots:
         row->findChild<QPushButton *>()->click();
         QCOMPARE(rescans, 1);
     }
+
+    void watchesADriveThatWasPluggedIn()
+    {
+        const QTemporaryDir directory;
+        const auto project = QSharedPointer<Project>::create();
+        project->setSmartFolders({directory.filePath("drive")}, QString());
+        NoticeBar bar;
+        FolderChangeNotice notice(
+            project, &bar, [] {}, nullptr);
+        QSignalSpy watched(notice.watcher(), &FolderWatcher::folderWatched);
+        QVERIFY(watched.wait());
+        QVERIFY(QDir(directory.path()).mkpath("drive"));
+        emit qApp->applicationStateChanged(Qt::ApplicationActive);
+        QVERIFY(watched.wait());
+    }
 };
 
 QTEST_MAIN(tst_folderchangenotice)

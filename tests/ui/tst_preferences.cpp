@@ -2,6 +2,7 @@
 #include "app/TestWindow.h"
 #include "base/BuildConfig.h"
 #include "base/GlobalSettings.h"
+#include "catalogue/models/FilterModel.h"
 #include "catalogue/records/File.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/userdata/UserDataMemory.h"
@@ -9,6 +10,7 @@
 #include "online/metrics/Metrics.h"
 #include "support/MessageBoxes.h"
 #include "support/Rows.h"
+#include "ui/panels/FilterBar.h"
 #include "ui/PreferencesDialog.h"
 
 #include <QtTest>
@@ -37,13 +39,12 @@ private slots:
     {
         GlobalSettings().setImperialUnits(false);
         PreferencesDialog dialog(nullptr);
-        bool seen = false;
-        const auto connection =
-            connect(HooplineApplication::instance(), &HooplineApplication::syncGlobalSettings,
-                    [&seen] { seen = GlobalSettings().imperialUnits(); });
+        const auto project = QSharedPointer<Project>::create();
+        FilterModel filter(project);
+        const FilterBar bar(nullptr, project, &filter);
         child<QCheckBox>(dialog, "useImperialUnits")->click();
-        disconnect(connection);
-        QVERIFY(seen);
+        QVERIFY(GlobalSettings().imperialUnits());
+        QCOMPARE(bar.findChild<QLabel *>("maxSizeLabel")->text(), "Max. size (in):");
     }
 
     void appliesUpdateChoices()

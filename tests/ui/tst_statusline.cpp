@@ -44,10 +44,10 @@ private slots:
     void counts_data()
     {
         const Rows<QString, QVector<int>, QString> row("search", "selection", "text");
-        row("all", "", {}, "3 designs · 12,345 stitches · 3 colors");
-        row("one selected", "", {0}, "3 designs · 1 selected · 12,000 stitches · 2 colors");
+        row("all", "", {}, "3 designs · 12,346 stitches · 3 colors");
+        row("one selected", "", {0}, "3 designs · 1 selected · 12,001 stitches · 2 colors");
         // A colour that both have is one colour.
-        row("two selected", "", {0, 1}, "3 designs · 2 selected · 12,344 stitches · 3 colors");
+        row("two selected", "", {0, 1}, "3 designs · 2 selected · 12,345 stitches · 3 colors");
         row("filtered", "2", {}, "1 design · 1 stitch · 1 color");
         row("nothing found", "zzz", {}, "0 designs · 0 stitches · 0 colors");
     }
@@ -58,7 +58,7 @@ private slots:
         QFETCH(QVector<int>, selection);
         QFETCH(QString, text);
         const auto project = projectOfSize(3);
-        describe(*project->files().at(0), project.data(), 12000, {Qt::red, Qt::green});
+        describe(*project->files().at(0), project.data(), 12001, {Qt::red, Qt::green});
         describe(*project->files().at(1), project.data(), 344, {Qt::red, Qt::blue});
         describe(*project->files().at(2), project.data(), 1, {Qt::blue, Qt::blue, QColor()});
         FilterSelectionModel models(project);
