@@ -28,7 +28,7 @@ const QString Role = "Test::Shape";
 
 QString made()
 {
-    return DI::newObject1<Shape, Default>(Role, "!")->name();
+    return DI::newObject1<Shape, Default>(Role, QStringLiteral("!"))->name();
 }
 
 } // namespace

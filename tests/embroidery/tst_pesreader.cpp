@@ -63,7 +63,8 @@ private slots:
             {"#PES0100", "10"}, {"#PES0090", "9"},   {"#PES0080", "8"}, {"#PES0070", "7"},
             {"#PES0030", "3"},  {"#PES0022", "2.2"}, {"#PES0020", "2"}, {"#PES0001", "1"}};
         for (const auto &magic : plain) {
-            row(magic.first, pesFile(magic.first, "anything", "\x05"), "version=" + magic.second);
+            row(magic.first, pesFile(magic.first, "anything", "\x05"),
+                QStringLiteral("version=") + magic.second);
         }
         row("unknown magic", pesFile("#PES9999", "", "\x05"), "");
         row("4", pesFile("#PES0040", "1234" + descriptions + "more", "\x05"),

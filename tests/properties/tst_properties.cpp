@@ -86,7 +86,7 @@ private slots:
     {
         PropertyDescriptionInt number("n", {}, {}, 5);
         PropertyDescriptionSizeF size("s", {}, {}, QSizeF(1, 2));
-        PropertyDescriptionFilename path(QStringLiteral("p"), {}, {}, "/a");
+        PropertyDescriptionFilename path("p", {}, {}, QStringLiteral("/a"));
         PropertyDescriptionEnum choice("e", {}, {}, {"k", "K"});
         PropertyStruct record(&m_project, "record", {&number, &size, &path, &choice});
         QCOMPARE(record.propertyNames().join(QString()), "nspe");
