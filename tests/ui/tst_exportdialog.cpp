@@ -178,8 +178,9 @@ private:
     {
         const MessageBoxes boxes;
         QTimer::singleShot(0, copyButtonOf(*dialog), &QPushButton::click);
-        const int result = dialog->exec();
-        return result == QDialog::Accepted ? boxes.allTexts() : "not accepted";
+        if (dialog->exec() != QDialog::Accepted)
+            return "not accepted";
+        return boxes.count() > 0 ? boxes.text() + '|' + boxes.informativeText() : QString();
     }
 
     static QComboBox *drivesOf(const ExportDialog &dialog)
