@@ -26,8 +26,13 @@ private slots:
         QCOMPARE(file.modificationDate(), 4000000000U);
         QCOMPARE(file.contentHashProp()->value(), "00ff10");
         QCOMPARE(file.contentHash(), QByteArray::fromHex("00ff10"));
+        // What somebody else has written into the catalogue.
+        for (const char *digits : {"", "0aFf", "f", "0:", "`@/G", "00 ff"}) {
+            file.contentHashProp()->setValueWithoutUndoAndAnnounceChange(QString(digits));
+            QCOMPARE(file.contentHash(), QByteArray::fromHex(digits));
+        }
         QCOMPARE(file.threads().count(), 1);
-        QCOMPARE(observer.heard.count(), 1);
+        QCOMPARE(observer.heard.count(), 7);
     }
 
     void editsAreUndoable()

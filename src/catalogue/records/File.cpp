@@ -1,5 +1,6 @@
 #include "catalogue/records/File.h"
 
+#include "base/Hex.h"
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/records/Project.h"
 
@@ -40,7 +41,7 @@ void File::setModificationDate(unsigned int seconds)
 
 QByteArray File::contentHash() const
 {
-    return QByteArray::fromHex(m_contentHash->value().toLatin1());
+    return Hex::decoded(m_contentHash->value());
 }
 
 void File::setContentHash(const QByteArray &hash)
