@@ -31,6 +31,20 @@ private slots:
         QCOMPARE(scan(hidden), ":-) A.PES b.dst .d/in c/.t c/a.pes c/S/0");
     }
 
+    void ordersNamesAsTheToolkitDoes()
+    {
+        QStringList names =
+            QStringLiteral(u"b A a aa AB _a [ \u00df Stra\u00dfe strasse STRASZE a1 a\u00e9 aE "
+                           u"\u00c9 \u00e9 z\u00fc ZU \U0001f9f5 \u2460 Z")
+                .split(QLatin1Char(' '));
+        make(names);
+        std::sort(names.begin(), names.end(), [](const QString &a, const QString &b) {
+            const int order = QString::compare(a, b, Qt::CaseInsensitive);
+            return order != 0 ? order < 0 : a < b;
+        });
+        QCOMPARE(scan(), names.join(QLatin1Char(' ')));
+    }
+
     void abortLeavesAPartialList()
     {
         make({"a", "b/c", "d/e", "d/f/g"});

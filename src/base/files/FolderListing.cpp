@@ -35,6 +35,24 @@ bool isAscii(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
+/** The sort order of names; that of plain letters is found without the toolkit's tables. */
+bool isBefore(const QString &a, const QString &b)
+{
+    const auto lower = [](ushort c) { return c >= 'A' && c <= 'Z' ? ushort(c | 0x20) : c; };
+    const int length = std::min(a.length(), b.length());
+    for (int i = 0; i < length; ++i) {
+        const ushort left = lower(a.at(i).unicode());
+        const ushort right = lower(b.at(i).unicode());
+        if (left >= 0x80 || right >= 0x80) {
+            const int order = QString::compare(a, b, Qt::CaseInsensitive);
+            return order != 0 ? order < 0 : a < b;
+        }
+        if (left != right)
+            return left < right;
+    }
+    return a.length() != b.length() ? a.length() < b.length() : a < b;
+}
+
 } // namespace
 
 std::optional<FolderListing::Identity> FolderListing::identity(const QString &dir)
@@ -73,10 +91,8 @@ FolderListing::FolderListing(const QString &dir, bool hidden)
     if (errno != 0)
         m_skipped.append({SkippedEntry::UnreadableFolder, dir, qt_error_string()});
     composeNames();
-    std::sort(m_entries.begin(), m_entries.end(), [](const Entry &a, const Entry &b) {
-        const int order = QString::compare(a.name, b.name, Qt::CaseInsensitive);
-        return order != 0 ? order < 0 : a.name < b.name;
-    });
+    std::sort(m_entries.begin(), m_entries.end(),
+              [](const Entry &a, const Entry &b) { return isBefore(a.name, b.name); });
 }
 
 void FolderListing::add(int folder, const char *name)
