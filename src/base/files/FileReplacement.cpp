@@ -1,5 +1,7 @@
 #include "base/files/FileReplacement.h"
 
+#include "base/files/FolderListing.h"
+
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -190,15 +192,24 @@ bool FileReplacement::fail()
 
 void FileReplacement::removeLeftovers(const QString &directory)
 {
+    removeLeftovers(directory, FolderListing::fileNames(directory));
+}
+
+void FileReplacement::removeLeftovers(const QString &directory, const QVector<QByteArray> &names)
+{
     static const QRegularExpression pattern(QStringLiteral("^\\.hoopline-(\\d+)-(\\d+)\\.part$"));
-    const QFileInfoList candidates = QDir(directory).entryInfoList(
-        {QStringLiteral(".hoopline-*.part")}, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QFileInfo &file : candidates) {
-        const auto match = pattern.match(file.fileName());
+    // The folder may hold a hundred thousand previews: only a name like that gets a look.
+    for (const QByteArray &name : names) {
+        const auto match = name.startsWith(".hoopline-") ? pattern.match(QString::fromLatin1(name))
+                                                         : QRegularExpressionMatch();
+        if (!match.hasMatch())
+            continue;
+        const QFileInfo file(QDir(directory), match.captured());
+        if (!file.isFile() || file.isSymLink())
+            continue;
         const bool old =
             file.lastModified().secsTo(QDateTime::currentDateTime()) > LeftoverAgeSeconds;
-        if (match.hasMatch() &&
-            (old || !mayBeWriting(match.captured(1).toLongLong(), match.captured(2).toUInt())))
+        if (old || !mayBeWriting(match.captured(1).toLongLong(), match.captured(2).toUInt()))
             QFile::remove(file.filePath());
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVector>
 
 /**
  * One file on its way to the disk: the bytes go into a new file beside the target,
@@ -55,6 +56,8 @@ public:
      * still live stay.
      */
     static void removeLeftovers(const QString &directory);
+    /** Likewise; @param names of the files there, for who has listed them anyway */
+    static void removeLeftovers(const QString &directory, const QVector<QByteArray> &names);
 
 private:
     bool open(Access access);

@@ -2,6 +2,7 @@
 
 #include "base/files/FileReplacement.h"
 #include "base/files/FolderListing.h"
+#include "base/Hex.h"
 #include <QDir>
 #include <QFile>
 
@@ -22,21 +23,17 @@ QString PreviewFolder::pathOf(const QByteArray &hash) const
     return m_path + QLatin1String(hash.toHex()) + Suffix;
 }
 
-QSet<QByteArray> PreviewFolder::keys() const
+QSet<QByteArray> PreviewFolder::tidyUp() const
 {
-    QSet<QByteArray> keys;
     const QVector<QByteArray> names = FolderListing::fileNames(m_path);
+    FileReplacement::removeLeftovers(m_path, names);
+    QSet<QByteArray> keys;
     keys.reserve(names.size());
     for (const QByteArray &name : names) {
         if (name.endsWith(Suffix.data()))
-            keys.insert(QByteArray::fromHex(name.left(name.size() - Suffix.size())));
+            keys.insert(Hex::decoded(name.constData(), name.size() - Suffix.size()));
     }
     return keys;
-}
-
-void PreviewFolder::removeLeftovers() const
-{
-    FileReplacement::removeLeftovers(m_path);
 }
 
 void PreviewFolder::store(const QByteArray &hash, const QByteArray &png, int order)

@@ -18,11 +18,8 @@ public:
     PreviewFolder(const PreviewFolder &) = delete;
     PreviewFolder &operator=(const PreviewFolder &) = delete;
 
-    /** The hashes that have a preview. */
-    QSet<QByteArray> keys() const;
-
-    /** Removes what writers that died have left. */
-    void removeLeftovers() const;
+    /** Removes what writers that died have left. @return the hashes that have a preview */
+    QSet<QByteArray> tidyUp() const;
 
     /**
      * Writes a preview, whole or not at all; a failure is not told, since the next scan

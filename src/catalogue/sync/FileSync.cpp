@@ -48,7 +48,7 @@ void FileSync::syncFilesWithDisk(const QStringList &formats)
     m_tracking.beginSync(formats);
     m_counts = SyncCounts();
     m_report = ScanReport();
-    m_previews->removeLeftovers();
+    m_existingPreviewKeys = m_previews->tidyUp();
     const auto onDisk = findSupportedFiles();
     // What an aborted scan did not reach must never be taken for deleted.
     if (!m_listener->abortState())
@@ -57,17 +57,17 @@ void FileSync::syncFilesWithDisk(const QStringList &formats)
     m_tracking.endSync(m_project->smartFolders().size(), m_project->files().size());
 }
 
-QHash<QString, FoundFile> FileSync::findSupportedFiles()
+FilesOnDisk FileSync::findSupportedFiles()
 {
     m_listener->setSteps(ScanSteps);
     const FoundFiles found = DesignFinder::find(m_project->smartFolders(), *m_listener);
     keepRelevant(found.skipped);
 
-    QHash<QString, FoundFile> supported;
+    FilesOnDisk supported;
     supported.reserve(found.files.size());
     for (const FoundFile &file : found.files) {
         if (m_tracking.logFile(file.path))
-            supported.insert(file.path, file);
+            supported.add(file);
     }
     return supported;
 }
@@ -83,30 +83,47 @@ void FileSync::keepRelevant(const QVector<SkippedEntry> &skipped)
                  });
 }
 
-void FileSync::applyChanges(const QHash<QString, FoundFile> &onDisk)
+void FileSync::applyChanges(const FilesOnDisk &onDisk)
 {
-    QSet<QString> gone;
-    QHash<QString, FoundFile> unknown = onDisk;
+    Comparison found = compare(onDisk);
+    if (!reconnectFiles(found.fresh, found.gone))
+        return;
+    if (m_counts.reconnected != 0)
+        found.kept = compare(onDisk).kept;
+    m_listener->setSteps(onDisk.count());
+    removeFileData(found.gone);
+    updateRecords(found.fresh, found.kept);
+    removePreviewFiles(orphanedPreviews(found.kept));
+}
+
+/** One pass for all: in a large catalogue each look at a record waits for the memory. */
+FileSync::Comparison FileSync::compare(const FilesOnDisk &onDisk) const
+{
+    Comparison result;
+    std::vector<bool> known(std::size_t(onDisk.count()));
     const auto files = m_project->files();
+    result.kept.reserve(files.size());
     for (const Record &file : files) {
         const QString path = file->absoluteFilePath();
-        if (onDisk.contains(path))
-            unknown.remove(path);
-        else
-            gone.insert(path);
+        const int index = onDisk.indexOf(path);
+        if (index < 0) {
+            result.gone.insert(path);
+            continue;
+        }
+        known[std::size_t(index)] = true;
+        const FoundFile &found = onDisk.at(index);
+        const QByteArray hash = file->contentHash();
+        const bool unchanged = RecordUpdate::isUntouched(*file, found) && !hash.isEmpty() &&
+                               m_existingPreviewKeys.contains(hash);
+        result.kept.append({file, found, hash, !unchanged});
     }
-    QVector<FoundFile> fresh(unknown.cbegin(), unknown.cend());
-    // Hashes have no order of their own; runs over the same files shall go alike.
-    std::sort(fresh.begin(), fresh.end(),
+    for (int i = 0; i < onDisk.count(); ++i) {
+        if (!known[std::size_t(i)])
+            result.fresh.append(onDisk.at(i));
+    }
+    std::sort(result.fresh.begin(), result.fresh.end(),
               [](const FoundFile &a, const FoundFile &b) { return a.path < b.path; });
-
-    if (!reconnectFiles(fresh, gone))
-        return;
-    m_listener->setSteps(onDisk.size());
-    m_existingPreviewKeys = m_previews->keys();
-    removeFileData(gone);
-    updateRecords(fresh, onDisk);
-    removePreviewFiles(m_existingPreviewKeys - allContentKeys());
+    return result;
 }
 
 /** False when the user has asked for the end: what was not compared yet may only have moved. */
@@ -157,25 +174,17 @@ void FileSync::removeFileData(const QSet<QString> &gone)
     m_counts.removed = files.size() - remaining.size();
 }
 
-void FileSync::updateRecords(const QVector<FoundFile> &fresh,
-                             const QHash<QString, FoundFile> &onDisk)
+void FileSync::updateRecords(const QVector<FoundFile> &fresh, const QVector<Visit> &kept)
 {
-    QVector<Visit> kept;
     std::vector<DesignJob> jobs;
     const auto addJob = [&jobs](const FoundFile &file, const QByteArray &knownHash) {
         jobs.push_back({file.path, file.size, knownHash, int(jobs.size())});
     };
     for (const FoundFile &file : fresh)
         addJob(file, QByteArray());
-    const auto files = m_project->files();
-    for (const Record &file : files) {
-        const auto found = onDisk.constFind(file->absoluteFilePath());
-        if (found == onDisk.constEnd())
-            continue;
-        const bool doubtful = !RecordUpdate::isUnchanged(*file, *found, m_existingPreviewKeys);
-        kept.append({file, found->path, doubtful});
-        if (doubtful)
-            addJob(*found, file->contentHash());
+    for (const Visit &visit : kept) {
+        if (visit.doubtful)
+            addJob(visit.found, visit.hash);
     }
 
     const auto preparation =
@@ -200,7 +209,7 @@ void FileSync::addFileData(const QVector<FoundFile> &fresh, Workers &workers)
     for (const FoundFile &found : fresh) {
         const auto file = QSharedPointer<File>::create(m_project.data());
         file->setAbsoluteFilePath(found.path);
-        const auto design = lookInto({file, found.path, true}, workers);
+        const auto design = lookInto({file, found, QByteArray(), true}, workers);
         if (design)
             commit(file, *design);
         else
@@ -218,13 +227,12 @@ void FileSync::addFileData(const QVector<FoundFile> &fresh, Workers &workers)
 void FileSync::updateFileData(const QVector<Visit> &kept, Workers &workers)
 {
     for (const Visit &visit : kept) {
-        const QByteArray before = visit.record->contentHash();
         const auto design = lookInto(visit, workers);
         if (!design)
             continue;
         m_counts.updated += commit(visit.record, *design);
-        if (design->state == PreparedDesign::Read && design->hash != before)
-            m_report.changed.append(visit.path);
+        if (design->state == PreparedDesign::Read && design->hash != visit.hash)
+            m_report.changed.append(visit.found.path);
     }
 }
 
@@ -235,7 +243,7 @@ std::optional<PreparedDesign> FileSync::lookInto(const Visit &visit, Workers &wo
         m_listener->proceed(QStringLiteral("Aborting..."));
         return std::nullopt;
     }
-    m_listener->proceed(QStringLiteral("Loading ") + fileName(visit.path));
+    m_listener->proceed(QStringLiteral("Loading ") + fileName(visit.found.path));
     if (!visit.doubtful)
         return std::nullopt;
     return waitResponsively(*m_listener,
@@ -248,14 +256,17 @@ int FileSync::commit(const Record &file, const PreparedDesign &design)
         .commit(file, design);
 }
 
-QSet<QByteArray> FileSync::allContentKeys() const
+QSet<QByteArray> FileSync::orphanedPreviews(const QVector<Visit> &kept) const
 {
-    QSet<QByteArray> keys;
+    QSet<QByteArray> orphans = m_existingPreviewKeys;
+    for (const Visit &visit : kept)
+        orphans.remove(visit.doubtful ? visit.record->contentHash() : visit.hash);
+    if (m_report.added.isEmpty())
+        return orphans;
     const auto files = m_project->files();
-    keys.reserve(files.size());
     for (const Record &file : files)
-        keys.insert(file->contentHash());
-    return keys;
+        orphans.remove(file->contentHash());
+    return orphans;
 }
 
 void FileSync::removePreviewFiles(const QSet<QByteArray> &orphans)

@@ -6,13 +6,13 @@
 #include "catalogue/records/IFile.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/scan/PreparedDesign.h"
+#include "catalogue/sync/FilesOnDisk.h"
 #include "catalogue/sync/FileSyncTracking.h"
 #include "catalogue/sync/ScanReport.h"
 #include "catalogue/sync/SyncCounts.h"
 #include <memory>
 #include <optional>
 #include <QByteArray>
-#include <QHash>
 #include <QSet>
 #include <QSharedPointer>
 #include <QString>
@@ -75,21 +75,31 @@ private:
     struct Visit
     {
         Record record;
-        QString path;
-        bool doubtful; ///< one of the workers looks into the file
+        FoundFile found;
+        QByteArray hash; ///< as the record had it before the run
+        bool doubtful;   ///< one of the workers looks into the file
     };
 
-    QHash<QString, FoundFile> findSupportedFiles();
+    /** The records beside the disk. */
+    struct Comparison
+    {
+        QVector<Visit> kept;      ///< in the records' order
+        QVector<FoundFile> fresh; ///< those without a record, by path
+        QSet<QString> gone;       ///< records without a file
+    };
+
+    FilesOnDisk findSupportedFiles();
     void keepRelevant(const QVector<SkippedEntry> &skipped);
-    void applyChanges(const QHash<QString, FoundFile> &onDisk);
+    void applyChanges(const FilesOnDisk &onDisk);
     bool reconnectFiles(QVector<FoundFile> &fresh, QSet<QString> &gone);
     void removeFileData(const QSet<QString> &gone);
-    void updateRecords(const QVector<FoundFile> &fresh, const QHash<QString, FoundFile> &onDisk);
+    Comparison compare(const FilesOnDisk &onDisk) const;
+    void updateRecords(const QVector<FoundFile> &fresh, const QVector<Visit> &kept);
     void addFileData(const QVector<FoundFile> &fresh, Workers &workers);
     void updateFileData(const QVector<Visit> &kept, Workers &workers);
     std::optional<PreparedDesign> lookInto(const Visit &visit, Workers &workers);
     int commit(const Record &file, const PreparedDesign &design);
-    QSet<QByteArray> allContentKeys() const;
+    QSet<QByteArray> orphanedPreviews(const QVector<Visit> &kept) const;
     void removePreviewFiles(const QSet<QByteArray> &orphans);
 
     QSharedPointer<Project> m_project;

@@ -9,13 +9,9 @@ RecordUpdate::RecordUpdate(Project *project, FileSyncTracking &tracking, SyncCou
 {
 }
 
-bool RecordUpdate::isUnchanged(const IFile &record, const FoundFile &onDisk,
-                               const QSet<QByteArray> &previews)
+bool RecordUpdate::isUntouched(const IFile &record, const FoundFile &onDisk)
 {
-    if (onDisk.modified != record.modificationDate() || onDisk.size != record.fileSize())
-        return false;
-    const QByteArray hash = record.contentHash();
-    return !hash.isEmpty() && previews.contains(hash);
+    return onDisk.modified == record.modificationDate() && onDisk.size == record.fileSize();
 }
 
 int RecordUpdate::commit(const QSharedPointer<IFile> &record, const PreparedDesign &design)

@@ -8,7 +8,6 @@
 #include "catalogue/sync/SyncCounts.h"
 #include "catalogue/sync/UnreadableFile.h"
 #include <QList>
-#include <QSet>
 #include <QSharedPointer>
 
 /**
@@ -22,12 +21,8 @@ public:
     RecordUpdate(Project *project, FileSyncTracking &tracking, SyncCounts &counts,
                  QList<UnreadableFile> &unreadable);
 
-    /**
-     * Whether the file is as the record has it, as far as a look at it can tell.
-     * @param previews the hashes that have a preview
-     */
-    static bool isUnchanged(const IFile &record, const FoundFile &onDisk,
-                            const QSet<QByteArray> &previews);
+    /** Whether size and date of the file are those that the record has. */
+    static bool isUntouched(const IFile &record, const FoundFile &onDisk);
 
     /** 1 if something was learned of the file's content, 0 if not. */
     int commit(const QSharedPointer<IFile> &record, const PreparedDesign &design);
