@@ -31,7 +31,7 @@ QString documentName(const SheetDialog &dialog)
 {
     QString name = dialog.options().title;
     if (name.isEmpty() && dialog.designs().size() == 1)
-        name = QFileInfo(dialog.designs().constFirst().path).completeBaseName();
+        name = QFileInfo(dialog.designs().at(0).path).completeBaseName();
     if (name.isEmpty())
         name = SheetCommands::tr("Designs");
     return name.replace(QLatin1Char('/'), QLatin1Char('-'));
@@ -56,14 +56,14 @@ void SheetCommands::addTo(QMenu *menu)
     menu->addAction(pdfAction);
 }
 
-QVector<SheetDesign> SheetCommands::selectedDesigns() const
+SheetDesigns SheetCommands::selectedDesigns() const
 {
-    return SheetDesign::of(m_model->selection()->selectedFiles());
+    return SheetDesigns::of(m_model->selection()->selectedFiles());
 }
 
-QVector<SheetDesign> SheetCommands::shownDesigns() const
+SheetDesigns SheetCommands::shownDesigns() const
 {
-    return SheetDesign::of(m_model->filter()->filteredFiles());
+    return SheetDesigns::of(m_model->filter()->filteredFiles());
 }
 
 /** Tells that there are none. */

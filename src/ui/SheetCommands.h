@@ -1,6 +1,6 @@
 #pragma once
 
-#include "preview/sheets/SheetDesign.h"
+#include "preview/sheets/SheetDesigns.h"
 
 #include <QObject>
 #include <QVector>
@@ -28,8 +28,8 @@ public slots:
     void exportPdf();
 
 private:
-    QVector<SheetDesign> selectedDesigns() const;
-    QVector<SheetDesign> shownDesigns() const;
+    SheetDesigns selectedDesigns() const;
+    SheetDesigns shownDesigns() const;
     bool hasDesigns() const;
     void print(const SheetDialog &dialog);
     void writePdf(const SheetDialog &dialog, const QString &path);

@@ -1,5 +1,6 @@
 #include "base/Error.h"
 #include "base/GSettings.h"
+#include "catalogue/records/Project.h"
 #include "embroidery/EmbPattern.h"
 #include "preview/drawing/SewingOrder.h"
 #include "preview/sheets/PaperUnits.h"
@@ -133,15 +134,22 @@ private slots:
         SheetOptions options;
         options.folderHeadings = true;
         const QStringList paths{"/b/2.dst", "/a/1.dst", "/b/1.dst", "/a/sub/1.dst", "/a/2.dst"};
-        QVector<SheetDesign> designs;
-        for (const QString &path : paths)
-            designs.append(SheetDesign::of(path));
-        const auto sheet = Sheet::make(designs, options, A4);
-        QStringList order;
-        for (const SheetDesign &design : sheet->designs())
-            order.append(design.path);
-        QCOMPARE(order,
-                 QStringList({"/b/2.dst", "/b/1.dst", "/a/1.dst", "/a/2.dst", "/a/sub/1.dst"}));
+        Project project;
+        QVector<SheetDesign> strangers;
+        QList<QSharedPointer<IFile>> records;
+        for (const QString &path : paths) {
+            strangers.append(SheetDesign::of(path));
+            records.append(QSharedPointer<File>::create(&project));
+            records.last()->setAbsoluteFilePath(path);
+        }
+        for (const SheetDesigns &designs : {SheetDesigns(strangers), SheetDesigns::of(records)}) {
+            const auto sheet = Sheet::make(designs, options, A4);
+            QStringList order;
+            for (int i = 0; i < sheet->designs().size(); ++i)
+                order.append(sheet->designs().at(i).path);
+            QCOMPARE(order,
+                     QStringList({"/b/2.dst", "/b/1.dst", "/a/1.dst", "/a/2.dst", "/a/sub/1.dst"}));
+        }
     }
 
     void tellsWhatCannotBeRead()
@@ -187,7 +195,7 @@ private slots:
             design.stitch(50, 0).stitch(0, 60).stitch(50, 0).stitch(-50, 0).stitch(0, -60);
         QVERIFY(design.end().writeTo(path));
         const auto sheet = workSheet(path);
-        const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().first(), sheet->wish())};
+        const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().at(0), sheet->wish())};
         QCOMPARE(sheet->pageCount(0, drawn), 2);
         const QRectF bounds = drawn.first().order->bounds();
         constexpr double scale = 5; // pixels in a millimetre
@@ -204,7 +212,7 @@ private slots:
         design.thread("#ffffff", "White");
         QVERIFY(design.stitch(100, 0).stitch(0, 100).stitch(-100, 0).end().writeTo(path));
         const auto sheet = workSheet(path);
-        const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().first(), sheet->wish())};
+        const QVector<DrawnDesign> drawn{DrawnDesign::of(sheet->designs().at(0), sheet->wish())};
         const QImage page = painted(*sheet, 1, drawn, 5);
         // The middle of the paper, within the hoop.
         const QRect middle(page.width() / 2 - 100, page.height() / 2 - 100, 200, 240);

@@ -6,7 +6,6 @@
 #include "preview/sheets/PaperUnits.h"
 
 #include <algorithm>
-#include <QHash>
 #include <QPainter>
 
 namespace {
@@ -42,7 +41,7 @@ constexpr FactRow FactRows[] = {
 
 } // namespace
 
-ContactSheet::ContactSheet(const QVector<SheetDesign> &designs, const SheetOptions &options,
+ContactSheet::ContactSheet(const SheetDesigns &designs, const SheetOptions &options,
                            const QSizeF &area)
     : Sheet(designs, options, area), m_nameFont(PageText::font(NamePoints, PageText::Bold)),
       m_factFont(PageText::font(FactPoints)), m_layout(measures(), group())
@@ -51,28 +50,11 @@ ContactSheet::ContactSheet(const QVector<SheetDesign> &designs, const SheetOptio
         m_sections.append({page.first, page.end});
 }
 
-/** Puts the designs of each folder together. @return how many there are in each */
 QVector<int> ContactSheet::group()
 {
     if (!m_options.folderHeadings)
         return {m_designs.size()};
-    QHash<QString, int> groupOf;
-    QVector<QVector<SheetDesign>> groups;
-    for (const SheetDesign &design : qAsConst(m_designs)) {
-        const QString folder = design.folder();
-        if (!groupOf.contains(folder)) {
-            groupOf.insert(folder, groups.size());
-            groups.append(QVector<SheetDesign>());
-        }
-        groups[groupOf.value(folder)].append(design);
-    }
-    m_designs.clear();
-    QVector<int> sizes;
-    for (const QVector<SheetDesign> &group : qAsConst(groups)) {
-        m_designs += group;
-        sizes.append(group.size());
-    }
-    return sizes;
+    return m_designs.groupByFolder();
 }
 
 ContactSheetLayout::Measures ContactSheet::measures() const
@@ -117,7 +99,7 @@ void ContactSheet::paint(QPainter &painter, int section, int,
     for (const ContactSheetLayout::Heading &heading : page.headings) {
         const QRectF area = heading.area.adjusted(0, 0, 0, -2 * Millimetre);
         PageText::drawLine(painter, PageText::font(HeadingPoints, PageText::Bold), area,
-                           m_designs.at(heading.design).folder(), Qt::AlignLeft, 0xFF000000,
+                           m_designs.folderAt(heading.design), Qt::AlignLeft, 0xFF000000,
                            Qt::ElideLeft);
         painter.setPen(QPen(QColor(PageText::Line), FrameWidth));
         painter.drawLine(area.bottomLeft(), area.bottomRight());

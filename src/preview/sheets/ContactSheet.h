@@ -12,8 +12,7 @@ class ContactSheet : public Sheet
     Q_DECLARE_TR_FUNCTIONS(ContactSheet)
 
 public:
-    ContactSheet(const QVector<SheetDesign> &designs, const SheetOptions &options,
-                 const QSizeF &area);
+    ContactSheet(const SheetDesigns &designs, const SheetOptions &options, const QSizeF &area);
 
     DrawingWish wish() const override;
     int pageCount(int section, const QVector<DrawnDesign> &drawn) const override;

@@ -38,8 +38,8 @@ QString titleOf(const QString &path, const SheetOptions &options)
 
 } // namespace
 
-int PdfFile::write(const QString &path, const QVector<SheetDesign> &designs,
-                   const SheetOptions &options, IProgressAbortListener &progress)
+int PdfFile::write(const QString &path, const SheetDesigns &designs, const SheetOptions &options,
+                   IProgressAbortListener &progress)
 {
     FileReplacement file(path, FileReplacement::AsBefore);
     const auto expectHealth = [&file, &path] {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "preview/sheets/SheetDesigns.h"
 #include "preview/sheets/SheetOptions.h"
 
 #include <QString>
 
 class IProgressAbortListener;
-struct SheetDesign;
 
 /** Sheets as PDF. */
 namespace PdfFile {
@@ -17,7 +17,7 @@ namespace PdfFile {
  * @return the number of pages; 0 when the user has asked for the end
  * @throws Error
  */
-int write(const QString &path, const QVector<SheetDesign> &designs, const SheetOptions &options,
+int write(const QString &path, const SheetDesigns &designs, const SheetOptions &options,
           IProgressAbortListener &progress);
 
 } // namespace PdfFile

@@ -13,7 +13,7 @@ constexpr double DotsPerInch = 200.0;
 
 } // namespace
 
-std::unique_ptr<Sheet> Sheet::make(const QVector<SheetDesign> &designs, const SheetOptions &options,
+std::unique_ptr<Sheet> Sheet::make(const SheetDesigns &designs, const SheetOptions &options,
                                    const QSizeF &area)
 {
     if (options.kind == SheetOptions::Work)
@@ -21,7 +21,7 @@ std::unique_ptr<Sheet> Sheet::make(const QVector<SheetDesign> &designs, const Sh
     return std::make_unique<ContactSheet>(designs, options, area);
 }
 
-Sheet::Sheet(const QVector<SheetDesign> &designs, const SheetOptions &options, const QSizeF &area)
+Sheet::Sheet(const SheetDesigns &designs, const SheetOptions &options, const QSizeF &area)
     : m_designs(designs), m_options(options), m_area(area)
 {
 }

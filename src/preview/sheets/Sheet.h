@@ -1,6 +1,7 @@
 #pragma once
 
 #include "preview/sheets/DrawnDesign.h"
+#include "preview/sheets/SheetDesigns.h"
 #include "preview/sheets/SheetOptions.h"
 
 #include <memory>
@@ -25,15 +26,15 @@ public:
     };
 
     /** @param area what may be painted of each page, in hundredths of a millimetre */
-    static std::unique_ptr<Sheet> make(const QVector<SheetDesign> &designs,
-                                       const SheetOptions &options, const QSizeF &area);
+    static std::unique_ptr<Sheet> make(const SheetDesigns &designs, const SheetOptions &options,
+                                       const QSizeF &area);
     virtual ~Sheet() = default;
 
     Sheet(const Sheet &) = delete;
     Sheet &operator=(const Sheet &) = delete;
 
     /** In the order of the pages. */
-    const QVector<SheetDesign> &designs() const { return m_designs; }
+    const SheetDesigns &designs() const { return m_designs; }
     QVector<SheetDesign> designsOf(const Section &section) const;
     const QVector<Section> &sections() const { return m_sections; }
     virtual DrawingWish wish() const = 0;
@@ -51,12 +52,12 @@ public:
                        const QVector<DrawnDesign> &drawn) const = 0;
 
 protected:
-    Sheet(const QVector<SheetDesign> &designs, const SheetOptions &options, const QSizeF &area);
+    Sheet(const SheetDesigns &designs, const SheetOptions &options, const QSizeF &area);
 
     /** Pixels of a picture of that many hundredths of a millimetre. */
     static int pixelsOf(double length);
 
-    QVector<SheetDesign> m_designs;
+    SheetDesigns m_designs;
     QVector<Section> m_sections;
     const SheetOptions m_options;
     const QSizeF m_area;

@@ -5,44 +5,39 @@
 
 #include <QFileInfo>
 
-namespace {
-
-SheetDesign fromRecord(const IFile &file, const QString &previews)
+SheetDesign SheetDesign::of(const IFile &file)
 {
     SheetDesign design;
     design.path = file.absoluteFilePath();
     design.fileSize = file.fileSize();
-    if (!file.contentHash().isEmpty())
-        design.previewPath =
-            previews + QString::fromLatin1(file.contentHash().toHex()) + QStringLiteral(".png");
+    const QByteArray hash = file.contentHash();
+    if (!hash.isEmpty())
+        design.previewPath = GlobalSettings().previewImagePath(hash);
     design.tags = file.tags();
     design.notes = file.notes();
     design.isFavorite = file.isFavorite();
     design.size = file.designSize();
     design.stitches = file.stitchCount();
-    design.colors = file.threads().size();
+    design.colors = file.threadsProp()->count();
     return design;
 }
-
-} // namespace
 
 QString SheetDesign::fileName() const
 {
     return QFileInfo(path).fileName();
 }
 
-QString SheetDesign::folder() const
+QString SheetDesign::folderOf(const QString &path)
 {
     return QFileInfo(path).path();
 }
 
 QVector<SheetDesign> SheetDesign::of(const QList<QSharedPointer<IFile>> &files)
 {
-    const QString previews = GlobalSettings().previewImagePath({});
     QVector<SheetDesign> designs;
     designs.reserve(files.size());
     for (const QSharedPointer<IFile> &file : files)
-        designs.append(fromRecord(*file, previews));
+        designs.append(of(*file));
     return designs;
 }
 

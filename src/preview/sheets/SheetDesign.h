@@ -29,9 +29,13 @@ struct SheetDesign
     int colors = 0;
 
     QString fileName() const;
-    QString folder() const;
+    QString folder() const { return folderOf(path); }
 
-    /** Records of the catalogue. Main thread only. */
+    /** Where a file lies. */
+    static QString folderOf(const QString &path);
+
+    /** A record of the catalogue. Main thread only. */
+    static SheetDesign of(const IFile &file);
     static QVector<SheetDesign> of(const QList<QSharedPointer<IFile>> &files);
     /** A file that the catalogue does not know. */
     static SheetDesign of(const QString &path);

@@ -48,8 +48,8 @@ SheetWriter::SheetWriter(const Sheet &sheet, IProgressAbortListener &progress)
 
 bool SheetWriter::write(QPagedPaintDevice &device, const std::function<void()> &check)
 {
-    const QVector<SheetDesign> &designs = m_sheet.designs();
-    DesignQueue queue(designs, m_sheet.wish());
+    const SheetDesigns &designs = m_sheet.designs();
+    DesignQueue queue(designs.mid(0, designs.size()), m_sheet.wish());
     Pages pages(device);
     m_progress.setSteps(designs.size());
     for (int i = 0; i < m_sheet.sections().size(); ++i) {

@@ -41,8 +41,7 @@ struct Fact
 
 } // namespace
 
-WorkSheet::WorkSheet(const QVector<SheetDesign> &designs, const SheetOptions &options,
-                     const QSizeF &area)
+WorkSheet::WorkSheet(const SheetDesigns &designs, const SheetOptions &options, const QSizeF &area)
     : Sheet(designs, options, area)
 {
     for (int i = 0; i < m_designs.size(); ++i)

@@ -15,7 +15,7 @@ class WorkSheet : public Sheet
     Q_DECLARE_TR_FUNCTIONS(WorkSheet)
 
 public:
-    WorkSheet(const QVector<SheetDesign> &designs, const SheetOptions &options, const QSizeF &area);
+    WorkSheet(const SheetDesigns &designs, const SheetOptions &options, const QSizeF &area);
 
     DrawingWish wish() const override;
     int pageCount(int section, const QVector<DrawnDesign> &drawn) const override;

@@ -22,8 +22,8 @@ constexpr int Delay = 150; // milliseconds
 
 } // namespace
 
-SheetDialog::SheetDialog(Purpose purpose, const QVector<SheetDesign> &selected,
-                         const QVector<SheetDesign> &shown, QWidget *parent)
+SheetDialog::SheetDialog(Purpose purpose, const SheetDesigns &selected, const SheetDesigns &shown,
+                         QWidget *parent)
     : QDialog(parent), m_selected(selected), m_shown(shown),
       m_form(new SheetForm(selected.size(), shown.size(), SheetSettings::load(), this)),
       m_pages(new SheetPages(this)), m_preview(new SheetPreview(m_pages, this))
@@ -112,7 +112,7 @@ SheetOptions SheetDialog::options() const
     return m_form->options();
 }
 
-const QVector<SheetDesign> &SheetDialog::designs() const
+const SheetDesigns &SheetDialog::designs() const
 {
     return m_form->isForSelection() ? m_selected : m_shown;
 }

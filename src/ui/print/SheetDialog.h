@@ -1,6 +1,6 @@
 #pragma once
 
-#include "preview/sheets/SheetDesign.h"
+#include "preview/sheets/SheetDesigns.h"
 #include "preview/sheets/SheetOptions.h"
 
 #include <QDialog>
@@ -22,11 +22,11 @@ public:
     enum Purpose { Print, ExportPdf };
 
     /** At least one of both lists must not be empty. */
-    SheetDialog(Purpose purpose, const QVector<SheetDesign> &selected,
-                const QVector<SheetDesign> &shown, QWidget *parent);
+    SheetDialog(Purpose purpose, const SheetDesigns &selected, const SheetDesigns &shown,
+                QWidget *parent);
 
     SheetOptions options() const;
-    const QVector<SheetDesign> &designs() const;
+    const SheetDesigns &designs() const;
 
 public slots:
     void accept() override;
@@ -37,8 +37,8 @@ private:
     void showSheet();
     void showPlace();
 
-    const QVector<SheetDesign> m_selected;
-    const QVector<SheetDesign> m_shown;
+    const SheetDesigns m_selected;
+    const SheetDesigns m_shown;
     SheetForm *m_form;
     SheetPages *m_pages;
     SheetPreview *m_preview;

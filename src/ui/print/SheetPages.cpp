@@ -17,7 +17,7 @@ SheetPages::SheetPages(QObject *parent) : QObject(parent)
     connect(&m_timer, &QTimer::timeout, this, &SheetPages::takeDesigns);
 }
 
-void SheetPages::setSheet(const QVector<SheetDesign> &designs, const SheetOptions &options)
+void SheetPages::setSheet(const SheetDesigns &designs, const SheetOptions &options)
 {
     m_options = options;
     const QSizeF area = options.pageLayout().paintRect(QPageLayout::Millimeter).size();

@@ -21,7 +21,7 @@ public:
     explicit SheetPages(QObject *parent = nullptr);
 
     /** Shows the first page of another sheet. */
-    void setSheet(const QVector<SheetDesign> &designs, const SheetOptions &options);
+    void setSheet(const SheetDesigns &designs, const SheetOptions &options);
 
     bool hasPrevious() const;
     bool hasNext() const;

@@ -25,7 +25,7 @@ bool SheetPrinter::choose(QWidget *parent)
     return dialog.exec() == QDialog::Accepted;
 }
 
-bool SheetPrinter::print(const QVector<SheetDesign> &designs, IProgressAbortListener &progress)
+bool SheetPrinter::print(const SheetDesigns &designs, IProgressAbortListener &progress)
 {
     const auto expectHealth = [this] {
         if (m_printer->printerState() == QPrinter::Error)

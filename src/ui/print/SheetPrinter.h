@@ -1,6 +1,6 @@
 #pragma once
 
-#include "preview/sheets/SheetDesign.h"
+#include "preview/sheets/SheetDesigns.h"
 #include "preview/sheets/SheetOptions.h"
 
 #include <memory>
@@ -28,7 +28,7 @@ public:
      * may still print.
      * @throws Error
      */
-    bool print(const QVector<SheetDesign> &designs, IProgressAbortListener &progress);
+    bool print(const SheetDesigns &designs, IProgressAbortListener &progress);
 
 private:
     const SheetOptions m_options;
