@@ -57,13 +57,14 @@ quint32 difference(quint32 a, quint32 b)
  */
 QByteArray scanLines(const QImage &image)
 {
-    QByteArray lines(image.height() * (image.width() * BytesPerPixel + 1), Qt::Uninitialized);
+    const int width = image.width(); // a call for each pixel otherwise
+    QByteArray lines(image.height() * (width * BytesPerPixel + 1), Qt::Uninitialized);
     char *next = lines.data();
     for (int y = 0; y < image.height(); ++y) {
         const auto *pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         *next++ = SubFilter;
         quint32 left = 0;
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             const quint32 pixel = pixels[x] << 8 | pixels[x] >> 24;
             qToBigEndian(difference(pixel, left), next);
             left = pixel;
@@ -75,8 +76,10 @@ QByteArray scanLines(const QImage &image)
 
 void appendCompressed(QByteArray &bytes, const QByteArray &data)
 {
-    const std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor(
-        libdeflate_alloc_compressor(FastestCompression));
+    // Kept: new memory for each picture has to be cleared by the system first.
+    thread_local std::unique_ptr<libdeflate_compressor, CompressorDeleter> compressor;
+    if (!compressor)
+        compressor.reset(libdeflate_alloc_compressor(FastestCompression));
     if (!compressor)
         throw std::bad_alloc();
     const int start = bytes.size();
