@@ -19,7 +19,10 @@ inline void fillCatalogue(Project *project, int count)
                                       .arg(name, QLatin1String(suffix)));
         file->setFileSize(20000 + i);
         file->setModificationDate(1609459200U + unsigned(i));
-        file->setContentHash(QByteArray(8, char(i)) + QByteArray::number(i).rightJustified(8, '0'));
+        // One in twenty is there twice.
+        const int content = i % 20 == 19 ? i - 1 : i;
+        file->setContentHash(QByteArray(8, char(content)) +
+                             QByteArray::number(content).rightJustified(8, '0'));
         file->setName(name);
         file->setDesignSize({50.0 + i % 150, 40.0 + i % 130});
         file->setStitchCount(1000 + i);

@@ -1,3 +1,5 @@
+#include "CatalogueActions.h"
+
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
 #include "catalogue/LargeCatalogue.h"
@@ -11,6 +13,7 @@
 #include "support/Figure.h"
 #include "ui/MainWindow.h"
 #include "widgets/controls/GTreeView.h"
+#include "WindowProbe.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -23,10 +26,11 @@
  * action up to and with the painted frame, in milliseconds of the processor on the
  * window's own thread, since that is what stands between a key and its effect.
  */
+using namespace WindowProbe;
+
 namespace {
 
-constexpr int Rounds = 3;
-constexpr int ScrollSteps = 50;
+constexpr int ScrollSteps = 200;
 constexpr int DifferentTags = 5000;
 
 class WindowActions
@@ -52,23 +56,13 @@ public:
         measureFolders();
         measureScrolling();
         measureSelection("select all", "select none");
+        CatalogueActions(m_window, files()).run();
         giveDifferentTags();
         measureSelection("select all, 5000 tags", "select none, 5000 tags");
         measureSave();
     }
 
 private:
-    /** Lets everything come to an end that goes on in slices or a moment later. */
-    static void settle() { QTest::qWait(400); }
-
-    static double take(const std::function<void()> &action)
-    {
-        return Figure::milliseconds([&] {
-            action();
-            QCoreApplication::processEvents();
-        });
-    }
-
     void measureSearch()
     {
         std::vector<double> first;
@@ -170,6 +164,14 @@ private:
         }
         Figure::print("save, window", Figure::median(here));
         Figure::print("save, all threads", Figure::median(everywhere));
+    }
+
+    QList<QSharedPointer<IFile>> files() const
+    {
+        QList<QSharedPointer<IFile>> files;
+        for (int i = 0; i < m_count; ++i)
+            files.append(fileAt(i));
+        return files;
     }
 
     QSharedPointer<IFile> fileAt(int index) const
