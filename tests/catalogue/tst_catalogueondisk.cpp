@@ -2,6 +2,7 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/IFile.h"
+#include "catalogue/sync/CatalogueFile.h"
 #include "catalogue/sync/ProjectController.h"
 #include "properties/undo/GUndoStack.h"
 #include "support/CatalogueFolder.h"
@@ -33,6 +34,15 @@ private slots:
     {
         m_controller.reset();
         m_folder.reset();
+    }
+
+    void holdsNoBytesOfWhatItHasRead()
+    {
+        put(catalogueWith("x"), 0);
+        CatalogueFile file(path());
+        const QByteArray bytes = file.read();
+        QVERIFY(!file.lastSeenHash().isEmpty());
+        QVERIFY(bytes.isDetached());
     }
 
     void leavesAloneWhatItCannotUse_data()

@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <utility>
 
 namespace {
 
@@ -87,8 +88,11 @@ void CatalogueFile::see(const FileStamp &stamp, const QByteArray &bytes)
 {
     m_lastSeen = stamp;
     m_folder = FileStamp::of(QFileInfo(m_path).absolutePath());
-    // Of a large catalogue it takes a while, and is seldom asked for.
-    m_hash = std::async(&digest, bytes).share();
+    // Of a large catalogue it takes a while, and is seldom asked for. What the work was given
+    // would be kept as long as what came of it.
+    m_hash = std::async([held = bytes]() mutable {
+                 return digest(std::exchange(held, QByteArray()));
+             }).share();
 }
 
 bool CatalogueFile::isAsLastSeen() const
