@@ -77,6 +77,18 @@ private slots:
         QVERIFY(box.height() < box.screen()->availableGeometry().height());
     }
 
+    // A window that grows when it is on the screen already may be put elsewhere by it.
+    void messageDoesNotGrow()
+    {
+        GMessageBox box(GMessageBox::Information, nullptr, QStringLiteral("main"),
+                        QStringLiteral("line\n").repeated(20));
+        box.show();
+        const QSize size = box.size();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QTest::qWait(0);
+        QCOMPARE(box.size(), size);
+    }
+
     // Nobody would answer a second box: the test would stand still.
     void sameMessageIsToldOnce()
     {

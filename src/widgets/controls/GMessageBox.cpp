@@ -117,6 +117,9 @@ void GMessageBox::replaceLabel(const QString &name, const QString &text, bool is
     view->fit(font);
     delete layout()->replaceWidget(label, view);
     label->hide();
+    // Not as late as the layout would: a box that grows when it is on the screen already may
+    // be moved into a corner by it.
+    view->show();
 }
 
 QMessageBox::StandardButton GMessageBox::run(Type type, const QString &text,
