@@ -175,7 +175,7 @@ QString ContactSheet::text(SheetOptions::Fact fact, const SheetDesign &design,
         return design.isFavorite ? QString(Star) + QLatin1Char(' ') + design.fileName()
                                  : design.fileName();
     case SheetOptions::Size:
-        return LocaleAwareFunctions::toString(drawn.size, m_options.imperial);
+        return LocaleAwareFunctions::toText(drawn.size, m_options.imperial);
     case SheetOptions::Stitches:
         return drawn.stitches > 0 ? tr("%1 stitches", nullptr, drawn.stitches)
                                         .arg(DesignTexts::number(drawn.stitches))

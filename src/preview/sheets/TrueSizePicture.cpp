@@ -69,7 +69,7 @@ TrueSizePicture::Placement TrueSizePicture::place(const QSizeF &area) const
 
 QString TrueSizePicture::hoopText() const
 {
-    return LocaleAwareFunctions::toString(*m_hoop, m_imperial);
+    return LocaleAwareFunctions::toText(*m_hoop, m_imperial);
 }
 
 QString TrueSizePicture::caption() const

@@ -152,10 +152,10 @@ void WorkSheet::paintFacts(QPainter &painter, const QRectF &area, const SheetDes
                            const DrawnDesign &drawn) const
 {
     QVector<Fact> facts{
-        {tr("Design size"), LocaleAwareFunctions::toString(drawn.size, m_options.imperial)}};
+        {tr("Design size"), LocaleAwareFunctions::toText(drawn.size, m_options.imperial)}};
     const auto hoop = Embroidery::HoopSizes::smallestAround(drawn.size, m_options.imperial);
     if (drawn.size.isValid())
-        facts.append({tr("Hoop"), hoop ? LocaleAwareFunctions::toString(*hoop, m_options.imperial)
+        facts.append({tr("Hoop"), hoop ? LocaleAwareFunctions::toText(*hoop, m_options.imperial)
                                        : tr("no hoop fits")});
     if (drawn.stitches > 0)
         facts.append({tr("Number of stitches"), DesignTexts::number(drawn.stitches)});
