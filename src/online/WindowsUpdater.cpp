@@ -6,6 +6,7 @@
 #include "online/services/GUrlProvider.h"
 #include "online/UpdateDialog.h"
 #include "widgets/controls/GMessageBox.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <QApplication>
 #include <QAuthenticator>
@@ -40,6 +41,12 @@ QWidget *mainWindow()
             return widget;
     }
     return nullptr;
+}
+
+/** As long as there is @p work. */
+void tellActivity(QObject *work)
+{
+    new StatusActivity(mainWindow(), WindowsUpdater::tr("Checking for updates..."), work);
 }
 
 } // namespace
@@ -95,6 +102,7 @@ void WindowsUpdater::startNetworkRequest(bool queryOnly, bool interactive, bool 
     ReplyLimits::prepare(request);
     QNetworkReply *reply = m_manager->post(request, QByteArray());
     ReplyLimits::apply(reply);
+    tellActivity(reply);
     if (interactive)
         m_awaited = reply;
 }
@@ -113,6 +121,7 @@ void WindowsUpdater::parseXML(const QByteArray &data, bool ignoreSkipped, bool i
                               const QString &explanation)
 {
     auto *watcher = new QFutureWatcher<UpdateFeed>(m_manager);
+    tellActivity(watcher);
     connect(watcher, &QFutureWatcher<UpdateFeed>::finished, this, [=] {
         watcher->deleteLater();
         const UpdateFeed feed = watcher->result();

@@ -6,6 +6,7 @@
 #include "ui_ExportDialogUI.h"
 #include "widgets/controls/FocusReturn.h"
 #include "widgets/controls/GMessageBox.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <algorithm>
 #include <QStorageInfo>
@@ -65,12 +66,21 @@ void ExportDialog::fillDriveList()
     const bool driveFound = list->count() > 0;
     if (!driveFound)
         list->addItem(m_looking ? tr("Looking for drives...") : tr("No removable USB drive found"));
+    tellSearch(!driveFound && m_looking);
     const bool isFirst = driveFound && !list->isEnabled();
     list->setEnabled(driveFound);
     // Until now Cancel was all that could have the keys.
     if (isFirst)
         list->setFocus(Qt::OtherFocusReason);
     m_ui->copyButton->setEnabled(driveFound);
+}
+
+void ExportDialog::tellSearch(bool looking)
+{
+    if (!looking)
+        m_search.reset();
+    else if (!m_search)
+        m_search = std::make_unique<StatusActivity>(this, tr("Looking for drives..."));
 }
 
 void ExportDialog::accept()

@@ -13,6 +13,7 @@
 class DrivePoller;
 class IFile;
 class QStorageInfo;
+class StatusActivity;
 
 namespace Ui {
 class ExportDialogUI;
@@ -47,6 +48,7 @@ public slots:
 private:
     void updateDriveList(const QList<DriveInfo> &drives, bool looking);
     void fillDriveList();
+    void tellSearch(bool looking);
     DriveInfo driveAt(const QString &target) const;
     void copyTo(const QString &target);
 
@@ -55,6 +57,7 @@ private:
     QTimer m_timer;
     QList<DriveInfo> m_drives;
     bool m_looking = true;
+    std::unique_ptr<StatusActivity> m_search; ///< while it is told that drives are looked for
     const QList<QSharedPointer<IFile>> m_files;
     DriveInfo m_drive;
     TransferResult m_result;

@@ -2,6 +2,7 @@
 
 #include "catalogue/records/Project.h"
 #include "ui/NoticeBar.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -37,6 +38,7 @@ FolderChangeNotice::FolderChangeNotice(QSharedPointer<Project> project, NoticeBa
       m_rescan(std::move(rescan)), m_watcher(new FolderWatcher(this))
 {
     connect(m_watcher, &FolderWatcher::changedFoldersChanged, this, &FolderChangeNotice::update);
+    connect(m_watcher, &FolderWatcher::lookingThrough, this, &FolderChangeNotice::tellActivity);
     // A drive may have been plugged in meanwhile.
     connect(qApp, &QGuiApplication::applicationStateChanged, m_watcher,
             [this](Qt::ApplicationState state) {
@@ -45,6 +47,16 @@ FolderChangeNotice::FolderChangeNotice(QSharedPointer<Project> project, NoticeBa
             });
     m_project->smartFoldersProp()->registerObserver(this);
     m_watcher->setFolders(m_project->smartFolders());
+}
+
+FolderChangeNotice::~FolderChangeNotice() = default;
+
+void FolderChangeNotice::tellActivity(bool isLooking)
+{
+    if (!isLooking)
+        m_activity.reset();
+    else if (!m_activity)
+        m_activity = std::make_unique<StatusActivity>(this, tr("Looking through the folders..."));
 }
 
 void FolderChangeNotice::observedObjectChanged(const Observable *)

@@ -4,11 +4,13 @@
 #include "properties/changes/Observer.h"
 
 #include <functional>
+#include <memory>
 #include <QObject>
 #include <QSharedPointer>
 
 class NoticeBar;
 class Project;
+class StatusActivity;
 
 /**
  * Tells at the top of the window which smart folders have changed, and offers the scan that
@@ -25,6 +27,7 @@ public:
      */
     FolderChangeNotice(QSharedPointer<Project> project, NoticeBar *notices,
                        std::function<void()> rescan, QObject *parent);
+    ~FolderChangeNotice() override;
 
     FolderWatcher *watcher() const { return m_watcher; }
 
@@ -32,10 +35,12 @@ public:
 
 private:
     void update();
+    void tellActivity(bool isLooking);
     QString text(const QStringList &folders) const;
 
     QSharedPointer<Project> m_project;
     NoticeBar *m_notices;
     std::function<void()> m_rescan;
     FolderWatcher *m_watcher;
+    std::unique_ptr<StatusActivity> m_activity;
 };

@@ -27,6 +27,8 @@
 #include "ui/SortMenu.h"
 #include "ui/StatusLine.h"
 #include "ui/TransferNotice.h"
+#include "widgets/controls/ActivityList.h"
+#include "widgets/controls/StatusActivity.h"
 #include "widgets/style/GWidgetStyles.h"
 
 #include <QApplication>
@@ -123,6 +125,7 @@ void MainWindow::createPanes()
 {
     m_splitter = new QSplitter(Qt::Horizontal, this);
     m_splitter->setStyleSheet(GWidgetStyles::MainWindow_SplitterStyle());
+    m_activities = new ActivityList(this);
     m_notices = new NoticeBar(this);
     m_transferNotice = new TransferNotice(m_notices, this);
     m_folderChanges = new FolderChangeNotice(
@@ -159,7 +162,7 @@ void MainWindow::createPanes()
 
 void MainWindow::createStatusLine()
 {
-    m_status = new StatusLine(this, m_controller->selectionModel());
+    m_status = new StatusLine(this, m_controller->selectionModel(), m_activities);
     setStatusBar(m_status);
     PreviewBrowser *browser = m_center->browser();
     const auto showZoom = [this, browser] {
@@ -252,14 +255,13 @@ void MainWindow::runWithProgress(const QString &activity, const std::function<vo
     m_scanNotice->withdraw();
     m_center->setScanning(true);
     m_keeper->setPaused(true);
-    m_status->setActivity(activity);
+    const StatusActivity status(this, activity);
     bool complete = false;
     m_folderChanges->watcher()->beginScan();
     const auto scanned = qScopeGuard([&] {
         m_keeper->setPaused(false);
         m_center->setScanning(false);
         m_folderChanges->watcher()->endScan(complete);
-        m_status->setActivity(QString());
         m_status->refresh();
         m_progressDialog->hide();
     });

@@ -6,6 +6,7 @@
 #include <memory>
 #include <QSharedPointer>
 
+class ActivityList;
 class CatalogueKeeper;
 class CenterView;
 class FolderChangeNotice;
@@ -119,6 +120,7 @@ private:
     QMenu *m_helpMenu = nullptr;
     GToolBar *m_toolbar = nullptr;
     ProgressDialog *m_progressDialog = nullptr;
+    ActivityList *m_activities = nullptr;
     NoticeBar *m_notices = nullptr;
     PathOpener *m_pathOpener = nullptr;
     TransferNotice *m_transferNotice = nullptr;

@@ -13,6 +13,7 @@
 #include "ui/print/SheetPrinter.h"
 #include "ui/ProgressDialog.h"
 #include "widgets/controls/GMessageBox.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -91,6 +92,7 @@ void SheetCommands::print(const SheetDialog &dialog)
     SheetPrinter printer(dialog.options());
     if (!printer.choose(m_window))
         return;
+    const StatusActivity activity(m_window, tr("Printing..."));
     ProgressDialog progress(m_window);
     progress.begin();
     try {
@@ -140,6 +142,7 @@ QString SheetCommands::askForPath(const SheetDialog &dialog)
 void SheetCommands::writePdf(const SheetDialog &dialog, const QString &path)
 {
     m_notices->withdraw(NoticeId);
+    const StatusActivity activity(m_window, tr("Writing the PDF..."));
     ProgressDialog progress(m_window);
     progress.begin();
     try {

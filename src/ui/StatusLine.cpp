@@ -5,6 +5,7 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"
+#include "widgets/controls/ActivityList.h"
 #include "widgets/controls/ScreenReader.h"
 
 #include <QLabel>
@@ -34,7 +35,7 @@ int pluralOf(qint64 value)
 
 } // namespace
 
-StatusLine::StatusLine(QWidget *parent, FilterSelectionModel *model)
+StatusLine::StatusLine(QWidget *parent, FilterSelectionModel *model, ActivityList *activities)
     : QStatusBar(parent), m_model(model), m_totals(new DesignTotals(this)),
       m_text(new QLabel(this)), m_activity(new QLabel(this)),
       m_zoom(new QSlider(Qt::Horizontal, this)), m_percent(new QLabel(this))
@@ -54,6 +55,8 @@ StatusLine::StatusLine(QWidget *parent, FilterSelectionModel *model)
     connect(m_model->filter(), &IFilterModel::filterChanged, this, &StatusLine::designsChanged);
     connect(m_model->selection(), &ISelectionModel::selectionChanged, this,
             &StatusLine::designsChanged);
+    connect(activities, &ActivityList::changed, this, &StatusLine::showActivity);
+    showActivity(activities->latest());
     designsChanged();
 }
 
@@ -84,7 +87,7 @@ void StatusLine::showZoom(int percent, int step)
     m_percent->setText(tr("%1%").arg(text(percent)));
 }
 
-void StatusLine::setActivity(const QString &text)
+void StatusLine::showActivity(const QString &text)
 {
     m_activity->setText(text);
     // What it tells of may keep the event loop from coming to it.

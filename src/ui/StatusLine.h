@@ -7,6 +7,7 @@
 #include <QStatusBar>
 #include <QTimer>
 
+class ActivityList;
 class DesignTotals;
 class FilterSelectionModel;
 class QLabel;
@@ -22,11 +23,8 @@ class StatusLine : public QStatusBar
     Q_OBJECT
 
 public:
-    /** @param model not owned, must outlive the line */
-    StatusLine(QWidget *parent, FilterSelectionModel *model);
-
-    /** Says what the program is doing, at once; an empty text when it is done. */
-    void setActivity(const QString &text);
+    /** @param model,activities not owned, must outlive the line */
+    StatusLine(QWidget *parent, FilterSelectionModel *model, ActivityList *activities);
 
     /** The number of the steps that the zoom slider has. */
     void setZoomSteps(int count);
@@ -43,6 +41,7 @@ signals:
 
 private:
     void createZoom();
+    void showActivity(const QString &text);
     void designsChanged();
     void count();
     void showCounted(qint64 stitches, int colors);

@@ -2,6 +2,7 @@
 
 #include "drives/DriveInfo.h"
 #include "ui/NoticeBar.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <QLocale>
 
@@ -19,9 +20,12 @@ TransferNotice::TransferNotice(NoticeBar *notices, QObject *parent)
 {
 }
 
+TransferNotice::~TransferNotice() = default;
+
 void TransferNotice::tell(const TransferResult &result, const DriveInfo &drive)
 {
     m_ejector.reset();
+    m_activity.reset();
     m_notices->withdraw(noticeId());
     if (result.copied == 0)
         return;
@@ -37,8 +41,10 @@ void TransferNotice::tell(const TransferResult &result, const DriveInfo &drive)
     tellText(text);
     m_ejector = std::make_unique<DriveEjector>(drive.mount.source);
     connect(m_ejector.get(), &DriveEjector::available, this, [this, text] { offerEject(text); });
-    connect(m_ejector.get(), &DriveEjector::ejected, this,
-            [this] { tellText(tr("%1 can be taken out now.").arg(m_driveName)); });
+    connect(m_ejector.get(), &DriveEjector::ejected, this, [this] {
+        m_activity.reset();
+        tellText(tr("%1 can be taken out now.").arg(m_driveName));
+    });
     connect(m_ejector.get(), &DriveEjector::failed, this, &TransferNotice::tellFailure);
     m_ejector->find();
 }
@@ -59,11 +65,13 @@ void TransferNotice::offerEject(const QString &text)
 void TransferNotice::eject()
 {
     tellText(tr("Ejecting %1...").arg(m_driveName));
+    m_activity = std::make_unique<StatusActivity>(this, tr("Ejecting %1...").arg(m_driveName));
     m_ejector->eject();
 }
 
 void TransferNotice::tellFailure(DriveEjector::Failure failure, const QString &systemText)
 {
+    m_activity.reset();
     QString reason = systemText;
     if (failure == DriveEjector::Busy)
         reason = tr("another program still uses it.");

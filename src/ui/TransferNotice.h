@@ -7,6 +7,7 @@
 #include <QObject>
 
 class NoticeBar;
+class StatusActivity;
 struct DriveInfo;
 struct Notice;
 
@@ -18,6 +19,7 @@ class TransferNotice : public QObject
 public:
     /** @param notices not owned, lives as long as this does */
     TransferNotice(NoticeBar *notices, QObject *parent);
+    ~TransferNotice() override;
 
     /** Tells of a transfer that is over, in the place of the one before. */
     void tell(const TransferResult &result, const DriveInfo &drive);
@@ -31,4 +33,5 @@ private:
     NoticeBar *m_notices;
     QString m_driveName;
     std::unique_ptr<DriveEjector> m_ejector;
+    std::unique_ptr<StatusActivity> m_activity;
 };

@@ -1,5 +1,7 @@
 #include "ui/TransferProgress.h"
 
+#include "widgets/controls/StatusActivity.h"
+
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLocale>
@@ -25,6 +27,7 @@ TransferResult TransferProgress::run(const QStringList &sources, const QString &
 {
     m_dialog.setSteps(sources.size());
     m_dialog.show();
+    const StatusActivity activity(&m_dialog, tr("Copying to the drive..."));
     QEventLoop loop;
     TransferJob job(sources, target, device);
     QTimer refresh;

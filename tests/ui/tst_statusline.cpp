@@ -9,8 +9,11 @@
 #include "support/Rows.h"
 #include "support/Widgets.h"
 #include "ui/StatusLine.h"
+#include "widgets/controls/ActivityList.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <algorithm>
+#include <QDialog>
 #include <QLabel>
 #include <QSlider>
 #include <QtTest>
@@ -63,7 +66,7 @@ private slots:
         describe(*project->files().at(2), project.data(), 1, {Qt::blue, Qt::blue, QColor()});
         FilterSelectionModel models(project);
         models.filter()->refreshFilter();
-        StatusLine line(nullptr, &models);
+        StatusLine line(nullptr, &models, &m_activities);
         line.show();
         models.filter()->setSearchSubstring(search);
         Files selected;
@@ -78,7 +81,7 @@ private slots:
         const auto project = projectOfSize(2);
         FilterSelectionModel models(project);
         models.filter()->refreshFilter();
-        StatusLine line(nullptr, &models);
+        StatusLine line(nullptr, &models, &m_activities);
         line.show();
         QTRY_VERIFY(says(line, "2 designs · 0 stitches · 0 colors"));
         describe(*project->files().at(0), project.data(), 7, {Qt::red});
@@ -98,7 +101,7 @@ private slots:
             file->setStitchCount(100000);
         FilterSelectionModel models(project);
         models.filter()->refreshFilter();
-        StatusLine line(nullptr, &models);
+        StatusLine line(nullptr, &models, &m_activities);
         line.show();
         for (const int selected : {Count, 5, Count - 1, 0}) {
             models.selection()->setSelection(files.mid(0, selected));
@@ -112,7 +115,7 @@ private slots:
     {
         const auto project = projectOfSize(1);
         FilterSelectionModel models(project);
-        StatusLine line(nullptr, &models);
+        StatusLine line(nullptr, &models, &m_activities);
         line.show();
         QSignalSpy chosen(&line, &StatusLine::zoomStepChosen);
         line.setZoomSteps(6);
@@ -126,8 +129,34 @@ private slots:
         QCOMPARE(chosen, (QList<QVariantList>{{4}, {0}, {1}}));
     }
 
+    void tellsWhatIsDone()
+    {
+        const auto project = projectOfSize(1);
+        FilterSelectionModel models(project);
+        QWidget window;
+        QDialog dialog(&window);
+        ActivityList activities(&window);
+        const StatusLine line(nullptr, &models, &activities);
+        QObject work;
+        {
+            const StatusActivity scan(&dialog, "<b>Scanning");
+            QVERIFY(says(line, "<b>Scanning"));
+            auto *check = new StatusActivity(&window, "Checking", &work);
+            QVERIFY(says(line, "Checking"));
+            delete check;
+            QVERIFY(says(line, "<b>Scanning"));
+            new StatusActivity(&window, "Checking", &work);
+        }
+        QVERIFY(says(line, "Checking"));
+        // What belongs to no window is told nowhere.
+        const StatusActivity elsewhere(&work, "Elsewhere");
+        qDeleteAll(work.children());
+        QVERIFY(says(line, ""));
+    }
+
 private:
     CatalogueFolder m_folder;
+    ActivityList m_activities;
 };
 
 QTEST_MAIN(tst_StatusLine)

@@ -95,11 +95,15 @@ void FolderWatcher::watch(const QString &folder)
             FolderWalk(shared->table, room, shared->abandoned).run(QFile::encodeName(folder));
             address.post([this, folder] {
                 m_beingWalked.remove(folder);
+                if (m_beingWalked.isEmpty())
+                    emit lookingThrough(false);
                 emit folderWatched(folder);
             });
         });
-    if (started)
-        m_beingWalked.insert(folder);
+    if (!started)
+        return;
+    m_beingWalked.insert(folder);
+    emit lookingThrough(true);
 }
 
 QStringList FolderWatcher::changedFolders() const

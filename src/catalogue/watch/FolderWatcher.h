@@ -47,6 +47,8 @@ public:
 signals:
     /** Other folders than before have changed, or none any more. */
     void changedFoldersChanged();
+    /** Folders are looked through for what is to be watched, or none any more. */
+    void lookingThrough(bool isLooking);
     /** All that can be watched of @p folder is watched now. */
     void folderWatched(const QString &folder);
 

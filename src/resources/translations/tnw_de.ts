@@ -626,5 +626,9 @@ Die Pakete des Programms bringen es mit. Wer das Programm selbst baut, braucht d
         <source>It was made without an address to ask. New versions come from where you got this one.</source>
         <translation>Sie wurde ohne Adresse für die Suche erstellt. Neue Versionen gibt es dort, woher Sie diese haben.</translation>
     </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Es wird nach Aktualisierungen gesucht …</translation>
+    </message>
 </context>
 </TS>

@@ -626,5 +626,9 @@ The packages of the program bring it along. Whoever builds the program needs the
         <source>It was made without an address to ask. New versions come from where you got this one.</source>
         <translation>它在构建时没有设置更新地址。请从获取此版本的地方获取新版本。</translation>
     </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>正在检查更新…</translation>
+    </message>
 </context>
 </TS>

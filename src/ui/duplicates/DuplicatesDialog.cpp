@@ -5,6 +5,7 @@
 #include "ui/duplicates/DuplicatesPage.h"
 #include "ui/duplicates/SearchPage.h"
 #include "widgets/controls/GMessageBox.h"
+#include "widgets/controls/StatusActivity.h"
 
 #include <algorithm>
 #include <QDir>
@@ -87,6 +88,7 @@ void DuplicatesDialog::search()
     m_finder = std::make_shared<DuplicateFinder>(candidatesOf(m_files));
     const auto result = std::make_shared<DuplicateResult>();
     m_timer.start(ProgressInterval);
+    m_activity = std::make_unique<StatusActivity>(this, tr("Comparing designs..."));
     m_work.run([finder = m_finder, result] { *result = finder->run(); },
                [this, result](const QString &error) { showResult(*result, error); });
 }
@@ -99,6 +101,7 @@ void DuplicatesDialog::showProgress()
 void DuplicatesDialog::showResult(const DuplicateResult &result, const QString &error)
 {
     m_timer.stop();
+    m_activity.reset();
     if (!error.isEmpty())
         GMessageBox::critical(tr("The designs could not be compared."), error, this);
     m_page->setResult(result, m_files);
@@ -153,6 +156,7 @@ bool DuplicatesDialog::areInCatalogue(const Files &files) const
 void DuplicatesDialog::moveToTrash(const IFile &kept, const Files &others)
 {
     m_page->setBusy(true);
+    m_activity = std::make_unique<StatusActivity>(this, tr("Moving files to the trash..."));
     m_stops = std::make_shared<std::atomic<bool>>(false);
     const auto outcome = std::make_shared<DuplicateCleaner::Outcome>();
     m_work.run(
@@ -165,6 +169,7 @@ void DuplicatesDialog::moveToTrash(const IFile &kept, const Files &others)
 void DuplicatesDialog::finishMove(const DuplicateCleaner::Outcome &outcome, const QString &error)
 {
     m_page->setBusy(false);
+    m_activity.reset();
     if (!outcome.moved.isEmpty()) {
         DuplicateWords::removeRecords(*m_project, outcome.moved);
         m_save();

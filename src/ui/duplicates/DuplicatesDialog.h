@@ -12,6 +12,7 @@
 #include <QTimer>
 
 class DuplicateFinder;
+class StatusActivity;
 class DuplicatesPage;
 class QStackedWidget;
 class SearchPage;
@@ -53,6 +54,7 @@ private:
     const Files m_files;
     std::shared_ptr<DuplicateFinder> m_finder;
     std::shared_ptr<std::atomic<bool>> m_stops;
+    std::unique_ptr<StatusActivity> m_activity;
     BackgroundWork m_work;
     QTimer m_timer;
     QStackedWidget *m_pages;
