@@ -70,7 +70,7 @@ bool OrganiserGuard::isOrganiserRunning() const
 
 QString OrganiserGuard::runningText()
 {
-    return tr("Hoopline Organizer is running. Close it first, or rescan in its window.");
+    return tr("Hoopline Organizer is running. Close it first, or do it in its window.");
 }
 
 bool OrganiserGuard::knowsThatNoneRuns() const

@@ -1,6 +1,7 @@
 #include "cli/StandardInput.h"
 
 #include "base/Error.h"
+#include "cli/CommandError.h"
 #include "cli/LocalPath.h"
 #include <cstdio>
 #include <QFile>
@@ -45,6 +46,10 @@ QStringList StandardInput::fileNames(bool nullSeparated)
     QStringList names;
     const QList<QByteArray> lines = readAll().split(nullSeparated ? '\0' : '\n');
     for (const QByteArray &line : lines) {
+        // All behind the first NUL would be left out without a word.
+        if (line.contains('\0'))
+            throw UsageError(
+                tr("The names on standard input end with a NUL; -0 reads such names."));
         if (!line.isEmpty())
             names.append(QFile::decodeName(line));
     }

@@ -20,6 +20,10 @@ public:
     /** The same of the file @p name, or of standard input for a dash. @throws Error */
     static QByteArray readAll(const QString &name);
 
-    /** The names of files, one per line, or each with a NUL behind it. @throws Error */
+    /**
+     * The names of files, one per line, or each with a NUL behind it.
+     * @throws UsageError for a NUL among lines
+     * @throws Error
+     */
     static QStringList fileNames(bool nullSeparated);
 };

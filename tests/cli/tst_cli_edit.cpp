@@ -81,6 +81,7 @@ private slots:
         row("misspelt verb", {"tag", "remvoe", "x", "d/a.dst"}, 2, "Did you mean 'remove'?");
         row("blank tag", {"tag", "add", " ", "d/a.dst"}, 2, "No tag given");
         row("text and names from input", {"note", "-", "-"}, 2, "Only one thing");
+        row("names that end with NUL", {"favorite", "-"}, 2, "-0 reads such names");
         row("folder that is none of ours", {"folders", "remove", "e", "d/sub"}, 1, "none of the");
         row("folder with words", {"folders", "remove", "e", "d"}, 1, "1 design in there has");
     }
@@ -91,7 +92,7 @@ private slots:
         QFETCH(QByteArray, message);
         QCOMPARE(m_cli->run({"note", "old", "d/a.dst"}).status, 0);
         const QByteArray before = catalogue();
-        const auto result = m_cli->run(command);
+        const auto result = m_cli->run(command, QByteArray("d/a.dst\0e/e.dst\0", 16));
         QTEST(result.status, "status");
         QVERIFY2(result.error.contains(message), result.error);
         QCOMPARE(result.out, QByteArray());
