@@ -12,7 +12,6 @@ const QString ApplicationDataPath = QStringLiteral("applicationDataPath");
 const QString LastImportPath = QStringLiteral("lastImportPath");
 const QString GridScaleFactor = QStringLiteral("gridScaleFactor");
 const QString SortOrder = QStringLiteral("sortOrder");
-const QString FabricColor = QStringLiteral("fabricColor");
 const QString JumpsShown = QStringLiteral("jumpsShown");
 const QString HoopShown = QStringLiteral("hoopShown");
 const QString DesignWindowGeometry = QStringLiteral("designWindowGeometry");
@@ -104,16 +103,6 @@ QString GlobalSettings::sortOrder() const
 void GlobalSettings::setSortOrder(const QString &order)
 {
     setValue(SortOrder, order);
-}
-
-QString GlobalSettings::fabricColor() const
-{
-    return value(FabricColor, QStringLiteral("#f7f5f0")).toString();
-}
-
-void GlobalSettings::setFabricColor(const QString &color)
-{
-    setValue(FabricColor, color);
 }
 
 bool GlobalSettings::jumpsShown() const

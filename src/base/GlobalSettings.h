@@ -49,10 +49,6 @@ public:
     QString sortOrder() const;
     void setSortOrder(const QString &order);
 
-    /** Of the design window, as "#rrggbb": what the design lies on. */
-    QString fabricColor() const;
-    void setFabricColor(const QString &color);
-
     /** Whether the design window shows the jumps between stitches, and the hoop. */
     bool jumpsShown() const;
     void setJumpsShown(bool shown);

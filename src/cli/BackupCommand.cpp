@@ -6,6 +6,8 @@
 #include "catalogue/backups/GzipFormat.h"
 #include "catalogue/sync/CatalogueFile.h"
 #include "catalogue/sync/ProjectController.h"
+#include "catalogue/userdata/RememberedData.h"
+#include "catalogue/userdata/UserDataMemory.h"
 #include "cli/BackupReport.h"
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
@@ -23,7 +25,7 @@ QString BackupCommand::description() const
 {
     return tr("Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the "
               "name ends in .gz, or without one among the backups that the program makes by "
-              "itself.");
+              "itself. Saved searches go to a file beside it that ends in .searches.json.");
 }
 
 QList<QCommandLineOption> BackupCommand::options() const
@@ -41,12 +43,17 @@ int BackupCommand::run(const CommandLine &line) const
 
     const QString path = ProjectController().projectFilePath();
     const QByteArray bytes = catalogue(path);
+    const QByteArray searches = RememberedData::searchesForBackup(UserDataMemory::pathBeside(path));
+    if (!names.isEmpty() && !searches.isEmpty())
+        OutputFile::check(BackupFolder::searchesBeside(names.constFirst()), {},
+                          line.isSet("force"));
     const auto summary = BackupSummary::of(bytes);
     if (!summary)
         throw Error(tr("The catalogue is damaged; no backup was made."));
-    const QString target = names.isEmpty() ? BackupFolder(BackupFolder::pathBeside(path))
-                                                 .keepMoment(bytes, QDateTime::currentDateTime())
-                                           : write(bytes, names.constFirst());
+    const QString target = names.isEmpty()
+                               ? BackupFolder(BackupFolder::pathBeside(path))
+                                     .keepMoment(bytes, QDateTime::currentDateTime(), searches)
+                               : write(bytes, searches, names.constFirst());
     StandardOutput output;
     output.writeLine(Console::printable(target));
     output.writeRemark(BackupReport::line(*summary));
@@ -62,8 +69,12 @@ QByteArray BackupCommand::catalogue(const QString &path)
     }
 }
 
-QString BackupCommand::write(const QByteArray &catalogue, const QString &name)
+QString BackupCommand::write(const QByteArray &catalogue, const QByteArray &searches,
+                             const QString &name)
 {
+    if (!searches.isEmpty())
+        OutputFile::write(BackupFolder::searchesBeside(name), searches, FileReplacement::Durable,
+                          FileReplacement::Private);
     const bool compressed = name.endsWith(QLatin1String(".gz"), Qt::CaseInsensitive);
     OutputFile::write(name, compressed ? GzipFormat::compressed(catalogue) : catalogue,
                       FileReplacement::Durable, FileReplacement::Private);

@@ -21,5 +21,6 @@ public:
 
 private:
     static QByteArray catalogue(const QString &path);
-    static QString write(const QByteArray &catalogue, const QString &name);
+    static QString write(const QByteArray &catalogue, const QByteArray &searches,
+                         const QString &name);
 };

@@ -2,6 +2,7 @@
 
 #include "catalogue/backups/BackupFolder.h"
 #include "catalogue/backups/BackupSummary.h"
+#include "catalogue/userdata/RememberedData.h"
 #include "cli/BackupReport.h"
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
@@ -34,6 +35,11 @@ int RestoreCommand::run(const CommandLine &line) const
     RestoreController controller;
     controller.open();
     const QString kept = controller.restore(path);
+
+    const UserDataMemory *memory = controller.memory();
+    const QString failure = memory ? memory->remembered()->failure() : QString();
+    if (!failure.isEmpty())
+        throw Error(tr("The saved searches of the backup could not be kept: %1").arg(failure));
 
     StandardOutput output;
     output.writeLine(Console::printable(kept));

@@ -2,6 +2,7 @@
 
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/sync/ProjectController.h"
+#include "catalogue/userdata/RememberedData.h"
 #include "ui/CatalogueQuestions.h"
 #include "ui/NoticeBar.h"
 #include "widgets/controls/DesktopInteraction.h"
@@ -20,6 +21,7 @@ constexpr int LeastPause = 20; // times as long as the last attempt
 
 const QString Unsaved = QStringLiteral("unsaved");
 const QString Unreadable = QStringLiteral("unreadable");
+const QString Unremembered = QStringLiteral("unremembered");
 const QString NoBackup = QStringLiteral("no backup");
 
 /** Why @p attempt has failed; null when it has not. */
@@ -46,6 +48,8 @@ CatalogueKeeper::CatalogueKeeper(ProjectController *controller, NoticeBar *notic
 {
     m_retryTimer.setSingleShot(true);
     connect(&m_retryTimer, &QTimer::timeout, this, &CatalogueKeeper::retry);
+    connect(remembered(), &RememberedData::failed, this, &CatalogueKeeper::tellUnremembered);
+    tellUnremembered(remembered()->failure());
 }
 
 void CatalogueKeeper::save()
@@ -147,6 +151,23 @@ void CatalogueKeeper::tellUnreadable(const QString &reason)
          tr("Another program has changed the catalogue, and it cannot be read: %1").arg(reason),
          {{tr("Try again"), [this] { reload(); }},
           {tr("Save a copy..."), [this] { saveCopy(); }}}});
+}
+
+/** The store tries again by itself. */
+void CatalogueKeeper::tellUnremembered(const QString &reason)
+{
+    if (reason.isEmpty())
+        m_notices->withdraw(Unremembered);
+    else
+        m_notices->tell({Unremembered,
+                         Notice::Problem,
+                         tr("Saved searches cannot be saved: %1").arg(reason),
+                         {{tr("Try again"), [this] { remembered()->tryAgain(); }}}});
+}
+
+RememberedData *CatalogueKeeper::remembered() const
+{
+    return m_controller->memory()->remembered();
 }
 
 void CatalogueKeeper::tellKept()
@@ -260,8 +281,8 @@ void CatalogueKeeper::retry()
 bool CatalogueKeeper::saveBeforeEnd()
 {
     for (;;) {
-        const QString reason = trySave();
-        if (reason.isNull())
+        const QString reason = tryToEnd();
+        if (reason.isEmpty())
             return true;
         m_retryTimer.stop();
         switch (CatalogueQuestions::askAtEnd(m_window, reason)) {
@@ -278,6 +299,13 @@ bool CatalogueKeeper::saveBeforeEnd()
             return false;
         }
     }
+}
+
+/** Why something would be lost if the program ended now; empty when nothing would be. */
+QString CatalogueKeeper::tryToEnd()
+{
+    const QString reason = trySave();
+    return reason.isNull() && !m_givenUp ? remembered()->failure() : reason;
 }
 
 bool CatalogueKeeper::saveCopy()

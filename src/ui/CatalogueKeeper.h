@@ -12,6 +12,7 @@
 class CatalogueUnsavedError;
 class NoticeBar;
 class ProjectController;
+class RememberedData;
 
 /**
  * Gets the catalogue to the disk and back for the window, and writes it beside the window
@@ -75,6 +76,9 @@ private:
     void tellFolderWasMissing();
     void tellSaved(const QString &failure);
     void tellUnreadable(const QString &reason);
+    void tellUnremembered(const QString &reason);
+    QString tryToEnd();
+    RememberedData *remembered() const;
     void withdrawWhatIsRight();
     void retryLater(std::chrono::milliseconds lastAttempt);
     void retry();

@@ -18,8 +18,9 @@
 #include <QVBoxLayout>
 
 CenterView::CenterView(QWidget *parent, const QSharedPointer<Project> &project,
-                       FilterSelectionModel *model)
-    : QWidget(parent), m_model(model), m_filterBar(new FilterBar(this, project, model->filter())),
+                       FilterSelectionModel *model, RememberedValues *values)
+    : QWidget(parent), m_model(model), m_values(values),
+      m_filterBar(new FilterBar(this, project, model->filter())),
       m_browser(new PreviewBrowser(this, project, model)),
       m_hint(new EmptyHint(m_browser, project, model->filter())),
       m_dropHelper(new DragDropHelper(this, DragDropHelper::Directories))
@@ -130,7 +131,7 @@ void CenterView::openDesign()
 void CenterView::showInWindow(const QSharedPointer<IFile> &file)
 {
     if (!m_designWindow) {
-        m_designWindow = std::make_unique<DesignWindow>(m_model->filter());
+        m_designWindow = std::make_unique<DesignWindow>(m_model->filter(), m_values);
         connect(m_designWindow.get(), &DesignWindow::designShown, m_browser,
                 &PreviewBrowser::showDesign);
     }

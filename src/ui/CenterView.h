@@ -13,6 +13,7 @@ class FilterSelectionModel;
 class IFile;
 class PreviewBrowser;
 class Project;
+class RememberedValues;
 
 /**
  * The grid of designs below the strip that narrows it. Takes folders that are dropped on it.
@@ -22,9 +23,9 @@ class CenterView : public QWidget
     Q_OBJECT
 
 public:
-    /** @param model not owned, must outlive the view */
-    CenterView(QWidget *parent, const QSharedPointer<Project> &project,
-               FilterSelectionModel *model);
+    /** @param model,values not owned, must outlive the view */
+    CenterView(QWidget *parent, const QSharedPointer<Project> &project, FilterSelectionModel *model,
+               RememberedValues *values);
     ~CenterView() override;
 
     /** The grid, whose zoom the status line shows. */
@@ -69,6 +70,7 @@ private:
     void showInWindow(const QSharedPointer<IFile> &file);
 
     FilterSelectionModel *m_model;
+    RememberedValues *m_values;
     FilterBar *m_filterBar;
     PreviewBrowser *m_browser;
     EmptyHint *m_hint;

@@ -8,11 +8,11 @@
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
 #include "catalogue/models/ISelectionModel.h"
-#include "catalogue/query/SavedSearchesFile.h"
 #include "catalogue/records/CatalogueErrors.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/scan/PreviewRepair.h"
 #include "catalogue/sync/ProjectController.h"
+#include "catalogue/userdata/RememberedData.h"
 #include "online/metrics/Metrics.h"
 #include "preview/cache/PreviewCache.h"
 #include "preview/grid/PreviewBrowser.h"
@@ -141,10 +141,9 @@ void MainWindow::createPanes()
     setCentralWidget(central);
     FilterSelectionModel *model = m_controller->selectionModel();
     m_left = new LeftSidebar(this, m_project, model->filter());
-    m_savedSearches = std::make_unique<SavedSearchesFile>(
-        SavedSearchesFile::besideCatalogue(m_controller->projectFilePath()));
-    m_saveSearchAction = m_left->addSavedSearches(m_savedSearches.get());
-    m_center = new CenterView(this, m_project, model);
+    RememberedData *remembered = memory()->remembered();
+    m_saveSearchAction = m_left->addSavedSearches(remembered->searches());
+    m_center = new CenterView(this, m_project, model, remembered->values());
     m_right = new RightSidebar(this, m_project, model->selection());
     m_keeper = std::make_unique<CatalogueKeeper>(m_controller.get(), m_notices, this);
     connect(m_keeper.get(), &CatalogueKeeper::backupsWanted, this, &MainWindow::showBackups);

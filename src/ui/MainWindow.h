@@ -20,7 +20,6 @@ class Project;
 class ProjectController;
 class RightSidebar;
 class TransferNotice;
-class SavedSearches;
 class StatusLine;
 class ScanNotice;
 class UserDataMemory;
@@ -134,6 +133,5 @@ private:
     QSharedPointer<Project> m_project;
     std::unique_ptr<ProjectController> m_controller;
     std::unique_ptr<CatalogueKeeper> m_keeper;
-    std::unique_ptr<SavedSearches> m_savedSearches;
     bool m_operationRunning = false;
 };

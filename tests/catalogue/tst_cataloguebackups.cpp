@@ -1,6 +1,7 @@
 #include "base/Error.h"
 #include "catalogue/Catalogue.h"
 #include "catalogue/sync/ProjectController.h"
+#include "catalogue/userdata/RememberedData.h"
 #include "support/CatalogueFolder.h"
 #include "support/Rows.h"
 
@@ -93,6 +94,26 @@ private slots:
         m_controller->restore(kept);
         QCOMPARE(tags().size(), 3);
         QVERIFY(saved().size() > present.size());
+    }
+
+    void carriesSavedSearches()
+    {
+        put(catalogueWith("yesterday"));
+        m_controller->loadOrCreateProject();
+        SavedSearches *searches = m_controller->memory()->remembered()->searches();
+        searches->add({"Roses", "rose"});
+        edit();
+        m_controller->saveProjectIfModified();
+        searches->remove("Roses");
+        searches->add({"Later", "tag:edited"});
+        const QString backup = m_controller->backups().entries().last().path;
+        const QString kept = m_controller->restore(backup);
+        QCOMPARE(searches->all(), (QList<SavedSearch>{{"Later", "tag:edited"}, {"Roses", "rose"}}));
+        QCOMPARE(m_controller->backups().entries().size(), 2);
+        QVERIFY(BackupFolder::readSearches(kept).contains("Later"));
+        const QString copy = m_folder->dataFile("copy.xml");
+        m_controller->saveCopy(copy);
+        QVERIFY(BackupFolder::readSearches(copy).contains("Roses"));
     }
 
     void restoresNothingThatIsDamaged_data()

@@ -1,4 +1,5 @@
 #include "base/files/FileLock.h"
+#include "catalogue/userdata/UserDataDatabase.h"
 #include "CliProcess.h"
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
@@ -36,6 +37,8 @@ private slots:
         QFETCH(QString, name);
         QFETCH(bool, compressed);
         const QByteArray before = catalogue();
+        const SavedSearch search{"Roses", "name:rose"};
+        UserDataDatabase(file("user-data.sqlite")).remember({{{search}, {}}, {}});
         auto result = m_cli->run({"backup", name});
         QCOMPARE(result.status, 0);
         QCOMPARE(result.out, m_cli->workPath(name).toUtf8() + '\n');
@@ -46,9 +49,12 @@ private slots:
         QCOMPARE(m_cli->run({"scan"}).status, 0);
         const QByteArray after = catalogue();
         QVERIFY(after != before);
+        UserDataDatabase(file("user-data.sqlite")).remember({{{}, {search.name}}, {}});
         result = m_cli->run({"restore", name});
         QCOMPARE(result.status, 0);
         QCOMPARE(catalogue(), before);
+        QCOMPARE(UserDataDatabase(file("user-data.sqlite")).remembered().searches.written,
+                 QList<SavedSearch>{search});
 
         // And what was there last comes back by what the command has printed.
         QCOMPARE(m_cli->run({"restore", QString::fromUtf8(result.out.trimmed())}).status, 0);

@@ -2,6 +2,8 @@
 
 #include "app/frame/GAction.h"
 #include "catalogue/records/IFile.h"
+#include "catalogue/userdata/RememberedData.h"
+#include "catalogue/userdata/UserDataMemory.h"
 #include "preview/grid/GridPreviewScene.h"
 #include "support/FullDisk.h"
 #include "support/MessageBoxes.h"
@@ -193,6 +195,24 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().contains("<is_favorite>true"));
         QCOMPARE(told().size(), 1);
+    }
+
+    void keepsSavedSearchesUntilThereIsRoom()
+    {
+        {
+            const FullDisk disk;
+            m_window->memory()->remembered()->searches()->add({"a", "1"});
+            QTRY_COMPARE(told().size(), 1);
+            QVERIFY(told().constFirst().startsWith("Saved searches cannot be saved: "));
+            const MessageBoxes boxes(QStringList("Cancel"));
+            QVERIFY(!m_window->closeWindow());
+            QCOMPARE(boxes.count(), 1);
+        }
+        QTest::mouseClick(button("Try again"), Qt::LeftButton);
+        QTRY_VERIFY(told().isEmpty());
+        delete m_window;
+        open();
+        QCOMPARE(m_window->memory()->remembered()->searches()->all().size(), 1);
     }
 
     void asksAtTheEnd_data()

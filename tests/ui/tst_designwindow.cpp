@@ -1,6 +1,7 @@
 #include "base/GTranslationLoader.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/IFilterModel.h"
+#include "catalogue/userdata/RememberedValues.h"
 #include "PanelFixture.h"
 #include "support/CatalogueFolder.h"
 #include "support/DstDesign.h"
@@ -44,7 +45,7 @@ struct Fixture
 
     void openWindow()
     {
-        window = std::make_unique<DesignWindow>(models->filter());
+        window = std::make_unique<DesignWindow>(models->filter(), &values);
         view = window->findChild<DesignView *>();
         slider = window->findChild<SewingSlider *>();
         threads = window->findChild<ThreadTable *>();
@@ -106,6 +107,7 @@ struct Fixture
     CatalogueFolder folder;
     QSharedPointer<Project> project;
     std::unique_ptr<FilterSelectionModel> models;
+    RememberedValues values;
     std::unique_ptr<DesignWindow> window;
     DesignView *view = nullptr;
     SewingSlider *slider = nullptr;
@@ -323,7 +325,7 @@ private slots:
         fixture.press(Qt::Key_H);
         // Without the hoop around it, there is room for a larger design.
         QVERIFY(fixture.view->zoom() > inHoop);
-        QCOMPARE(fixture.cornerOfView(), QColor(GlobalSettings().fabricColor()));
+        QCOMPARE(fixture.cornerOfView(), QColor("#f7f5f0"));
         fixture.chooseFabric(9);
         QTRY_COMPARE(fixture.cornerOfView(), Black);
 

@@ -2,7 +2,7 @@
 
 #include "app/frame/GAction.h"
 #include "catalogue/models/FilterModel.h"
-#include "catalogue/query/SavedSearchesFile.h"
+#include "catalogue/query/SavedSearches.h"
 #include "support/MessageBoxes.h"
 #include "ui/panels/SavedSearchesBox.h"
 #include "widgets/controls/GExpandingTitle.h"
@@ -18,8 +18,7 @@ private slots:
     void init()
     {
         m_box.reset();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_searches = std::make_unique<SavedSearchesFile>(m_dir->filePath("searches.json"));
+        m_searches = std::make_unique<SavedSearches>();
         m_filter = std::make_unique<FilterModel>(projectWithFiles({"/d/rose.pes", "/d/tulip.dst"}));
         m_box = std::make_unique<SavedSearchesBox>(nullptr, m_searches.get(), m_filter.get());
         m_list = m_box->findChild<QListWidget *>();
@@ -130,8 +129,7 @@ private:
 
     QLineEdit *editor() const { return m_list->findChild<QLineEdit *>(); }
 
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<SavedSearchesFile> m_searches;
+    std::unique_ptr<SavedSearches> m_searches;
     std::unique_ptr<FilterModel> m_filter;
     std::unique_ptr<SavedSearchesBox> m_box;
     QListWidget *m_list = nullptr;

@@ -4,6 +4,7 @@
 #include "base/files/FileStamp.h"
 #include "base/files/FileTools.h"
 #include "base/files/PrivateAccess.h"
+#include "base/GDebug.h"
 #include "catalogue/backups/BackupRetention.h"
 #include "catalogue/backups/GzipFormat.h"
 
@@ -37,13 +38,15 @@ bool BackupFolder::hasDay(const QDate &day) const
     return FileStamp::of(pathOf(BackupName::ofDay(day))).exists();
 }
 
-void BackupFolder::keepDay(const QByteArray &catalogue, const QDate &day)
+void BackupFolder::keepDay(const QByteArray &catalogue, const QDate &day,
+                           const QByteArray &searches)
 {
-    write(BackupName::ofDay(day), catalogue);
+    write(BackupName::ofDay(day), catalogue, searches);
     clear(day);
 }
 
-QString BackupFolder::keepMoment(const QByteArray &catalogue, const QDateTime &now)
+QString BackupFolder::keepMoment(const QByteArray &catalogue, const QDateTime &now,
+                                 const QByteArray &searches)
 {
     if (isNewest(catalogue))
         return entries().constFirst().path;
@@ -51,7 +54,7 @@ QString BackupFolder::keepMoment(const QByteArray &catalogue, const QDateTime &n
     while (FileStamp::of(pathOf(BackupName::ofMoment(now, number))).exists())
         ++number;
     const BackupName name = BackupName::ofMoment(now, number);
-    write(name, catalogue);
+    write(name, catalogue, searches);
     clear(now.date());
     return pathOf(name);
 }
@@ -80,11 +83,37 @@ QByteArray BackupFolder::read(const QString &path)
     }
 }
 
-void BackupFolder::write(const BackupName &name, const QByteArray &catalogue)
+QString BackupFolder::searchesBeside(const QString &path)
+{
+    QString stem = path;
+    for (const char *suffix : {".gz", ".xml"}) {
+        if (stem.endsWith(QLatin1String(suffix), Qt::CaseInsensitive))
+            stem.chop(int(qstrlen(suffix)));
+    }
+    return stem + QStringLiteral(".searches.json");
+}
+
+QByteArray BackupFolder::readSearches(const QString &path)
+{
+    const QString searches = searchesBeside(path);
+    try {
+        return FileStamp::of(searches).exists() ? FileTools::readAll(searches) : QByteArray();
+    } catch (const Error &error) {
+        gWarning("BackupFolder") << error.toString();
+        return {};
+    }
+}
+
+void BackupFolder::write(const BackupName &name, const QByteArray &catalogue,
+                         const QByteArray &searches)
 {
     PrivateAccess::makeFolder(m_path);
     PrivateAccess::takeFromOthers(m_path);
     FileReplacement::removeLeftovers(m_path);
+    // Ahead of the backup, which is what tells that there is one.
+    if (!searches.isEmpty())
+        FileTools::writeAll(searchesBeside(pathOf(name)), searches, FileTools::Binary,
+                            FileReplacement::Durable, FileReplacement::Private);
     FileTools::writeAll(pathOf(name), GzipFormat::compressed(catalogue), FileTools::Binary,
                         FileReplacement::Durable, FileReplacement::Private);
 }
@@ -96,8 +125,10 @@ void BackupFolder::clear(const QDate &today)
     for (const Entry &entry : all)
         names.append(entry.name);
     const QVector<BackupName> outdated = BackupRetention::outdated(names, today);
-    for (const BackupName &name : outdated)
+    for (const BackupName &name : outdated) {
         QFile::remove(pathOf(name));
+        QFile::remove(searchesBeside(pathOf(name)));
+    }
 }
 
 QString BackupFolder::pathOf(const BackupName &name) const

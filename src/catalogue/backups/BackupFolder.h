@@ -36,20 +36,30 @@ public:
     /** Whether there is the backup of that day already. */
     bool hasDay(const QDate &day) const;
 
-    /** Keeps the catalogue as it was before the first save of @p day; clears outdated ones. */
-    void keepDay(const QByteArray &catalogue, const QDate &day);
+    /**
+     * Keeps the catalogue as it was before the first save of @p day; clears outdated ones.
+     * @param searches what is saved beside the catalogue; empty for nothing
+     */
+    void keepDay(const QByteArray &catalogue, const QDate &day, const QByteArray &searches = {});
 
     /**
      * Keeps a catalogue that has to give way, and clears outdated ones. Returns the path;
      * bytes that the newest backup holds already are not kept twice.
      */
-    QString keepMoment(const QByteArray &catalogue, const QDateTime &now);
+    QString keepMoment(const QByteArray &catalogue, const QDateTime &now,
+                       const QByteArray &searches = {});
 
     /** The catalogue in a file: a backup of whatever name, or a copy that is not compressed. */
     static QByteArray read(const QString &path);
 
+    /** Where the saved searches lie that go with the catalogue in the file @p path. */
+    static QString searchesBeside(const QString &path);
+
+    /** Those searches; empty when there are none, or none that can be read. */
+    static QByteArray readSearches(const QString &path);
+
 private:
-    void write(const BackupName &name, const QByteArray &catalogue);
+    void write(const BackupName &name, const QByteArray &catalogue, const QByteArray &searches);
     void clear(const QDate &today);
     bool isNewest(const QByteArray &catalogue) const;
     QString pathOf(const BackupName &name) const;

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 /** A search under the name that the user gave it. */
 struct SavedSearch
@@ -17,7 +18,19 @@ struct SavedSearch
     }
 };
 
-/** The searches that the user has saved, under names that differ. Main thread only. */
+/** What has become of saved searches in one go. */
+struct SavedSearchEdits
+{
+    QList<SavedSearch> written;
+    QStringList removed; ///< names, all gone before anything is written
+
+    bool isEmpty() const { return written.isEmpty() && removed.isEmpty(); }
+};
+
+/**
+ * The searches that the user has saved, under names that differ. Whoever keeps them listens
+ * to what is edited. Main thread only.
+ */
 class SavedSearches : public QObject
 {
     Q_OBJECT
@@ -26,24 +39,30 @@ public:
     using QObject::QObject;
 
     /** In natural order of the names. */
-    virtual QList<SavedSearch> all() const = 0;
+    QList<SavedSearch> all() const { return m_searches; }
 
-    /**
-     * Each throws Error when what it changed can't be kept; then nothing is changed. Names are
-     * trimmed. An empty name or one that is taken throws Error, too.
-     */
+    /** Each throws Error for a name that is empty or taken. Names are trimmed. */
     void add(const SavedSearch &search);
     void rename(const QString &oldName, const QString &newName);
     void remove(const QString &name);
 
+    /**
+     * Adds those that are not there under their names. One whose name is that of another
+     * search gets a name that is free; one without a name is left out.
+     */
+    void addMissing(const QList<SavedSearch> &searches);
+
+    /** @p name as it is, or with a number behind it if it is taken. */
+    QString freeName(const QString &name) const;
+
 signals:
     void changed();
-
-protected:
-    /** Keeps all of them, or throws Error and keeps what was. */
-    virtual void store(const QList<SavedSearch> &searches) = 0;
+    void edited(const SavedSearchEdits &edits);
 
 private:
+    bool isTaken(const QString &name) const;
     QString checkedName(const QString &name) const;
-    void replaceAll(QList<SavedSearch> searches);
+    void apply(const SavedSearchEdits &edits);
+
+    QList<SavedSearch> m_searches;
 };

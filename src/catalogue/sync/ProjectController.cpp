@@ -12,6 +12,7 @@
 #include "catalogue/records/LocaleAwareFunctions.h"
 #include "catalogue/sync/DataFolder.h"
 #include "catalogue/sync/FileSync.h"
+#include "catalogue/userdata/RememberedData.h"
 #include "embroidery/EmbroideryIO.h"
 #include "preview/cache/PreviewCache.h"
 #include "properties/changes/BulkOperation.h"
@@ -99,8 +100,8 @@ void ProjectController::openMemory()
     // In a folder of the user's choice nothing is left behind.
     if (GlobalSettings::usesOtherCatalogue())
         return;
-    m_memory = std::make_unique<UserDataMemory>(m_project, QFileInfo(m_file.path()).path() +
-                                                               QStringLiteral("/user-data.sqlite"));
+    m_memory =
+        std::make_unique<UserDataMemory>(m_project, UserDataMemory::pathBeside(m_file.path()));
 }
 
 void ProjectController::rememberUserData()
@@ -138,8 +139,10 @@ QString ProjectController::restore(const QString &backup)
     if (m_memory)
         m_memory->collect();
     const QByteArray present = DataModelWriter().toBytes(m_project.data());
-    QString kept = m_backups.keepMoment(present, QDateTime::currentDateTime());
+    QString kept = m_backups.keepMoment(present, QDateTime::currentDateTime(), searches());
     replaceContents(reader, present);
+    if (m_memory)
+        m_memory->remembered()->restoreSearches(BackupFolder::readSearches(backup));
     m_project->undoStack()->resetClean();
     PreviewCache::instance().clear();
     saveProjectIfModified();
@@ -149,6 +152,14 @@ QString ProjectController::restore(const QString &backup)
 void ProjectController::saveCopy(const QString &path) const
 {
     FileTools::writeAll(path, DataModelWriter().toBytes(m_project.data()));
+    const QByteArray saved = searches();
+    if (!saved.isEmpty())
+        FileTools::writeAll(BackupFolder::searchesBeside(path), saved);
+}
+
+QByteArray ProjectController::searches() const
+{
+    return m_memory ? m_memory->remembered()->searchesForBackup() : QByteArray();
 }
 
 bool ProjectController::isWhole(const QByteArray &bytes) const

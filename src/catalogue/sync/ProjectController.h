@@ -108,7 +108,10 @@ public:
     /** Whether there is something to save, or it is not known yet to be on the disk. */
     bool isModified() const;
 
-    /** Writes the catalogue as it is now to a file of the user's choice. @throws Error */
+    /**
+     * Writes the catalogue as it is now to a file of the user's choice, and the saved searches,
+     * if there are any, to one beside it. @throws Error
+     */
     void saveCopy(const QString &path) const;
 
     /** Whether the catalogue was changed from outside since this controller loaded or saved it. */
@@ -139,7 +142,8 @@ public:
 
     /**
      * Puts what is in a backup, or in a copy of a catalogue, into the place of the catalogue
-     * and saves it. What was there is kept among the backups, in the file returned.
+     * and saves it. What was there is kept among the backups, in the file returned. Saved
+     * searches that went with the backup and are not there any more come back.
      * @throws Error when the file is no whole catalogue of a version that is known, or the
      *         present state could not be kept: then nothing has changed
      * @throws CatalogueUnsavedError when it cannot be saved; it is shown and counts as modified
@@ -181,6 +185,7 @@ private:
     void keepWhatOthersWrote();
     void keepAside(const QByteArray &bytes, CatalogueFile::Fate fate);
     bool isBackupDue() const;
+    QByteArray searches() const;
     void backUp();
     void tryBackup(const std::function<void()> &backup);
     void writeProject();

@@ -32,9 +32,9 @@ QString failureOf(const std::function<void()> &backup)
 }
 
 /** The same for the backup of today. Any thread. */
-QString failureOfDay(BackupFolder backups, const CatalogueFile &file)
+QString failureOfDay(BackupFolder backups, const CatalogueFile &file, const QByteArray &searches)
 {
-    return failureOf([&] { backups.keepDay(file.peek(), QDate::currentDate()); });
+    return failureOf([&] { backups.keepDay(file.peek(), QDate::currentDate(), searches); });
 }
 
 } // namespace
@@ -83,7 +83,9 @@ void ProjectController::beginSave(std::function<void()> whenDone)
         m_memory->collect();
     std::function<QString()> backup;
     if (isBackupDue())
-        backup = [backups = m_backups, file = m_file] { return failureOfDay(backups, file); };
+        backup = [backups = m_backups, file = m_file, searches = searches()] {
+            return failureOfDay(backups, file, searches);
+        };
     try {
         m_save = std::make_unique<CatalogueSave>(m_project, m_file, std::move(backup),
                                                  std::move(whenDone));
@@ -138,7 +140,9 @@ void ProjectController::keepAside(const QByteArray &bytes, CatalogueFile::Fate f
 {
     QString backup;
     if (!GlobalSettings::usesOtherCatalogue())
-        tryBackup([&] { backup = m_backups.keepMoment(bytes, QDateTime::currentDateTime()); });
+        tryBackup([&] {
+            backup = m_backups.keepMoment(bytes, QDateTime::currentDateTime(), searches());
+        });
     if (backup.isEmpty() || fate == CatalogueFile::Damaged)
         keep(bytes, fate);
     else
@@ -155,7 +159,7 @@ bool ProjectController::isBackupDue() const
 void ProjectController::backUp()
 {
     if (isBackupDue())
-        m_backupFailure = failureOfDay(m_backups, m_file);
+        m_backupFailure = failureOfDay(m_backups, m_file, searches());
 }
 
 void ProjectController::tryBackup(const std::function<void()> &backup)

@@ -1,16 +1,17 @@
 #pragma once
 
+#include "catalogue/userdata/RememberedTables.h"
 #include "catalogue/userdata/UserData.h"
+#include "catalogue/userdata/UserDataConnection.h"
 
 #include <QByteArray>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QVariant>
 
 /**
  * The file of the store: a row for each design that anything was written to, whether the
- * catalogue has it for now or not, and the lists of tags and folders. Every call that
- * writes is one transaction, which is on the disk when it returns. All throw UserDataError.
+ * catalogue has it for now or not, the lists of tags and folders, and what is remembered
+ * besides. Every call that writes is one transaction, which is on the disk when it returns.
+ * All throw UserDataError.
  * Of one thread, that which has made it.
  */
 class UserDataDatabase
@@ -18,10 +19,6 @@ class UserDataDatabase
 public:
     /** Opens the file, or makes it for the user alone. */
     explicit UserDataDatabase(const QString &path);
-    ~UserDataDatabase();
-
-    UserDataDatabase(const UserDataDatabase &) = delete;
-    UserDataDatabase &operator=(const UserDataDatabase &) = delete;
 
     /** Digest of the catalogue file that the unsaved edits were made on; empty for none. */
     QByteArray catalogue();
@@ -54,25 +51,19 @@ public:
     int absentDesigns();
     void forgetAbsentDesigns();
 
+    /** Saved searches and values, which no catalogue holds. */
+    Remembered remembered() { return m_remembered.all(); }
+    void remember(const Remembered &edits) { m_remembered.write(edits); }
+
 private:
-    QSqlQuery prepare(const char *statement);
-    void run(QSqlQuery &query, const QVariantList &values = {});
-    void run(const char *statement, const QVariantList &values = {});
-    QVariant value(const char *statement, const QVariantList &values = {});
     void createTables();
-    void checkIsWhole();
     void recordDesigns(const UserDataChanges &changes);
     void writeLists(const UserDataChanges &changes);
     void writeList(const QString &name, const QStringList &entries);
     QStringList list(const QString &name);
     void writeState(const QString &key, const QVariant &state);
     QVariant state(const QString &key);
-    [[noreturn]] void fail(const QSqlError &error) const;
 
-    template <class Work>
-    void inTransaction(Work work);
-
-    QString m_path;
-    QString m_connection;
-    QSqlDatabase m_database;
+    UserDataConnection m_sql;
+    RememberedTables m_remembered;
 };

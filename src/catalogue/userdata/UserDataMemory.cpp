@@ -1,10 +1,12 @@
 #include "catalogue/userdata/UserDataMemory.h"
 
 #include "base/GDebug.h"
+#include "catalogue/userdata/RememberedData.h"
 #include "catalogue/userdata/UserDataStore.h"
 #include "catalogue/userdata/UserDataTracker.h"
 
 #include <algorithm>
+#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 
@@ -50,6 +52,13 @@ UserDataMemory::UserDataMemory(const QSharedPointer<Project> &project, const QSt
                      [this] { tellAgain(); });
     QObject::connect(m_store.get(), &UserDataStore::unsavedFound, m_tracker.get(),
                      [this](const UserDataChanges &unsaved) { apply(unsaved); });
+    m_remembered = std::make_unique<RememberedData>(
+        m_store.get(), QFileInfo(path).path() + QStringLiteral("/saved-searches.json"));
+}
+
+QString UserDataMemory::pathBeside(const QString &catalogue)
+{
+    return QFileInfo(catalogue).path() + QStringLiteral("/user-data.sqlite");
 }
 
 UserDataMemory::~UserDataMemory()

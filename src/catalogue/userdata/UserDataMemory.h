@@ -10,6 +10,7 @@
 #include <QList>
 #include <QSharedPointer>
 
+class RememberedData;
 class UserDataStore;
 class UserDataTracker;
 struct UserDataChanges;
@@ -24,6 +25,9 @@ class UserDataMemory
 {
 public:
     using Digest = std::shared_future<QByteArray>;
+
+    /** The store's file for the catalogue in the file @p catalogue. */
+    static QString pathBeside(const QString &catalogue);
 
     /** @param path of the store's file, which is made when it is missing */
     UserDataMemory(const QSharedPointer<Project> &project, const QString &path);
@@ -71,6 +75,9 @@ public:
     int absentDesigns();
     void forgetAbsentDesigns();
 
+    /** What is remembered besides, and is in no catalogue. */
+    RememberedData *remembered() const { return m_remembered.get(); }
+
 private:
     bool apply(const UserDataChanges &unsaved);
     bool applyLists(const UserDataChanges &unsaved);
@@ -80,5 +87,6 @@ private:
     QSharedPointer<Project> m_project;
     std::unique_ptr<UserDataStore> m_store;
     std::unique_ptr<UserDataTracker> m_tracker;
+    std::unique_ptr<RememberedData> m_remembered;
     Digest m_catalogue;
 };

@@ -2,6 +2,7 @@
 
 #include "base/files/FileTools.h"
 #include "base/GDebug.h"
+#include "catalogue/userdata/RememberedTables.h"
 #include "catalogue/userdata/UserDataDatabase.h"
 #include "catalogue/userdata/UserDataError.h"
 
@@ -109,12 +110,49 @@ int UserDataStore::absentDesigns()
     return ask<int>([](UserDataDatabase &database) { return database.absentDesigns(); });
 }
 
+void UserDataStore::remember(const Remembered &edits)
+{
+    QMetaObject::invokeMethod(&m_worker, [this] { m_remembering = true; });
+    tell([edits](UserDataDatabase &database) { database.remember(edits); });
+}
+
+std::optional<Remembered> UserDataStore::remembered()
+{
+    auto all = ask<std::optional<Remembered>>(
+        [](UserDataDatabase &database) { return database.remembered(); });
+    if (!all)
+        tell([this](UserDataDatabase &database) { emit rememberedFound(database.remembered()); });
+    return all;
+}
+
+void UserDataStore::removeFile(const QString &path)
+{
+    tell([path](UserDataDatabase &) { QFile::remove(path); });
+}
+
+void UserDataStore::tryAgain()
+{
+    QMetaObject::invokeMethod(&m_worker, [this] { work(); });
+}
+
+QString UserDataStore::rememberingFailure()
+{
+    QString failure;
+    QMetaObject::invokeMethod(
+        &m_worker,
+        [&] {
+            work();
+            failure = m_toldFailure;
+        },
+        Qt::BlockingQueuedConnection);
+    return failure;
+}
+
 void UserDataStore::tell(Task task)
 {
     QMetaObject::invokeMethod(&m_worker, [this, task = std::move(task)] {
-        if (m_unusable)
-            return;
-        m_tasks.push_back(task);
+        if (!m_unusable)
+            m_tasks.push_back(task);
         work();
     });
 }
@@ -151,6 +189,7 @@ void UserDataStore::work()
                 m_tasksDropped = true;
             }
             m_retryTimer.start();
+            tellFailure();
             return;
         }
         m_tasks.pop_front();
@@ -158,7 +197,17 @@ void UserDataStore::work()
     if (m_tasksDropped) {
         m_tasksDropped = false;
         emit snapshotWanted();
+    } else {
+        m_remembering = m_remembering && m_unusable;
     }
+    tellFailure();
+}
+
+void UserDataStore::tellFailure()
+{
+    const QString failure = m_remembering ? m_failure : QString();
+    if (failure != m_toldFailure)
+        emit rememberingFailed(m_toldFailure = failure);
 }
 
 bool UserDataStore::attempt(const Task &task)
@@ -167,10 +216,8 @@ bool UserDataStore::attempt(const Task &task)
         return true;
     try {
         noticeLoss();
-        if (!m_database) {
-            m_database = std::make_unique<UserDataDatabase>(m_path);
-            m_opened = FileStamp::of(m_path);
-        }
+        if (!m_database)
+            openDatabase();
         task(*m_database);
         m_failure.clear();
         m_suspected = false;
@@ -190,6 +237,16 @@ bool UserDataStore::attempt(const Task &task)
         logOnce(QString::fromLocal8Bit(error.what()));
     }
     return m_unusable;
+}
+
+void UserDataStore::openDatabase()
+{
+    auto database = std::make_unique<UserDataDatabase>(m_path);
+    m_opened = FileStamp::of(m_path);
+    if (!m_salvaged.isEmpty())
+        database->remember(m_salvaged);
+    m_salvaged = {};
+    m_database = std::move(database);
 }
 
 void UserDataStore::logOnce(const QString &failure)
@@ -239,6 +296,7 @@ bool UserDataStore::replaceDamaged()
         return false;
     // It belongs to the file that was there.
     QFile::remove(m_path + QStringLiteral("-journal"));
+    m_salvaged = RememberedTables::salvage(aside);
     m_tasksDropped = true;
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/files/FileStamp.h"
+#include "catalogue/userdata/Remembered.h"
 #include "catalogue/userdata/UserData.h"
 
 #include <chrono>
@@ -66,7 +67,27 @@ public:
 
     int absentDesigns();
 
+    /** Saved searches and values that were edited. */
+    void remember(const Remembered &edits);
+
+    /** All of them; when they can't be read now, rememberedFound() tells of them later. */
+    std::optional<Remembered> remembered();
+
+    /** Removes a file once all that was told before is on the disk. */
+    void removeFile(const QString &path);
+
+    /** Tries again at once to write what is waiting. */
+    void tryAgain();
+
+    /** Why what remember() was told is not on the disk, after another try; empty when it is. */
+    QString rememberingFailure();
+
 signals:
+    void rememberedFound(const Remembered &all);
+
+    /** What remember() was told is not on the disk; with an empty reason: it is there now. */
+    void rememberingFailed(const QString &reason);
+
     /** Edits on the catalogue file of adoptOther() that were not saved. */
     void unsavedFound(const UserDataChanges &edits);
 
@@ -82,6 +103,8 @@ private:
     void open();
     void work();
     bool attempt(const Task &task);
+    void openDatabase();
+    void tellFailure();
     void logOnce(const QString &failure);
     void noticeLoss();
     bool isReadable() const;
@@ -95,7 +118,10 @@ private:
     std::unique_ptr<UserDataDatabase> m_database;
     FileStamp m_opened;
     std::deque<Task> m_tasks;
+    Remembered m_salvaged; ///< from a damaged file, and not in the new one yet
     QString m_failure;
+    QString m_toldFailure;
+    bool m_remembering = false; ///< something of remember() is not on the disk
     bool m_tasksDropped = false;
     bool m_suspected = false; ///< of being damaged, by whoever looked last
     bool m_replaced = false;  ///< once is enough: what is damaged anew is no accident

@@ -46,10 +46,6 @@
         <translation>Eine Kopie des Katalogs aufheben.</translation>
     </message>
     <message>
-        <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself.</source>
-        <translation>Hebt eine Kopie des zuletzt gespeicherten Katalogs auf: in DATEI, komprimiert, wenn der Name auf .gz endet, oder ohne Angabe einer Datei bei den Sicherungen, die das Programm selbst anlegt.</translation>
-    </message>
-    <message>
         <source>Replace a file that is there.</source>
         <translation>Eine vorhandene Datei ersetzen.</translation>
     </message>
@@ -64,6 +60,10 @@
     <message>
         <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
         <translation>Es gibt noch keinen Katalog; „hoopline-cli scan ORDNER“ legt einen an.</translation>
+    </message>
+    <message>
+        <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself. Saved searches go to a file beside it that ends in .searches.json.</source>
+        <translation>Hebt eine Kopie des zuletzt gespeicherten Katalogs auf: in DATEI, komprimiert, wenn der Name auf .gz endet, oder ohne Angabe einer Datei bei den Sicherungen, die das Programm selbst anlegt. Gespeicherte Suchen kommen in eine Datei daneben, die auf .searches.json endet.</translation>
     </message>
 </context>
 <context>
@@ -256,6 +256,10 @@
     <message>
         <source>The backup of %1 was restored. What was there before is kept as a backup.</source>
         <translation>Die Sicherung vom %1 wurde zurückgeholt. Was vorher da war, ist als Sicherung aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Saved searches cannot be saved: %1</source>
+        <translation>Gespeicherte Suchen können nicht gespeichert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -958,6 +962,14 @@ Befehle; jeder hat eine eigene --help:</translation>
             <numerusform>… und %Ln weitere</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Comparing designs...</source>
+        <translation>Stickmuster werden verglichen …</translation>
+    </message>
+    <message>
+        <source>Moving files to the trash...</source>
+        <translation>Dateien werden in den Papierkorb gelegt …</translation>
+    </message>
 </context>
 <context>
     <name>DuplicatesPage</name>
@@ -1130,6 +1142,10 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>Looking for drives...</source>
         <translation>Datenträger werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Copying to the drive...</source>
+        <translation>Auf das Laufwerk wird kopiert …</translation>
     </message>
 </context>
 <context>
@@ -1320,6 +1336,10 @@ Befehle; jeder hat eine eigene --help:</translation>
     <message>
         <source>The folders %1 and %2 have changed.</source>
         <translation>Die Ordner %1 und %2 haben sich geändert.</translation>
+    </message>
+    <message>
+        <source>Looking through the folders...</source>
+        <translation>Ordner werden durchgesehen …</translation>
     </message>
 </context>
 <context>
@@ -1817,8 +1837,8 @@ Befehle; jeder hat eine eigene --help:</translation>
 <context>
     <name>OrganiserGuard</name>
     <message>
-        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
-        <translation>Hoopline Organizer läuft. Schließen Sie es zuerst oder lesen Sie die Ordner in seinem Fenster neu ein.</translation>
+        <source>Hoopline Organizer is running. Close it first, or do it in its window.</source>
+        <translation>Hoopline Organizer läuft. Schließen Sie es zuerst oder erledigen Sie es in seinem Fenster.</translation>
     </message>
 </context>
 <context>
@@ -2322,6 +2342,10 @@ Optionen:
         <source>&apos;%1&apos; is no whole catalogue.</source>
         <translation>„%1“ ist kein vollständiger Katalog.</translation>
     </message>
+    <message>
+        <source>The saved searches of the backup could not be kept: %1</source>
+        <translation>Die gespeicherten Suchen der Sicherung konnten nicht aufgehoben werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>SavedSearches</name>
@@ -2363,13 +2387,6 @@ Optionen:
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
-    </message>
-</context>
-<context>
-    <name>SavedSearchesFile</name>
-    <message>
-        <source>Failed to set the damaged file &apos;%1&apos; aside.</source>
-        <translation>Die beschädigte Datei „%1“ konnte nicht beiseitegelegt werden.</translation>
     </message>
 </context>
 <context>
@@ -2757,6 +2774,14 @@ Optionen:
         <source>Open</source>
         <translation>Öffnen</translation>
     </message>
+    <message>
+        <source>Printing...</source>
+        <translation>Es wird gedruckt …</translation>
+    </message>
+    <message>
+        <source>Writing the PDF...</source>
+        <translation>Das PDF wird geschrieben …</translation>
+    </message>
 </context>
 <context>
     <name>SheetDialog</name>
@@ -2982,6 +3007,10 @@ Optionen:
     <message>
         <source>Standard input</source>
         <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>The names on standard input end with a NUL; -0 reads such names.</source>
+        <translation>Die Namen in der Standardeingabe enden mit einem NUL; -0 liest solche Namen.</translation>
     </message>
 </context>
 <context>

@@ -46,10 +46,6 @@
         <translation>保留花样库的副本。</translation>
     </message>
     <message>
-        <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself.</source>
-        <translation>保留上次保存的花样库的副本：保存到 FILE（名称以 .gz 结尾时压缩）；未指定文件时，保存到程序自动创建的备份中。</translation>
-    </message>
-    <message>
         <source>Replace a file that is there.</source>
         <translation>替换已有的文件。</translation>
     </message>
@@ -64,6 +60,10 @@
     <message>
         <source>There is no catalogue yet; &apos;hoopline-cli scan FOLDER&apos; makes one.</source>
         <translation>还没有花样库；“hoopline-cli scan 文件夹”会创建一个。</translation>
+    </message>
+    <message>
+        <source>Keeps a copy of the catalogue as it was saved last: in FILE, compressed if the name ends in .gz, or without one among the backups that the program makes by itself. Saved searches go to a file beside it that ends in .searches.json.</source>
+        <translation>保留上次保存的花样库的副本：保存到 FILE（名称以 .gz 结尾时压缩）；未指定文件时，保存到程序自动创建的备份中。保存的搜索会写入其旁边以 .searches.json 结尾的文件。</translation>
     </message>
 </context>
 <context>
@@ -253,6 +253,10 @@
     <message>
         <source>The backup of %1 was restored. What was there before is kept as a backup.</source>
         <translation>已恢复 %1 的备份。之前的内容已保留为备份。</translation>
+    </message>
+    <message>
+        <source>Saved searches cannot be saved: %1</source>
+        <translation>无法保存“保存的搜索”：%1</translation>
     </message>
 </context>
 <context>
@@ -944,6 +948,14 @@ Commands; each has a --help of its own:</source>
             <numerusform>…以及另外 %Ln 个</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Comparing designs...</source>
+        <translation>正在比较花样…</translation>
+    </message>
+    <message>
+        <source>Moving files to the trash...</source>
+        <translation>正在将文件移到回收站…</translation>
+    </message>
 </context>
 <context>
     <name>DuplicatesPage</name>
@@ -1111,6 +1123,10 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>Looking for drives...</source>
         <translation>正在查找驱动器…</translation>
+    </message>
+    <message>
+        <source>Copying to the drive...</source>
+        <translation>正在复制到驱动器…</translation>
     </message>
 </context>
 <context>
@@ -1300,6 +1316,10 @@ Commands; each has a --help of its own:</source>
     <message>
         <source>The folders %1 and %2 have changed.</source>
         <translation>文件夹 %1 和 %2 已更改。</translation>
+    </message>
+    <message>
+        <source>Looking through the folders...</source>
+        <translation>正在查看文件夹…</translation>
     </message>
 </context>
 <context>
@@ -1795,8 +1815,8 @@ Commands; each has a --help of its own:</source>
 <context>
     <name>OrganiserGuard</name>
     <message>
-        <source>Hoopline Organizer is running. Close it first, or rescan in its window.</source>
-        <translation>Hoopline Organizer 正在运行。请先关闭它，或在其窗口中重新扫描。</translation>
+        <source>Hoopline Organizer is running. Close it first, or do it in its window.</source>
+        <translation>Hoopline Organizer 正在运行。请先关闭它，或在其窗口中操作。</translation>
     </message>
 </context>
 <context>
@@ -2295,6 +2315,10 @@ Options:
         <source>&apos;%1&apos; is no whole catalogue.</source>
         <translation>“%1”不是完整的花样库。</translation>
     </message>
+    <message>
+        <source>The saved searches of the backup could not be kept: %1</source>
+        <translation>无法保留备份中保存的搜索：%1</translation>
+    </message>
 </context>
 <context>
     <name>SavedSearches</name>
@@ -2336,13 +2360,6 @@ Options:
     <message>
         <source>Error</source>
         <translation>错误</translation>
-    </message>
-</context>
-<context>
-    <name>SavedSearchesFile</name>
-    <message>
-        <source>Failed to set the damaged file &apos;%1&apos; aside.</source>
-        <translation>无法将损坏的文件“%1”移到一旁。</translation>
     </message>
 </context>
 <context>
@@ -2719,6 +2736,14 @@ Options:
         <source>Open</source>
         <translation>打开</translation>
     </message>
+    <message>
+        <source>Printing...</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>Writing the PDF...</source>
+        <translation>正在写入 PDF…</translation>
+    </message>
 </context>
 <context>
     <name>SheetDialog</name>
@@ -2943,6 +2968,10 @@ Options:
     <message>
         <source>Standard input</source>
         <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>The names on standard input end with a NUL; -0 reads such names.</source>
+        <translation>标准输入中的名称以 NUL 结尾；使用 -0 读取这样的名称。</translation>
     </message>
 </context>
 <context>

@@ -117,7 +117,6 @@ void DesignToolBar::createAppearance()
                                  settings.jumpsShown());
     m_jumpsAction->setShortcut(Qt::Key_J);
     m_fabric = new FabricButton(this);
-    m_fabric->setColor(QColor(settings.fabricColor()));
     connect(m_fabric, &FabricButton::colorChosen, this, &DesignToolBar::appearanceChanged);
     addWidget(m_fabric);
 }
@@ -159,6 +158,11 @@ bool DesignToolBar::areJumpsShown() const
 QColor DesignToolBar::fabric() const
 {
     return m_fabric->color();
+}
+
+void DesignToolBar::setFabric(const QColor &color)
+{
+    m_fabric->setColor(color);
 }
 
 void DesignToolBar::showZoom(double zoom)

@@ -27,6 +27,7 @@ public:
     bool isHoopShown() const;
     bool areJumpsShown() const;
     QColor fabric() const;
+    void setFabric(const QColor &color);
     /** The last of its controls. */
     FabricButton *fabricButton() const { return m_fabric; }
 

@@ -3,6 +3,7 @@
 #include "app/application/HooplineApplication.h"
 #include "base/GlobalSettings.h"
 #include "catalogue/models/IFilterModel.h"
+#include "catalogue/userdata/RememberedValues.h"
 #include "embroidery/HoopSizes.h"
 #include "ui/design/DesignFactsPanel.h"
 #include "ui/design/DesignLoader.h"
@@ -33,18 +34,28 @@ constexpr int ReadingToldAfter = 300; // milliseconds
 constexpr double PanStep = 60.0;      // pixels
 constexpr double UnitsPerMillimetre = 10.0;
 
+const QString FabricColor = QStringLiteral("fabric color");
+const QString Linen = QStringLiteral("#f7f5f0");
+
+QColor rememberedFabric(const RememberedValues &values)
+{
+    const QColor color(values.value(FabricColor, Linen));
+    return color.isValid() ? color : QColor(Linen);
+}
+
 } // namespace
 
-DesignWindow::DesignWindow(IFilterModel *filter)
-    : QWidget(nullptr, Qt::Window), m_filter(filter), m_loader(new DesignLoader(this)),
-      m_playback(new Playback(this)), m_view(new DesignView(this)),
-      m_toolBar(new DesignToolBar(m_view, this)), m_facts(new DesignFactsPanel(this)),
-      m_playbackBar(new PlaybackBar(m_playback, this))
+DesignWindow::DesignWindow(IFilterModel *filter, RememberedValues *values)
+    : QWidget(nullptr, Qt::Window), m_filter(filter), m_values(values),
+      m_loader(new DesignLoader(this)), m_playback(new Playback(this)),
+      m_view(new DesignView(this)), m_toolBar(new DesignToolBar(m_view, this)),
+      m_facts(new DesignFactsPanel(this)), m_playbackBar(new PlaybackBar(m_playback, this))
 {
     // Screen readers are told of windows only where Qt takes a widget for one.
     ScreenReader::setRole(this, QAccessible::Window);
     createLayout();
     connectParts();
+    m_toolBar->setFabric(rememberedFabric(*values));
     applyAppearance();
     m_readingTold.setSingleShot(true);
     m_readingTold.setInterval(ReadingToldAfter);
@@ -186,7 +197,7 @@ void DesignWindow::showFacts()
 void DesignWindow::keepAppearance()
 {
     GlobalSettings settings;
-    settings.setFabricColor(m_toolBar->fabric().name());
+    m_values->setValue(FabricColor, m_toolBar->fabric().name());
     settings.setHoopShown(m_toolBar->isHoopShown());
     settings.setJumpsShown(m_toolBar->areJumpsShown());
     applyAppearance();

@@ -17,6 +17,7 @@ class DesignView;
 class IFilterModel;
 class Playback;
 class PlaybackBar;
+class RememberedValues;
 
 /**
  * A window of its own in which one design is looked at closely: in any size, in its
@@ -31,8 +32,8 @@ class DesignWindow : public QWidget
     Q_OBJECT
 
 public:
-    /** @param filter not owned, must outlive the window */
-    explicit DesignWindow(IFilterModel *filter);
+    /** None is owned, and both must outlive the window. */
+    DesignWindow(IFilterModel *filter, RememberedValues *values);
     ~DesignWindow() override;
 
     /** Shows the window before all others with this design. */
@@ -71,6 +72,7 @@ private:
     bool panByKey(int key);
 
     IFilterModel *m_filter;
+    RememberedValues *m_values;
     DesignLoader *m_loader;
     Playback *m_playback;
     DesignView *m_view;

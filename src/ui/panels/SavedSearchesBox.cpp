@@ -9,7 +9,6 @@
 #include "widgets/controls/GMessageBox.h"
 #include "widgets/style/WidgetHelper.h"
 
-#include <algorithm>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -24,20 +23,6 @@ constexpr int IconExtent = 16;
 constexpr int HintMargin = 12;
 
 enum Role { NameRole = Qt::UserRole, QueryRole };
-
-/** A name that isn't taken: the query itself, with a number behind it when need be. */
-QString proposedName(const SavedSearches &searches, const QString &query)
-{
-    const QList<SavedSearch> all = searches.all();
-    const auto isTaken = [&all](const QString &name) {
-        return std::any_of(all.begin(), all.end(),
-                           [&name](const SavedSearch &search) { return search.name == name; });
-    };
-    QString name = query.simplified();
-    for (int number = 2; isTaken(name); ++number)
-        name = QStringLiteral("%1 (%2)").arg(query.simplified()).arg(number);
-    return name;
-}
 
 } // namespace
 
@@ -148,7 +133,7 @@ void SavedSearchesBox::applySelected()
 void SavedSearchesBox::saveCurrent()
 {
     const QString query = m_filter->searchText();
-    attempt([&] { m_searches->add({proposedName(*m_searches, query), query}); });
+    attempt([&] { m_searches->add({m_searches->freeName(query.simplified()), query}); });
     renameSelected();
 }
 
