@@ -61,7 +61,7 @@ private slots:
         for (const QToolButton *button : part<QToolBar>()->findChildren<QToolButton *>())
             tips += button->accessibleName() + '|' + button->toolTip() + '|';
         QVERIFY2(!tips.contains(QRegularExpression("\\(\\w\\)|\\.\\.\\.")), qPrintable(tips));
-        QVERIFY2(tips.contains(" (F5)|"), qPrintable(tips));
+        QVERIFY2(tips.contains("F5"), qPrintable(tips));
         delete m_window;
     }
 
