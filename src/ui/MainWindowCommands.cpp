@@ -5,9 +5,11 @@
 #include "catalogue/models/ISelectionModel.h"
 #include "catalogue/records/Project.h"
 #include "catalogue/sync/ProjectController.h"
+#include "catalogue/watch/FolderWatcher.h"
 #include "ui/CatalogueKeeper.h"
 #include "ui/duplicates/DuplicatesDialog.h"
 #include "ui/ExportDialog.h"
+#include "ui/FolderChangeNotice.h"
 #include "ui/MainWindow.h"
 #include "ui/TransferNotice.h"
 #include "widgets/controls/GMessageBox.h"
@@ -48,5 +50,9 @@ void MainWindow::exportSelectedFiles()
 void MainWindow::findDuplicates()
 {
     finishEdit();
-    DuplicatesDialog(this, m_project, [this] { return m_keeper->saveAnyway(); }).exec();
+    FolderWatcher *watcher = m_folderChanges->watcher();
+    DuplicatesDialog dialog(this, m_project, [this] { return m_keeper->saveAnyway(); });
+    connect(&dialog, &DuplicatesDialog::movesToTrash, watcher, &FolderWatcher::expect);
+    dialog.exec();
+    watcher->expectNothing();
 }

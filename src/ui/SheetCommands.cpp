@@ -97,7 +97,7 @@ void SheetCommands::print(const SheetDialog &dialog)
     progress.begin();
     try {
         if (!printer.print(dialog.designs(), progress))
-            tell(tr("Printing was cancelled. Pages that are on their way may still be printed."));
+            tell(tr("Printing was canceled. Pages that are on their way may still be printed."));
     } catch (const Error &error) {
         progress.hide();
         tellFailure(tr("The designs could not be printed."), error.toString());

@@ -40,8 +40,13 @@ void SortMenu::addKeys()
 void SortMenu::addDirections()
 {
     const bool descending = m_filter->sortOrder().descending;
-    addChoice(m_directions, tr("&Ascending"), false)->setChecked(!descending);
-    addChoice(m_directions, tr("D&escending"), true)->setChecked(descending);
+    const auto add = [&](const QString &text, bool isDescending, Qt::Key key) {
+        QAction *action = addChoice(m_directions, text, int(isDescending));
+        action->setShortcut(QKeySequence(int(Qt::CTRL) | int(key)));
+        action->setChecked(isDescending == descending);
+    };
+    add(tr("&Ascending"), false, Qt::Key_7);
+    add(tr("D&escending"), true, Qt::Key_8);
 }
 
 QAction *SortMenu::addChoice(QActionGroup *group, const QString &text, int value)

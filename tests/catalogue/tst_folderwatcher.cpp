@@ -194,6 +194,19 @@ private slots:
         QVERIFY(told().isEmpty());
     }
 
+    void leavesOutWhatTheProgramDoes()
+    {
+        watch({"roses", "xmas"});
+        m_watcher->expect({path("roses/a.pes")});
+        QVERIFY(QFile::remove(path("roses/a.pes")));
+        m_watcher->expectNothing();
+        write(path("xmas/new.pes"));
+        QVERIFY(comesToTellOf("xmas"));
+        QCOMPARE(told(), QStringList{path("xmas")});
+        write(path("roses/a.pes"));
+        QVERIFY(comesToTellOf("roses"));
+    }
+
     void watchesAFolderThatComesBack()
     {
         QVERIFY(QDir().rename(path("roses"), path("away")));

@@ -130,7 +130,7 @@ void FolderWatcher::take(const FolderEvent &event)
     const QByteArray path = event.folder + '/' + event.name;
     switch (event.kind) {
     case FolderEvent::FileChanged:
-        if (FolderWalk::isDesign(event.name))
+        if (FolderWalk::isDesign(event.name) && !m_expected.contains(path))
             noteChange(path);
         break;
     case FolderEvent::FolderCame:
@@ -201,6 +201,19 @@ void FolderWatcher::endScan(bool complete)
         m_changed += m_seenByScan;
     m_seenByScan.clear();
     tell();
+}
+
+void FolderWatcher::expect(const QStringList &files)
+{
+    for (const QString &file : files)
+        m_expected.insert(QFile::encodeName(file));
+}
+
+void FolderWatcher::expectNothing()
+{
+    // What has happened until now is waiting there.
+    readEvents();
+    m_expected.clear();
 }
 
 void FolderWatcher::tell()

@@ -44,6 +44,13 @@ public:
     /** @param complete whether it has seen all folders */
     void endScan(bool complete);
 
+    /**
+     * What becomes of these files, absolute paths, is the program's own doing, which the
+     * catalogue learns anyway; it is not told, until expectNothing().
+     */
+    void expect(const QStringList &files);
+    void expectNothing();
+
 signals:
     /** Other folders than before have changed, or none any more. */
     void changedFoldersChanged();
@@ -70,6 +77,7 @@ private:
     QStringList m_folders;
     QSet<QString> m_beingWalked;
     QList<QByteArray> m_newFolders;
+    QSet<QByteArray> m_expected;
     QSet<QString> m_changed;
     QSet<QString> m_seenByScan;
     QSet<QString> m_told;

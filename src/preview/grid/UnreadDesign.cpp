@@ -49,6 +49,6 @@ void UnreadDesign::paint(QPainter *painter, const QRect &box)
     painter->setFont(font);
     const QRect lower = frame.adjusted(Inset, frame.height() / 2 + Inset, -Inset, 0);
     painter->drawText(lower, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                      tr("“Rescan” reads it."));
+                      tr("\"Rescan\" reads it."));
     painter->restore();
 }

@@ -2740,7 +2740,7 @@ Optionen:
         <translation>Ein Bogen zeigt die ausgewählten Stickmuster oder alle, die zu sehen sind.</translation>
     </message>
     <message>
-        <source>Printing was cancelled. Pages that are on their way may still be printed.</source>
+        <source>Printing was canceled. Pages that are on their way may still be printed.</source>
         <translation>Der Druck wurde abgebrochen. Seiten, die schon unterwegs sind, werden vielleicht noch gedruckt.</translation>
     </message>
     <message>
@@ -3441,7 +3441,7 @@ Optionen:
         <translation>Noch nicht gelesen</translation>
     </message>
     <message>
-        <source>“Rescan” reads it.</source>
+        <source>&quot;Rescan&quot; reads it.</source>
         <translation>„Neu einlesen“ liest es.</translation>
     </message>
 </context>

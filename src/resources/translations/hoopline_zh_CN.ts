@@ -2703,7 +2703,7 @@ Options:
         <translation>页面显示所选的花样，或当前显示的全部花样。</translation>
     </message>
     <message>
-        <source>Printing was cancelled. Pages that are on their way may still be printed.</source>
+        <source>Printing was canceled. Pages that are on their way may still be printed.</source>
         <translation>打印已取消。已发送的页面可能仍会打印。</translation>
     </message>
     <message>
@@ -3394,7 +3394,7 @@ Options:
         <translation>尚未读取</translation>
     </message>
     <message>
-        <source>“Rescan” reads it.</source>
+        <source>&quot;Rescan&quot; reads it.</source>
         <translation>“重新扫描”即可读取。</translation>
     </message>
 </context>

@@ -159,6 +159,10 @@ void DuplicatesDialog::moveToTrash(const IFile &kept, const Files &others)
     m_activity = std::make_unique<StatusActivity>(this, tr("Moving files to the trash..."));
     m_stops = std::make_shared<std::atomic<bool>>(false);
     const auto outcome = std::make_shared<DuplicateCleaner::Outcome>();
+    QStringList paths;
+    for (const auto &file : others)
+        paths.append(file->absoluteFilePath());
+    emit movesToTrash(paths);
     m_work.run(
         [outcome, stops = m_stops, keep = candidateOf(kept), leave = candidatesOf(others)] {
             *outcome = DuplicateCleaner::moveToTrash(keep, leave, [&] { return stops->load(); });

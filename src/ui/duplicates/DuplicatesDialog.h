@@ -37,6 +37,10 @@ public:
     /** Also ends the search; a move ends first with the file that it is at. */
     void reject() override;
 
+signals:
+    /** These files, absolute paths, are about to be moved by the program. */
+    void movesToTrash(const QStringList &files);
+
 private:
     using Files = QList<QSharedPointer<IFile>>;
 
