@@ -31,7 +31,7 @@ function(hoopline_resource_collection sources collection qrc)
     list(TRANSFORM entries REPLACE ".*<file[^>]*>(.*)</file>.*" "${folder}/\\1")
     set(registered "${CMAKE_CURRENT_BINARY_DIR}/qrc_${collection}.cpp")
     add_custom_command(OUTPUT "${registered}"
-        COMMAND Qt5::rcc --name ${collection} "${qrc}" -o "${registered}"
+        COMMAND Qt${HOOPLINE_QT}::rcc --name ${collection} "${qrc}" -o "${registered}"
         DEPENDS "${qrc}" ${entries} VERBATIM)
     set_source_files_properties("${registered}" PROPERTIES SKIP_AUTOMOC ON)
     set(${sources} ${${sources}} "${registered}" PARENT_SCOPE)
@@ -61,7 +61,7 @@ function(hoopline_test name)
         TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data"
         SAMPLES_DIR="${PROJECT_SOURCE_DIR}/samples")
     target_link_libraries(${name} PRIVATE
-        ${ARG_DEPENDS} Qt5::Test hermetic_start hoopline_options)
+        ${ARG_DEPENDS} Qt::Test hermetic_start hoopline_options)
     hoopline_hermetic_test(${name} TIMEOUT ${ARG_TIMEOUT}
         COMMAND ${ARG_LAUNCHER} $<TARGET_FILE:${name}>)
 endfunction()
@@ -72,5 +72,5 @@ function(hoopline_benchmark name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} Qt5::Test hoopline_options)
+    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} Qt::Test hoopline_options)
 endfunction()

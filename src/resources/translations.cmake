@@ -1,7 +1,7 @@
 # Translations in the program: every language is compiled from its source and
 # put into a resource collection.
 
-get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+get_target_property(qmake Qt${HOOPLINE_QT}::qmake IMPORTED_LOCATION)
 execute_process(COMMAND "${qmake}" -query QT_INSTALL_TRANSLATIONS
     OUTPUT_VARIABLE qt_translations OUTPUT_STRIP_TRAILING_WHITESPACE)
 
@@ -18,7 +18,7 @@ function(hoopline_translations collection source_prefix with_qt)
         set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/${source_prefix}_${language}.ts")
         set(output "${folder}/${language}.qm")
         add_custom_command(OUTPUT "${output}"
-            COMMAND Qt5::lrelease -silent "${source}" -qm "${output}"
+            COMMAND Qt${HOOPLINE_QT}::lrelease -silent "${source}" -qm "${output}"
             DEPENDS "${source}" VERBATIM)
         string(APPEND entries "    <file>${language}.qm</file>\n")
         # qt_<language>.qm itself only names the files of Qt's modules.

@@ -1,6 +1,6 @@
 # Compiles resources in a folder whose name a shell takes for its own.
 set(build "$ENV{TMPDIR}/Muster für alle (1)")
-foreach(step IN ITEMS "-S;${SOURCE};-B;${build};-G;Ninja;-DTARGETS=${TARGETS}" "--build;${build}")
+foreach(step IN ITEMS "-S;${SOURCE};-B;${build};-G;Ninja;-DTARGETS=${TARGETS};-DHOOPLINE_QT=${HOOPLINE_QT}" "--build;${build}")
     execute_process(COMMAND ${CMAKE_COMMAND} ${step}
         RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(NOT status EQUAL 0)
