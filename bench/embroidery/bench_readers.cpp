@@ -81,7 +81,7 @@ void BenchReaders::read()
 
     const double megabytes = bytes.size() * 1e-6;
     qInfo("%7d bytes  read %7.1f MB/s, %6.1f million stitches/s  sum %8.1f MB/s  ratio %5.1f",
-          bytes.size(), megabytes / reading, points * 1e-6 / reading, megabytes / summing,
+          int(bytes.size()), megabytes / reading, points * 1e-6 / reading, megabytes / summing,
           reading / summing);
 }
 

@@ -82,7 +82,6 @@ public:
     GDebug &operator<<(const QUrl &value);
     GDebug &operator<<(const QEvent *value);
     GDebug &operator<<(const QVariant &value);
-    GDebug &operator<<(const QStringList &value) { return *this << QList<QString>(value); }
 
     template <typename T>
     GDebug &operator<<(const QList<T> &list);

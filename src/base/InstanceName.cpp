@@ -11,7 +11,7 @@
 QString InstanceName::toString() const
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData("SingleApplication", 17);
+    hash.addData(QByteArrayLiteral("SingleApplication"));
     for (const QString *field : {&applicationName, &organisationName, &organisationDomain,
                                  &applicationVersion, &applicationFilePath, &userName})
         hash.addData(field->toUtf8());

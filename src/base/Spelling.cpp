@@ -38,7 +38,7 @@ QString Spelling::nearest(const QString &text, const QStringList &words)
         return {};
     QString nearest;
     // Of a short word one letter may be wrong, of a long one two.
-    int bound = std::min(MostMistakes, text.length() / 3);
+    int bound = std::min(MostMistakes, int(text.length()) / 3);
     for (const QString &word : words) {
         const int distance = editDistance(text.toLower(), word);
         if (distance <= bound) {

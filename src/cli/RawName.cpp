@@ -12,7 +12,7 @@ constexpr int LongestCharacter = 4; // bytes
 /** How many bytes make up the valid character at the front; 0 when there is none. */
 int characterLength(const QByteArray &bytes)
 {
-    for (int length = 1; length <= std::min(LongestCharacter, bytes.size()); ++length) {
+    for (int length = 1; length <= std::min(LongestCharacter, int(bytes.size())); ++length) {
         const QByteArray character = bytes.left(length);
         if (QString::fromUtf8(character).toUtf8() == character)
             return length;

@@ -66,7 +66,8 @@ void HusReader::readPalette(int count)
 /** Reads the next stream; a length that no integer holds is past the end of any file. */
 QByteArray HusReader::readStream(qint64 length)
 {
-    return readData(static_cast<int>(qBound<qint64>(-1, length, std::numeric_limits<int>::max())));
+    return readData(
+        static_cast<int>(qBound(qint64(-1), length, qint64(std::numeric_limits<int>::max()))));
 }
 
 QByteArray HusReader::husDecompressData(QByteArray *input, int size, int unused)

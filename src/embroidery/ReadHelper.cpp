@@ -50,7 +50,7 @@ void ReadHelper::setDevice(QIODevice *device)
     if (m_bytes.size() > MaximumSize)
         throw IOException(QStringLiteral("File is too large"));
     if (device && !device->isSequential())
-        m_cursor = static_cast<int>(qBound<qint64>(0, device->pos(), m_bytes.size()));
+        m_cursor = static_cast<int>(qBound(qint64(0), device->pos(), qint64(m_bytes.size())));
 }
 
 void ReadHelper::failAtEnd()

@@ -4,6 +4,7 @@
 #include "base/BuildConfig.h"
 #include "base/DI.h"
 #include "base/GDebug.h"
+#include "base/qt/Application.h"
 #include "online/services/GUrlProvider.h"
 
 #include <QCoreApplication>
@@ -54,7 +55,7 @@ void GApplicationAddons::basicInitialization()
     qputenv("QT_BEARER_POLL_TIMEOUT", "864000000");
     qputenv("QML_BAD_GUI_RENDER_LOOP", "yes");
     qputenv("QT_QUICK_BACKEND", "software");
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QtApplication::scaleWithScreens();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_UseDesktopOpenGL, false);

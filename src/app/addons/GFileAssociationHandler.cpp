@@ -9,7 +9,8 @@ void GFileAssociationHandler::registerCommand(const QString &, const QString &) 
 
 void GFileAssociationHandler::enableShellOpen() {}
 
-bool GFileAssociationHandler::nativeEventFilter(const QByteArray &, void *, long *)
+bool GFileAssociationHandler::nativeEventFilter(const QByteArray &, void *,
+                                                QtEvents::NativeResult *)
 {
     return false;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/qt/Events.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -18,5 +20,6 @@ public:
     virtual void enableShellOpen();
 
     /** True when the event is used up; false here. */
-    virtual bool nativeEventFilter(const QByteArray &eventType, void *message, long *result);
+    virtual bool nativeEventFilter(const QByteArray &eventType, void *message,
+                                   QtEvents::NativeResult *result);
 };

@@ -9,6 +9,7 @@
 #include "base/GDebug.h"
 #include "base/GSettings.h"
 #include "base/GTranslationLoader.h"
+#include "base/qt/Application.h"
 #include "online/BreakpadCrashHandler.h"
 #include "online/FeedbackDialog.h"
 #include "online/services/GUrlProvider.h"
@@ -44,7 +45,7 @@ GApplication::GApplication(int &argc, char **argv, const QString &applicationNam
         std::exit(EXIT_FAILURE);
     }
     BreakpadCrashHandler::install();
-    setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtApplication::useFinePixmaps();
     setQuitOnLastWindowClosed(false);
     prepareToQuit();
     createApplicationLevelActions();
@@ -73,7 +74,8 @@ GApplication *GApplication::instance()
     return qobject_cast<GApplication *>(QCoreApplication::instance());
 }
 
-bool GApplication::nativeEventFilter(const QByteArray &eventType, void *message, long *result)
+bool GApplication::nativeEventFilter(const QByteArray &eventType, void *message,
+                                     QtEvents::NativeResult *result)
 {
     bool taken = false;
     guarded(

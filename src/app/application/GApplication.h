@@ -3,6 +3,7 @@
 #include "app/addons/GApplicationAddons.h"
 #include "app/frame/GRecentFileProvider.h"
 #include "base/ErrorCollector.h"
+#include "base/qt/Events.h"
 
 #include <memory>
 #include <QAbstractNativeEventFilter>
@@ -73,7 +74,8 @@ public:
         return false;
     }
 
-    bool nativeEventFilter(const QByteArray &eventType, void *message, long *result) override;
+    bool nativeEventFilter(const QByteArray &eventType, void *message,
+                           QtEvents::NativeResult *result) override;
 
     void registerMainWindow(GMainWindow *window);
     void unregisterMainWindow(GMainWindow *window);

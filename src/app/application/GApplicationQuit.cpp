@@ -2,6 +2,7 @@
 
 #include "app/application/GApplication.h"
 #include "app/application/GMainWindow.h"
+#include "base/qt/Application.h"
 
 #include <algorithm>
 #include <chrono>
@@ -30,10 +31,8 @@ void GApplication::prepareToQuit()
     m_quitTimer.setSingleShot(true);
     m_quitTimer.setInterval(IdlePollInterval);
     connect(&m_quitTimer, &QTimer::timeout, this, &GApplication::quitWhenIdle);
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // A session whose end is called off must find its windows where they were.
-    setFallbackSessionManagementEnabled(false);
-#endif
+    QtApplication::keepWindowsAtSessionEnd<GApplication>();
 #ifndef QT_NO_SESSIONMANAGER
     connect(this, &QGuiApplication::commitDataRequest, this,
             [this](QSessionManager &manager) { guarded([&] { saveForSessionEnd(manager); }); });

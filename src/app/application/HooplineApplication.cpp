@@ -4,6 +4,7 @@
 #include "app/frame/GAction.h"
 #include "base/BuildConfig.h"
 #include "base/Error.h"
+#include "base/qt/Application.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/GlobalTracking.h"
 #include "online/metrics/Metrics.h"
@@ -42,7 +43,7 @@ HooplineApplication::HooplineApplication(int &argc, char **argv)
 {
     WidgetStyles::init();
     new DesktopColorScheme(this);
-    setAttribute(Qt::AA_DisableWindowContextHelpButton);
+    QtApplication::leaveOutHelpButtons();
     setWindowIcon(QIcon(QStringLiteral(":/hoopline-mac.png")));
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
     // There is no bundle that would have the documents beside the program.

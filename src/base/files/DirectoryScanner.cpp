@@ -32,7 +32,7 @@ void DirectoryScanner::setFilters(const QStringList &filters)
     setFilters(stringListToRegExp(filters));
 }
 
-void DirectoryScanner::setFilters(const QList<QRegExp> &filters)
+void DirectoryScanner::setFilters(const QList<WildcardPattern> &filters)
 {
     m_filters = filters;
 }
@@ -50,7 +50,7 @@ void DirectoryScanner::setExcludeFilters(const QStringList &filters)
     setExcludeFilters(stringListToRegExp(filters));
 }
 
-void DirectoryScanner::setExcludeFilters(const QList<QRegExp> &filters)
+void DirectoryScanner::setExcludeFilters(const QList<WildcardPattern> &filters)
 {
     m_excludeFilters = filters;
 }
@@ -188,11 +188,11 @@ QList<QFileInfo> DirectoryScanner::dirEntries(const QDir &dir) const
     return dirEntries(allEntries(dir));
 }
 
-QList<QRegExp> DirectoryScanner::stringListToRegExp(const QStringList &wildcards)
+QList<WildcardPattern> DirectoryScanner::stringListToRegExp(const QStringList &wildcards)
 {
-    QList<QRegExp> expressions;
+    QList<WildcardPattern> expressions;
     for (const QString &wildcard : wildcards)
-        expressions.append(QRegExp(wildcard, Qt::CaseInsensitive, QRegExp::Wildcard));
+        expressions.append(wildcardPattern(wildcard));
     return expressions;
 }
 
@@ -207,7 +207,9 @@ bool DirectoryScanner::passesFilters(const QString &path) const
     if (m_filters.isEmpty() && m_excludeFilters.isEmpty())
         return true;
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    const auto matches = [&absolute](const QRegExp &filter) { return filter.exactMatch(absolute); };
+    const auto matches = [&absolute](const WildcardPattern &filter) {
+        return filter.exactMatch(absolute);
+    };
     return (m_filters.isEmpty() || std::any_of(m_filters.begin(), m_filters.end(), matches)) &&
            std::none_of(m_excludeFilters.begin(), m_excludeFilters.end(), matches);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "base/files/FoundFiles.h"
+#include "base/files/WildcardPattern.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
-#include <QRegExp>
 #include <QString>
 #include <QStringList>
 
@@ -31,14 +31,14 @@ public:
 
     /** A file must match one of these; with none, all files are returned. */
     void setFilters(const QStringList &filters);
-    void setFilters(const QList<QRegExp> &filters);
+    void setFilters(const QList<WildcardPattern> &filters);
 
     /** Has only files of these extensions, given without dot, returned. */
     void setExtensions(const QStringList &extensions);
 
     /** A file that matches one of these is dropped. */
     void setExcludeFilters(const QStringList &filters);
-    void setExcludeFilters(const QList<QRegExp> &filters);
+    void setExcludeFilters(const QList<WildcardPattern> &filters);
 
     /** Bare names of folders that aren't entered. */
     void setExcludeDirs(const QStringList &names);
@@ -78,13 +78,13 @@ public:
 private:
     class Walk;
 
-    static QList<QRegExp> stringListToRegExp(const QStringList &wildcards);
+    static QList<WildcardPattern> stringListToRegExp(const QStringList &wildcards);
     bool isEntered(const QString &name) const;
     bool passesFilters(const QString &path) const;
 
-    QList<QRegExp> m_filters;
+    QList<WildcardPattern> m_filters;
     QStringList m_excludeDirs;
-    QList<QRegExp> m_excludeFilters;
+    QList<WildcardPattern> m_excludeFilters;
     bool m_returnHidden = false;
     IAbortCheck *m_abortCheck = nullptr;
     IProgressListener *m_progressListener = nullptr;

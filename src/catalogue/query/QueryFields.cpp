@@ -123,7 +123,7 @@ const QueryField *QueryFields::named(const QString &name)
     const auto field = std::find_if(all().begin(), all().end(), [&name](const QueryField &each) {
         return spellings(each).contains(name, Qt::CaseInsensitive);
     });
-    return field == all().end() ? nullptr : field;
+    return field == all().end() ? nullptr : &*field;
 }
 
 const QueryField *QueryFields::like(const QString &name)

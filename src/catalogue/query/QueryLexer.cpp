@@ -105,7 +105,10 @@ private:
     }
 
     /** Two of them inside marks stand for one. */
-    bool isDoubledMark() const { return m_query.midRef(m_position, 2) == QLatin1String("\"\""); }
+    bool isDoubledMark() const
+    {
+        return QStringView(m_query).mid(m_position, 2) == QLatin1String("\"\"");
+    }
 
     const QString &m_query;
     int m_position = 0;

@@ -93,7 +93,7 @@ void FileSyncTracking::endSync(int smartFolderCount, int fileCount)
            {{QStringLiteral("num smartfolders"), smartFolderCount},
             {QStringLiteral("num files"), fileCount}});
     m_sink(QStringLiteral("hl loader info"),
-           {{QStringLiteral("num files"), m_supportedFiles.size()},
+           {{QStringLiteral("num files"), int(m_supportedFiles.size())},
             {QStringLiteral("num errors"), m_errors},
             {QStringLiteral("rendered files"), m_renderedFiles},
             {QStringLiteral("rendered stitches"), m_renderedStitches},

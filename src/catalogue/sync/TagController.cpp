@@ -5,7 +5,6 @@
 #include "properties/undo/GUndoStack.h"
 #include <algorithm>
 #include <QFileInfo>
-#include <QRegExp>
 
 namespace {
 
@@ -16,7 +15,10 @@ QStringList wordsOfPath(const QString &path)
     QString text = path.toLower();
     const QString suffix = QLatin1Char('.') + QFileInfo(text).suffix();
     text.chop(suffix.size());
-    text.replace(QRegExp(QStringLiteral("[^a-z]")), QStringLiteral(" "));
+    for (QChar &c : text) {
+        if (c < QLatin1Char('a') || c > QLatin1Char('z'))
+            c = QLatin1Char(' ');
+    }
     QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     words.append(suffix);
     LocaleAwareFunctions::sort(words);

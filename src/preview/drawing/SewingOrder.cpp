@@ -148,5 +148,6 @@ int SewingOrder::useAt(int point) const
 {
     const auto endsBefore = [](const ThreadUse &use, int at) { return use.endPoint <= at; };
     const auto use = std::lower_bound(m_uses.begin(), m_uses.end(), point, endsBefore);
-    return m_uses.isEmpty() ? -1 : std::min(int(use - m_uses.begin()), m_uses.size() - 1);
+    return m_uses.isEmpty() ? -1
+                            : int(std::min<qsizetype>(use - m_uses.begin(), m_uses.size() - 1));
 }

@@ -162,7 +162,7 @@ void EditorGraphicsView::wheelEvent(QWheelEvent *event)
     QGraphicsView::wheelEvent(event);
 }
 
-void EditorGraphicsView::enterEvent(QEvent *event)
+void EditorGraphicsView::enterEvent(QtEvents::Enter *event)
 {
     QGraphicsView::enterEvent(event);
     if (m_scene != nullptr) {

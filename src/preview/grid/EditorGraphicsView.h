@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/qt/Events.h"
+
 #include <QGraphicsView>
 
 class EditorScene;
@@ -36,7 +38,7 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
-    void enterEvent(QEvent *event) override;
+    void enterEvent(QtEvents::Enter *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;

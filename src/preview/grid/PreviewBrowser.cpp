@@ -116,7 +116,7 @@ int PreviewBrowser::zoomPercent() const
 
 void PreviewBrowser::zoomIn()
 {
-    setZoomIndex(std::min(m_zoomIndex + 1, ScaleFactors.size() - 1));
+    setZoomIndex(std::min(m_zoomIndex + 1, int(ScaleFactors.size()) - 1));
 }
 
 void PreviewBrowser::zoomOut()

@@ -53,7 +53,7 @@ ContactSheet::ContactSheet(const SheetDesigns &designs, const SheetOptions &opti
 QVector<int> ContactSheet::group()
 {
     if (!m_options.folderHeadings)
-        return {m_designs.size()};
+        return {int(m_designs.size())};
     return m_designs.groupByFolder();
 }
 

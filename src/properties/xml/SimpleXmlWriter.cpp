@@ -44,17 +44,17 @@ void SimpleXmlWriter::addElement(const QString &name, const char *text)
 
 void SimpleXmlWriter::addElement(const QString &name, const QVariant &value)
 {
-    switch (int(value.type())) {
-    case QVariant::Bool:
-    case QVariant::Int:
-    case QVariant::String:
+    switch (value.userType()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::QString:
         addElement(name, value.toString());
         return;
-    case QVariant::Map:
+    case QMetaType::QVariantMap:
         startElement(name);
         addElementList(value.toMap());
         break;
-    case QVariant::Invalid:
+    case QMetaType::UnknownType:
         startElement(name);
         writeComment(QStringLiteral("invalid data"));
         break;

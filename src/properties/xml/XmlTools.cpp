@@ -1,6 +1,7 @@
 #include "properties/xml/XmlTools.h"
 
 #include "base/Error.h"
+#include "base/qt/TextEncoding.h"
 #include "properties/xml/XmlAttributeOrder.h"
 
 #include <QDomDocument>
@@ -186,7 +187,6 @@ static void writeElement(QXmlStreamWriter &writer, const QDomElement &element,
 
 void XmlTools::prepareWriter(QXmlStreamWriter &writer, int indent)
 {
-    writer.setCodec("UTF-8");
     writer.setAutoFormatting(true);
     writer.setAutoFormattingIndent(indent);
 }
@@ -238,7 +238,7 @@ QString XmlTools::xmlContent(const QDomElement &element)
 {
     QByteArray bytes;
     QTextStream stream(&bytes);
-    stream.setCodec("UTF-8");
+    QtTextEncoding::useUtf8(stream);
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling())
         child.save(stream, -1, QDomNode::EncodingFromTextStream);
     stream.flush();
