@@ -331,8 +331,10 @@ private slots:
         for (const QString &name : after)
             make(name);
 
-        const int moved = qMin(before.size(), after.size());
-        QCOMPARE(sync(), (QList<int>{after.size() - moved, 0, moved, before.size() - moved, 0}));
+        const int gone = int(before.size());
+        const int come = int(after.size());
+        const int moved = qMin(gone, come);
+        QCOMPARE(sync(), (QList<int>{come - moved, 0, moved, gone - moved, 0}));
         for (int i = 0; i < after.size(); ++i)
             QCOMPARE(file(after.at(i) + ".dst")->tags().join(' '), tagged.at(i));
     }
