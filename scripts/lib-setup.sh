@@ -11,6 +11,12 @@ build_packages=(
     qtbase5-dev libqt5sql5-sqlite libqt5svg5-dev qttools5-dev qttools5-dev-tools
     qttranslations5-l10n libdeflate-dev lowdown file dpkg-dev)
 
+# What is needed besides to build against Qt 6.
+# shellcheck disable=SC2034 # for those who source this
+qt6_packages=(
+    qt6-base-dev libqt6sql6-sqlite libqt6svg6-dev libqt6core5compat6-dev
+    qt6-tools-dev qt6-translations-l10n)
+
 # A home that holds no compiler cache yet gets none from here: it lies in the build folder.
 if [ -z "${CCACHE_DIR:-}" ] && [ ! -d "${XDG_CACHE_HOME:-${HOME:-/}/.cache}/ccache" ] &&
     [ ! -d "${HOME:-/}/.ccache" ]; then
