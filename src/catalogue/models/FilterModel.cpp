@@ -106,19 +106,25 @@ void FilterModel::putInOrder() const
     if (!m_nameOrderIsValid) {
         m_filesByName = m_watchedFiles;
         LocaleAwareFunctions::sort(m_filesByName);
+        QHash<const IFile *, int> indexes;
+        indexes.reserve(m_watchedFiles.count());
+        for (int i = 0; i < m_watchedFiles.count(); ++i)
+            indexes.insert(m_watchedFiles.at(i).data(), i);
+        m_nameOrder.clear();
+        for (const QSharedPointer<IFile> &file : qAsConst(m_filesByName))
+            m_nameOrder.push_back(indexes.value(file.data()));
         m_nameOrderIsValid = true;
+        m_orderIsValid = false;
     }
     if (m_orderIsValid)
         return;
-    m_orderedFiles = m_sortOrder.sorted(m_filesByName);
-    QHash<const IFile *, int> indexes;
-    indexes.reserve(m_watchedFiles.count());
-    for (int i = 0; i < m_watchedFiles.count(); ++i)
-        indexes.insert(m_watchedFiles.at(i).data(), i);
-    m_order.clear();
-    m_order.reserve(std::size_t(m_orderedFiles.count()));
-    for (const QSharedPointer<IFile> &file : qAsConst(m_orderedFiles))
-        m_order.push_back(indexes.value(file.data()));
+    m_order = m_sortOrder.order(m_filesByName);
+    m_orderedFiles.clear();
+    m_orderedFiles.reserve(m_filesByName.count());
+    for (int &index : m_order) {
+        m_orderedFiles.append(m_filesByName.at(index));
+        index = m_nameOrder[std::size_t(index)];
+    }
     m_orderIsValid = true;
 }
 

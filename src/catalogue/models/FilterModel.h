@@ -76,6 +76,7 @@ private:
 
     // Put in order only when somebody asks after a change.
     mutable QList<QSharedPointer<IFile>> m_filesByName;
+    mutable std::vector<int> m_nameOrder; ///< likewise, as indexes in m_watchedFiles
     mutable bool m_nameOrderIsValid = false;
     mutable QList<QSharedPointer<IFile>> m_orderedFiles;
     mutable std::vector<int> m_order; ///< indexes in m_watchedFiles, parallel to m_orderedFiles

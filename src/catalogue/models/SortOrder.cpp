@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <QHash>
 #include <utility>
 #include <vector>
@@ -113,13 +114,14 @@ QString SortOrder::toText() const
     return keyNames().at(key) + (descending ? Descending : QString());
 }
 
-Files SortOrder::sorted(const Files &byName) const
+std::vector<int> SortOrder::order(const Files &byName) const
 {
-    Files files = byName;
+    std::vector<int> indexes(std::size_t(byName.count()));
     if (key == Name) {
+        std::iota(indexes.begin(), indexes.end(), 0);
         if (descending)
-            std::reverse(files.begin(), files.end());
-        return files;
+            std::reverse(indexes.begin(), indexes.end());
+        return indexes;
     }
     const Values values = sortValues(key, byName);
     std::vector<std::pair<double, int>> keyed;
@@ -128,7 +130,7 @@ Files SortOrder::sorted(const Files &byName) const
         keyed.emplace_back(descending && value != Unknown ? -value : value, int(keyed.size()));
     // The index that comes second keeps what is equal in its order.
     std::sort(keyed.begin(), keyed.end());
-    std::transform(keyed.begin(), keyed.end(), files.begin(),
-                   [&byName](const auto &entry) { return byName.at(entry.second); });
-    return files;
+    std::transform(keyed.begin(), keyed.end(), indexes.begin(),
+                   [](const auto &entry) { return entry.second; });
+    return indexes;
 }

@@ -5,6 +5,7 @@
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 class IFile;
 
@@ -31,10 +32,10 @@ struct SortOrder
     static QStringList keyNames();
 
     /**
-     * @p byName, which is in natural order of the paths, in this order. What is equal stays
-     * in natural order; what isn't known comes last, whichever the way.
+     * @p byName, which is in natural order of the paths, in this order, as indexes in it. What
+     * is equal stays in natural order; what isn't known comes last, whichever the way.
      */
-    QList<QSharedPointer<IFile>> sorted(const QList<QSharedPointer<IFile>> &byName) const;
+    std::vector<int> order(const QList<QSharedPointer<IFile>> &byName) const;
 
     bool operator==(const SortOrder &other) const
     {
