@@ -36,7 +36,6 @@ QString digest(const QString &text)
 
 QString GSettings::mIniFile;
 bool GSettings::mReadOnly = false;
-QString GSettings::mSweptFile;
 
 static std::unique_ptr<QSettings> openStore(const QString &iniFile)
 {
@@ -53,13 +52,22 @@ static std::unique_ptr<QSettings> openStore(const QString &iniFile)
 
 GSettings::GSettings() : m_settings(openStore(mIniFile))
 {
-    if (!mReadOnly && mSweptFile != fileName()) {
-        mSweptFile = fileName();
-        SettingsLeftovers::remove(mSweptFile);
-    }
+    sweep(fileName());
 }
 
-GSettings::~GSettings() = default;
+GSettings::~GSettings()
+{
+    const QString file = fileName();
+    m_settings.reset();
+    sweep(file);
+}
+
+/** A lock that the disk did not let go of would keep the next who writes waiting for it. */
+void GSettings::sweep(const QString &file)
+{
+    if (!mReadOnly)
+        SettingsLeftovers::remove(file);
+}
 
 QString GSettings::fileName() const
 {
@@ -111,6 +119,7 @@ void GSettings::endGroup()
 void GSettings::sync()
 {
     m_settings->sync();
+    sweep(fileName());
 }
 
 void GSettings::flushSettings(const QStringList &keep)

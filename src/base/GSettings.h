@@ -101,8 +101,9 @@ public:
     void setTreatmentForTest(const QString &name, int value);
 
 private:
+    static void sweep(const QString &file);
+
     static QString mIniFile;
     static bool mReadOnly;
-    static QString mSweptFile; ///< beside which no leftovers are any more
     std::unique_ptr<QSettings> m_settings;
 };

@@ -1,7 +1,6 @@
 #include "base/GGlobalIgnoreList.h"
 #include "base/GlobalSettings.h"
 #include "base/SettingsFormat.h"
-#include "base/SettingsLeftovers.h"
 #include "support/CatalogueFolder.h"
 #include "support/FullDisk.h"
 #include "support/Rows.h"
@@ -263,6 +262,10 @@ private slots:
             true);
         row("killed while it signed", "1\norganizer\nelsew", false, true);
         row("killed before that", "", false, true);
+        row("could not let go of it",
+            QByteArray::number(QCoreApplication::applicationPid()) + "\ntst_settings\n" + host +
+                '\n',
+            false, true);
         row("still at it", {}, true, false);
         row("a copy of one's own", {}, false, false);
     }
@@ -276,6 +279,9 @@ private slots:
             QFile file(path);
             return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
         };
+        GSettings::setIniFile(settings);
+        // What is left behind later matters as well.
+        GSettings().sync();
         QLockFile held(settings + ".lock");
         if (isRunning)
             QVERIFY(held.lock());
@@ -283,7 +289,7 @@ private slots:
             QVERIFY(write(settings + ".lock", lock));
         QVERIFY(write(settings + ".backup", "[General]\n"));
 
-        SettingsLeftovers::remove(settings);
+        GSettings().sync();
         QFETCH(bool, isRemoved);
         QCOMPARE(QFile::exists(settings + ".backup"), !isRemoved);
         QCOMPARE(QFile::exists(settings + ".lock"), isRunning);
