@@ -71,6 +71,7 @@ endfunction()
 function(hoopline_benchmark name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests"
+        "${PROJECT_SOURCE_DIR}/bench")
     target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} Qt::Test hoopline_options)
 endfunction()

@@ -274,7 +274,7 @@ void ProjectController::synchronise()
     if (sync.numChangedFiles() == 0)
         return;
     if (m_memory)
-        m_memory->giveBack(newcomers(readBefore, m_project->files()));
+        m_memory->giveBack(newcomers(readBefore, m_project->files()), *m_listener);
     m_project->undoStack()->resetClean();
     PreviewCache::instance().clear();
 }

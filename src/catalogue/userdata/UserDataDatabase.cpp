@@ -5,12 +5,13 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSet>
 #include <QSqlQuery>
 
 namespace {
 
 constexpr int SchemaVersion = 1;
+// Asking for each is cheaper than looking through all that is known.
+constexpr int FewNewcomers = 100;
 
 const QString AllTags = QStringLiteral("tags");
 const QString SmartFolders = QStringLiteral("folders");
@@ -211,13 +212,15 @@ UserDataChanges UserDataDatabase::lists()
 QVector<UserData> UserDataDatabase::recall(const QVector<UserData> &newcomers)
 {
     QVector<UserData> known;
-    if (m_sql.value("SELECT 1 FROM designs LIMIT 1").isNull())
-        return known;
+    const QSet<QString> hashes =
+        newcomers.size() > FewNewcomers ? writtenHashes() : QSet<QString>();
     const QByteArray written =
         QByteArray("SELECT hash, path, tags, notes, favorite FROM designs WHERE hash = ? AND ") +
         IsWritten + " ORDER BY path = ? DESC, id DESC LIMIT 1";
     QSqlQuery query = m_sql.prepare(written);
     for (const UserData &newcomer : newcomers) {
+        if (newcomers.size() > FewNewcomers && !hashes.contains(newcomer.contentHash))
+            continue;
         m_sql.run(query, {notNull(newcomer.contentHash), newcomer.path});
         if (!query.next())
             continue;
@@ -230,6 +233,18 @@ QVector<UserData> UserDataDatabase::recall(const QVector<UserData> &newcomers)
         known.append(design);
     }
     return known;
+}
+
+/** Of the designs that anything is written to. */
+QSet<QString> UserDataDatabase::writtenHashes()
+{
+    QSet<QString> hashes;
+    QSqlQuery query =
+        m_sql.prepare(QByteArray("SELECT DISTINCT hash FROM designs WHERE ").append(IsWritten));
+    m_sql.run(query);
+    while (query.next())
+        hashes.insert(query.value(0).toString());
+    return hashes;
 }
 
 int UserDataDatabase::absentDesigns()

@@ -5,6 +5,7 @@
 #include "catalogue/userdata/UserDataConnection.h"
 
 #include <QByteArray>
+#include <QSet>
 #include <QVariant>
 
 /**
@@ -61,6 +62,7 @@ private:
     void writeLists(const UserDataChanges &changes);
     void writeList(const QString &name, const QStringList &entries);
     QStringList list(const QString &name);
+    QSet<QString> writtenHashes();
     void writeState(const QString &key, const QVariant &state);
     QVariant state(const QString &key);
 

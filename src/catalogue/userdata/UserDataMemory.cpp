@@ -1,6 +1,7 @@
 #include "catalogue/userdata/UserDataMemory.h"
 
 #include "base/GDebug.h"
+#include "base/IProgressAbortListener.h"
 #include "catalogue/userdata/RememberedData.h"
 #include "catalogue/userdata/UserDataStore.h"
 #include "catalogue/userdata/UserDataTracker.h"
@@ -11,6 +12,10 @@
 #include <QSet>
 
 namespace {
+
+constexpr std::chrono::milliseconds BetweenLooks(20);
+// A millisecond's work.
+constexpr int DesignsPerStep = 500;
 
 /** Tells @p list what it lacks of @p others; the order of those that are there stays. */
 QStringList united(QStringList list, const QStringList &others)
@@ -155,7 +160,8 @@ void UserDataMemory::settle(const Digest &catalogue)
     m_store->settle(catalogue);
 }
 
-int UserDataMemory::giveBack(const QList<QSharedPointer<IFile>> &newcomers)
+int UserDataMemory::giveBack(const QList<QSharedPointer<IFile>> &newcomers,
+                             IProgressAbortListener &listener)
 {
     if (newcomers.isEmpty())
         return 0;
@@ -168,12 +174,19 @@ int UserDataMemory::giveBack(const QList<QSharedPointer<IFile>> &newcomers)
         newcomer.contentHash = file->contentHashProp()->value();
         asked.append(newcomer);
         byPath.insert(newcomer.path, file);
+        if (asked.size() % DesignsPerStep == 0)
+            listener.stayResponsive();
     }
-    const QVector<UserData> recalled = m_store->recall(asked);
+    auto answer = m_store->recall(asked);
+    while (answer.wait_for(BetweenLooks) != std::future_status::ready)
+        listener.stayResponsive();
+    const QVector<UserData> recalled = answer.get();
     QStringList tags;
-    for (const UserData &data : recalled) {
-        write(data, *byPath.value(data.path));
-        tags += data.tags;
+    for (int i = 0; i < recalled.size(); ++i) {
+        write(recalled.at(i), *byPath.value(recalled.at(i).path));
+        tags += recalled.at(i).tags;
+        if (i % DesignsPerStep == 0)
+            listener.stayResponsive();
     }
     addTags(tags);
     return recalled.size();

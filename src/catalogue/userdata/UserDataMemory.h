@@ -10,6 +10,7 @@
 #include <QList>
 #include <QSharedPointer>
 
+class IProgressAbortListener;
 class RememberedData;
 class UserDataStore;
 class UserDataTracker;
@@ -68,8 +69,9 @@ public:
     /**
      * Gives those @p newcomers to the project whose content, or place and content, was known
      * before what was written to them, not undoably. Returns how many got anything.
+     * @param listener stays responsive meanwhile; nobody can stop it, as it would be lost
      */
-    int giveBack(const QList<QSharedPointer<IFile>> &newcomers);
+    int giveBack(const QList<QSharedPointer<IFile>> &newcomers, IProgressAbortListener &listener);
 
     /** Number of designs that are remembered without being in the catalogue. */
     int absentDesigns();

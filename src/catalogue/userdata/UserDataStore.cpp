@@ -99,10 +99,15 @@ UserDataChanges UserDataStore::lists()
     return ask<UserDataChanges>([](UserDataDatabase &database) { return database.lists(); });
 }
 
-QVector<UserData> UserDataStore::recall(const QVector<UserData> &newcomers)
+std::future<QVector<UserData>> UserDataStore::recall(const QVector<UserData> &newcomers)
 {
-    return ask<QVector<UserData>>(
-        [&](UserDataDatabase &database) { return database.recall(newcomers); });
+    const auto recalled = std::make_shared<std::promise<QVector<UserData>>>();
+    QMetaObject::invokeMethod(&m_worker, [this, newcomers, recalled] {
+        QVector<UserData> known;
+        answer([&](UserDataDatabase &database) { known = database.recall(newcomers); });
+        recalled->set_value(known);
+    });
+    return recalled->get_future();
 }
 
 int UserDataStore::absentDesigns()
@@ -160,18 +165,20 @@ void UserDataStore::tell(Task task)
 template <class Answer, class Question>
 Answer UserDataStore::ask(Question question)
 {
-    Answer answer{};
+    Answer result{};
     QMetaObject::invokeMethod(
         &m_worker,
-        [&] {
-            work();
-            const Task task = [&](UserDataDatabase &database) { answer = question(database); };
-            // Nobody asks again; a moment's trouble shall not pass for an answer.
-            if (!attempt(task))
-                attempt(task);
-        },
+        [&] { answer([&](UserDataDatabase &database) { result = question(database); }); },
         Qt::BlockingQueuedConnection);
-    return answer;
+    return result;
+}
+
+void UserDataStore::answer(const Task &question)
+{
+    work();
+    // Nobody asks again; a moment's trouble shall not pass for an answer.
+    if (!attempt(question))
+        attempt(question);
 }
 
 void UserDataStore::open()

@@ -62,8 +62,8 @@ public:
     /** The lists of tags and folders as they were last. */
     UserDataChanges lists();
 
-    /** See UserDataDatabase::recall(). */
-    QVector<UserData> recall(const QVector<UserData> &newcomers);
+    /** See UserDataDatabase::recall(). Nobody has to wait for it, unlike for what else is asked. */
+    std::future<QVector<UserData>> recall(const QVector<UserData> &newcomers);
 
     int absentDesigns();
 
@@ -100,6 +100,7 @@ private:
     void tell(Task task);
     template <class Answer, class Question>
     Answer ask(Question question);
+    void answer(const Task &question);
     void open();
     void work();
     bool attempt(const Task &task);
