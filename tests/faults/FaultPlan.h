@@ -34,4 +34,10 @@ struct FaultPlan
 
     /** Calls until now that can fail in this way. */
     std::atomic<int> calls;
+
+    /**
+     * Whether the process gets a SIGTERM as soon as it has a handler for it, and another one
+     * at each message of its window after the first failure. No call fails from then on.
+     */
+    std::atomic<bool> ends;
 };

@@ -1,24 +1,10 @@
 #include "faults/FaultyProcess.h"
 
 #include <algorithm>
-#include <csignal>
-#include <QDeadlineTimer>
 
 namespace {
 
 constexpr int PatienceMs = 30000;
-constexpr int PollMs = 2;
-constexpr int QuestionMs = 200;
-
-/** Whether the process has a handler for the signal. */
-bool catches(qint64 process, int signal)
-{
-    const QByteArray status = Profile::read(QStringLiteral("/proc/%1/status").arg(process));
-    const QByteArray mark("SigCgt:");
-    const int at = status.indexOf(mark);
-    const QByteArray digits = status.mid(at + mark.size(), 17).trimmed();
-    return at >= 0 && (digits.toULongLong(nullptr, 16) >> (signal - 1) & 1);
-}
 
 } // namespace
 
@@ -59,28 +45,8 @@ bool FaultyProcess::waitForEnd()
     return false;
 }
 
-void FaultyProcess::endOnceStarted()
+void FaultyProcess::startAndEnd(const QString &organizer)
 {
-    // A test that is about to become the organizer is there for signals, too.
-    waitForStarted();
-    // It is there for them before its window is, and makes that before it ends.
-    const QDeadlineTimer deadline(PatienceMs);
-    while (!deadline.hasExpired() && state() != NotRunning && !waitForFinished(PollMs) &&
-           !catches(processId(), SIGTERM)) {
-    }
-    terminate();
-    while (!deadline.hasExpired() && state() != NotRunning && !waitForFinished(QuestionMs)) {
-        // It may ask whether to end without having saved. Somebody has made room meanwhile.
-        if (m_plan->struck && m_plan->error != FaultPlan::Kill) {
-            m_plan->error = FaultPlan::Never;
-            if (catches(processId(), SIGTERM))
-                terminate();
-        }
-    }
-}
-
-bool FaultyProcess::wasKilled() const
-{
-    // One that is about to end does not mind being asked once more.
-    return exitStatus() == CrashExit && exitCode() != SIGTERM;
+    m_plan->ends = true;
+    start(organizer, QStringList());
 }

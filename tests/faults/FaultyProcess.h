@@ -25,13 +25,12 @@ public:
     bool waitForEnd();
 
     /**
-     * The organizer starts, and is asked to end once it has. A disk that keeps it from ending
-     * in good order gets well again.
+     * Starts the organizer, which is asked to end once it has started. A disk that makes it
+     * ask something gets well again.
      */
-    void endOnceStarted();
+    void startAndEnd(const QString &organizer);
 
-    /** But not by being asked to end. */
-    bool wasKilled() const;
+    bool wasKilled() const { return exitStatus() == CrashExit; }
     /** Of a process that was not killed. */
     int status() const { return exitCode(); }
 

@@ -196,6 +196,12 @@ ssize_t writeAtWith(const char *name, int descriptor, const void *bytes, size_t 
     return real(size);
 }
 
+/** The user wants the process to end, whatever signals do to it. */
+void askToEnd()
+{
+    kill(getpid(), SIGTERM);
+}
+
 /** Of a call that changes something and tells by 0 that it went well. */
 template <class Call>
 int changed(bool mine, DiskCall kind, Call call)
@@ -336,6 +342,30 @@ int unlink(const char *path) noexcept
 {
     return changed(isWatched(AT_FDCWD, path), DiskCall::Remove,
                    [&] { return next<int(const char *)>("unlink")(path); });
+}
+
+int sigaction(int signal, const struct sigaction *action, struct sigaction *before) noexcept
+{
+    using Call = int(int, const struct sigaction *, struct sigaction *);
+    const int result = next<Call>("sigaction")(signal, action, before);
+    const bool handled = action && action->sa_handler != SIG_DFL && action->sa_handler != SIG_IGN;
+    if (result == 0 && signal == SIGTERM && handled && plan && plan->ends)
+        askToEnd();
+    return result;
+}
+
+// QMessageBox::setInformativeText(), with which the organizer makes each of its messages.
+#define MESSAGE_CALL "_ZN11QMessageBox18setInformativeTextERK7QString"
+void setInformativeText(void *box, const void *text) asm(MESSAGE_CALL);
+
+void setInformativeText(void *box, const void *text)
+{
+    next<void(void *, const void *)>(MESSAGE_CALL)(box, text);
+    if (!plan || !plan->ends || !plan->struck)
+        return;
+    // Whoever is asked has made room meanwhile.
+    plan->error = FaultPlan::Never;
+    askToEnd();
 }
 
 } // extern "C"

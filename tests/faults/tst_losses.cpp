@@ -70,9 +70,10 @@ private:
 int LossesTest::run(const QString &program, const QStringList &arguments, const Fault &fault)
 {
     FaultyProcess process(*m_profile, fault);
-    process.start(program, arguments);
     if (program == QLatin1String(ORGANIZER))
-        process.endOnceStarted();
+        process.startAndEnd(program);
+    else
+        process.start(program, arguments);
     const bool ended = process.waitForEnd();
     m_said = process.readAllStandardOutput() + process.readAllStandardError();
     return ended && !process.wasKilled() ? process.status() : -1;
