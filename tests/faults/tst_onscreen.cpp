@@ -50,9 +50,15 @@ private slots:
     void endsLoseNothing_data();
     void endsLoseNothing();
     void fullDiskAtTheEnd();
+    void removedTagsStayRemoved();
+    void undoneNotesAreEachTheirOwn();
+    void scanGoesOnBesideAnUnreadableDesign();
 
 private:
+    void run(const QString &program, const QStringList &arguments);
+    void scan(int designs);
     void open(int designs);
+    void click(int x, int y);
     void setStars();
     void goElsewhere();
     void comeBack();
@@ -93,16 +99,25 @@ void OnScreenTest::cleanup()
     m_profile.reset();
 }
 
-void OnScreenTest::open(int designs)
+void OnScreenTest::run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessEnvironment(m_profile->environment());
+    process.start(program, arguments);
+    QVERIFY2(process.waitForFinished() && process.exitCode() == 0, process.readAllStandardError());
+}
+
+void OnScreenTest::scan(int designs)
 {
     for (int i = 0; i < designs; ++i)
         QVERIFY(DstDesign::square("Rose", 20 + i)
                     .writeTo(m_profile->designs() + QStringLiteral("/%1.dst").arg(i)));
-    QProcess scan;
-    scan.setProcessEnvironment(m_profile->environment());
-    scan.start(QStringLiteral(CLI), {QStringLiteral("scan"), m_profile->designs()});
-    QVERIFY(scan.waitForFinished() && scan.exitCode() == 0);
+    run(CLI, {QStringLiteral("scan"), m_profile->designs()});
+}
 
+void OnScreenTest::open(int designs)
+{
+    scan(designs);
     m_organizer = std::make_unique<FaultyProcess>(*m_profile, Fault{FaultPlan::Never, 1, true});
     m_organizer->start(QStringLiteral(ORGANIZER), QStringList());
     QVERIFY(m_organizer->waitForStarted());
@@ -117,11 +132,18 @@ void OnScreenTest::open(int designs)
     QTRY_VERIFY_WITH_TIMEOUT(!(m_window = xdotool(search)).isEmpty(), PatienceMs);
 }
 
+/** In the main window, which gets the keyboard. */
+void OnScreenTest::click(int x, int y)
+{
+    xdotool({"windowactivate", "--sync", m_window});
+    xdotool(
+        {"mousemove", "--window", m_window, QString::number(x), QString::number(y), "click", "1"});
+}
+
 /** Of all designs. */
 void OnScreenTest::setStars()
 {
-    xdotool({"windowactivate", "--sync", m_window});
-    xdotool({"mousemove", "--window", m_window, "512", "400", "click", "1"});
+    click(512, 400);
     xdotool({"key", "ctrl+a", "f"});
 }
 
@@ -250,10 +272,7 @@ void OnScreenTest::endsLoseNothing()
     QCOMPARE(m_organizer->exitStatus() == QProcess::NormalExit && m_organizer->status() == 0,
              inGoodOrder);
     QCOMPARE(stars(), inGoodOrder ? Designs : 0);
-    QProcess scan;
-    scan.setProcessEnvironment(m_profile->environment());
-    scan.start(QStringLiteral(CLI), {QStringLiteral("scan")});
-    QVERIFY(scan.waitForFinished() && scan.exitCode() == 0);
+    run(CLI, {QStringLiteral("scan")});
     QCOMPARE(stars(), Designs);
 }
 
@@ -277,6 +296,69 @@ void OnScreenTest::fullDiskAtTheEnd()
     QVERIFY(m_organizer->waitForEnd());
     QCOMPARE(m_organizer->status(), 0);
     QCOMPARE(stars(), Designs);
+}
+
+void OnScreenTest::removedTagsStayRemoved()
+{
+    scan(Designs);
+    const QString design = m_profile->designs() + QStringLiteral("/0.dst");
+    for (const char *command : {"add", "remove"})
+        run(CLI, {"tag", command, "unused", design});
+    const auto isThere = [this] { return m_profile->catalogue().contains("<string>unused"); };
+    QVERIFY(isThere());
+    open(Designs);
+    if (QTest::currentTestFailed())
+        return;
+    // Below the tags, and two buttons back from their list.
+    click(100, 540);
+    xdotool({"key", "shift+Tab", "shift+Tab", "space"});
+    QTRY_VERIFY_WITH_TIMEOUT(isAnotherActive(), PatienceMs);
+    xdotool({"key", "alt+y"});
+    QTRY_VERIFY_WITH_TIMEOUT(!isAnotherActive(), PatienceMs);
+    xdotool({"key", "ctrl+q"});
+    QVERIFY(m_organizer->waitForEnd());
+    QVERIFY(!isThere());
+}
+
+void OnScreenTest::undoneNotesAreEachTheirOwn()
+{
+    scan(2);
+    run(EDITOR, {"begin"});
+    const auto words = Profile::wordsIn(m_profile->catalogue());
+    QVERIFY(words["0.dst"] != words["1.dst"]);
+    open(2);
+    if (QTest::currentTestFailed())
+        return;
+    click(512, 400);
+    xdotool({"key", "ctrl+a"});
+    // The notes.
+    click(908, 250);
+    xdotool({"key", "ctrl+z", "x"});
+    QTRY_COMPARE_WITH_TIMEOUT(unsavedEdits(), 2, PatienceMs);
+    xdotool({"key", "ctrl+z", "ctrl+z", "ctrl+q"});
+    QVERIFY(m_organizer->waitForEnd());
+    QCOMPARE(Profile::wordsIn(m_profile->catalogue()), words);
+}
+
+void OnScreenTest::scanGoesOnBesideAnUnreadableDesign()
+{
+    open(Designs);
+    if (QTest::currentTestFailed())
+        return;
+    const QDir designs(m_profile->designs());
+    // Cannot be read, whoever reads it.
+    QVERIFY(QFile::link(QStringLiteral("/proc/self/mem"), designs.filePath("locked.dst")));
+    QVERIFY(DstDesign::square("Rose", 60).writeTo(designs.filePath("new.dst")));
+    click(512, 400);
+    xdotool({"key", "F5"});
+    QTRY_VERIFY_WITH_TIMEOUT(m_profile->catalogue().contains("new.dst"), PatienceMs);
+    // It is told, and then the window shows what is changed.
+    QTRY_VERIFY_WITH_TIMEOUT(isAnotherActive(), PatienceMs);
+    xdotool({"key", "Return"});
+    QTRY_VERIFY_WITH_TIMEOUT(!isAnotherActive(), PatienceMs);
+    setStars();
+    goElsewhere();
+    QTRY_COMPARE_WITH_TIMEOUT(stars(), Designs + 2, PatienceMs);
 }
 
 QTEST_MAIN(OnScreenTest)
