@@ -210,6 +210,13 @@ SCENES = [
             ),
             *(saved_search(text) for text in SEARCHES),
             Shot(
+                "sort",
+                ["press Escape", "menu &View > &Sort by >"],
+                Popup("DROPDOWN_MENU", 2),
+                differs={"searches": "unfiltered"},
+                then=["press Escape Escape Escape"],
+            ),
+            Shot(
                 "search",
                 ["press ctrl+f ctrl+a", "type color:red width:<60"],
                 differs={"grid": "no-match", "searches": "unfiltered"},

@@ -5,6 +5,7 @@
 #include "base/GlobalSettings.h"
 #include "catalogue/backups/BackupFolder.h"
 #include "catalogue/models/FilterSelectionModel.h"
+#include "catalogue/userdata/RememberedValues.h"
 #include "online/FeedbackDialog.h"
 #include "online/metrics/Metrics.h"
 #include "online/UpdateDialog.h"
@@ -158,6 +159,7 @@ private:
 
     QTemporaryDir m_directory;
     std::unique_ptr<FilterSelectionModel> m_models;
+    RememberedValues m_values;
     std::unique_ptr<QWidget> m_shown;
 };
 
@@ -199,7 +201,7 @@ QWidget *tst_accessibility::designWindow()
     DstDesign::square().writeTo(path);
     const auto project = projectWithFiles({path});
     m_models = std::make_unique<FilterSelectionModel>(project);
-    auto *window = new DesignWindow(m_models->filter());
+    auto *window = new DesignWindow(m_models->filter(), &m_values);
     window->open(project->files().first());
     if (!QTest::qWaitFor([window] { return window->findChild<PlaybackBar *>()->isEnabled(); }))
         qFatal("the design is not read");

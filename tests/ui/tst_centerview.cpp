@@ -1,6 +1,7 @@
 #include "PanelFixture.h"
 
 #include "catalogue/models/FilterSelectionModel.h"
+#include "catalogue/userdata/RememberedValues.h"
 #include "support/Rows.h"
 #include "ui/CenterView.h"
 
@@ -26,7 +27,8 @@ private slots:
         const QTemporaryDir folder;
         const QSharedPointer<Project> project = projectOfSize(designs);
         FilterSelectionModel models(project);
-        CenterView center(nullptr, project, &models);
+        RememberedValues values;
+        CenterView center(nullptr, project, &models, &values);
         center.resize(600, 500);
         center.show();
         QVERIFY(QTest::qWaitForWindowExposed(&center));

@@ -16,6 +16,7 @@ enum Column { ColorColumn, NameColumn, ChartColumn };
 
 constexpr int ColorColumnWidth = 30;
 constexpr int RowHeight = 30;
+constexpr int LeastNameWidth = 60;
 
 } // namespace
 
@@ -92,7 +93,10 @@ void ColorsBox::fitColumns()
     const int chart =
         qMax(view->sizeHintForColumn(ChartColumn), m_tree->header()->sectionSizeHint(ChartColumn));
     const int room = m_tree->viewport()->width() - ColorColumnWidth;
-    const int name = qMax(room - chart, m_tree->header()->sectionSizeHint(NameColumn));
+    // Where there is nothing to read but the captions, they are whole.
+    const bool isEmpty = m_tree->topLevelItemCount() == 0;
+    const int least = isEmpty ? m_tree->header()->sectionSizeHint(NameColumn) : LeastNameWidth;
+    const int name = qMax(room - chart, least);
     if (m_tree->columnWidth(NameColumn) > name)
         m_tree->setColumnWidth(NameColumn, name);
 }
