@@ -4,6 +4,7 @@
 #include "catalogue/models/FilterModel.h"
 #include "catalogue/models/FilterSelectionModel.h"
 #include "catalogue/models/ISelectionModel.h"
+#include "catalogue/userdata/RememberedValues.h"
 #include "ui/CenterView.h"
 #include "ui/panels/PropertiesBox.h"
 #include "ui/panels/TagLabel.h"
@@ -99,7 +100,8 @@ void bench_panels::removeShownTag()
     for (const QSharedPointer<IFile> &file : qAsConst(m_selection))
         file->tagsProp()->setValueWithoutUndoAndAnnounceChange({tag});
     FilterSelectionModel models(m_project);
-    CenterView center(nullptr, m_project, &models);
+    RememberedValues values;
+    CenterView center(nullptr, m_project, &models, &values);
     RightSidebar right(nullptr, m_project, models.selection());
     center.show();
     right.show();
