@@ -2378,7 +2378,7 @@ Optionen:
     </message>
     <message>
         <source>Type a search above the designs and save it to find it here.</source>
-        <translation>Eine Suche, die über den Stickmustern eingegeben und gespeichert wird, steht hier.</translation>
+        <translation>Suche oben eingeben und hier speichern.</translation>
     </message>
     <message>
         <source>Remove the saved search &apos;%1&apos;?</source>
